@@ -1,0 +1,7 @@
+#include "framework/KORDiagnostic.h"
+
+#include <iostream>
+
+void KORDiagnosticLine(const char* text) {
+    std::cout << text << std::endl;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "framework/KORBaseUnknown.h"
+
+/// Base of a platform object that implements interfaces I... itself, without bindings: the operations of
+/// KORIUnknown that every I brings along are forwarded once, here, to the one counted implementation.
+template <class... I>
+class KORImplements : public KORBaseUnknown, public I... {
+public:
+    HRESULT QueryInterface(KORIID iid, void** out) final { return KORBaseUnknown::QueryInterface(iid, out); }
+    std::uint32_t AddRef() final { return KORBaseUnknown::AddRef(); }
+    std::uint32_t Release() final { return KORBaseUnknown::Release(); }
+    HRESULT GetTypeInfoCount(std::uint32_t* count) final { return KORBaseUnknown::GetTypeInfoCount(count); }
+    HRESULT GetTypeInfo(std::uint32_t index, std::uint32_t locale, void** info) final {
+        return KORBaseUnknown::GetTypeInfo(index, locale, info);
+    }
+    HRESULT GetIDsOfNames(const char* const* names, std::uint32_t count, std::int32_t* ids) final {
+        return KORBaseUnknown::GetIDsOfNames(names, count, ids);
+    }
+    HRESULT Invoke(std::int32_t id, void* arguments, void* result) final {
+        return KORBaseUnknown::Invoke(id, arguments, result);
+    }
+
+protected:
+    void* OwnInterface(KORIID iid) override {
+        void* found = nullptr;
+        ((iid == I::Iid() ? (found = static_cast<I*>(this), true) : false) || ...);
+        return found;
+    }
+};

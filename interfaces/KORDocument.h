@@ -1,0 +1,16 @@
+#pragma once
+
+#include "framework/KORVar.h"
+
+inline const KORIID IID_KORDocument = KORName::Intern("KORDocument");
+
+/// A document: what is opened, saved and undone as one. Its features lie in its containers.
+class KORDocument : public KORIUnknown {
+    KORDeclareInterface(KORDocument)
+
+        /// The container for the document's own features, with one reference for the caller; null once it is
+        /// closed.
+        virtual KORBaseUnknown* GetFeatContainer() = 0;
+};
+
+using KORDocument_var = KORVar<KORDocument>;

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "framework/KORVar.h"
+
+class KORDocument;
+
+inline const KORIID IID_KORIContainer = KORName::Intern("KORIContainer");
+
+/// A container of features inside a document. It holds its members; which features those are is the store's
+/// business.
+class KORIContainer : public KORIUnknown {
+    KORDeclareInterface(KORIContainer)
+
+        virtual KORDocument* GetDocument() = 0;  ///< the document it belongs to, no reference; null once that
+                                                 ///< is closed
+};
+
+using KORIContainer_var = KORVar<KORIContainer>;
