@@ -1,0 +1,85 @@
+#include "ZELMaterialModel/include/ZELMaterial.h"
+
+#include <new>
+
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModule.h"
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/store/ZELAttribute.h"
+#include "ZELMaterialModel/include/TIEZELIMaterial.h"
+#include "framework/KORDiagnostic.h"
+#include "framework/KORDictionary.h"
+#include "interfaces/KORISamUpgrade.h"
+
+KORImplementClass(ZELMaterial, KORClassKind::DataExtension, "ZELMaterialLT", kZELModule)
+
+    KORBaseUnknown* ZELMaterial::CreateItself() {
+    return new ZELMaterial;
+}
+
+extern "C" KOR_EXPORT KORIUnknown* CreateTIEZELIMaterialZELMaterial(KORBaseUnknown* implementation,
+                                                                    KORBaseUnknown* outer) {
+    return KORCreateTie<TIEZELIMaterial<ZELMaterial>>(implementation, outer);
+}
+
+namespace {
+
+const KORFillDictionary entry(ZELMaterial::MetaObject(), ZELIMaterial::MetaObject(),
+                              CreateTIEZELIMaterialZELMaterial, nullptr, 1);
+
+ZELKeySlot heatGeneration(ZELKey::ZELHeatGenerationFlag);
+
+template <class Behavior>
+void Build(ZELGenHeapObjectProxy<Behavior>& proxy, KORISpecObject* material, const char* failure) {
+    if (auto* behavior = new (std::nothrow) Behavior(material)) {
+        proxy.InsertObject(behavior);
+    } else {
+        KORDiagnosticLine(failure);
+    }
+}
+
+}  // namespace
+
+ZELMaterial::ZELMaterial() : material_(KORISpecObject_var::Of(this)) {
+    KORISpecObject* material = material_.Get();
+    if (!material) {
+        KORDiagnosticLine("Construction of ZELMaterial failed !");
+        return;
+    }
+    Build(elastic_, material, "Construction of ZELElastic failed !");
+    Build(density_, material, "Construction of ZELDensity failed !");
+    Build(thermalExpansion_, material, "Construction of ZELThermalExpansion failed !");
+    Build(conductivity_, material, "Construction of ZELConductivity failed !");
+    Build(specificHeat_, material, "Construction of ZELSpecificHeat failed !");
+
+    const auto upgrade = KORISamUpgrade_var::Of(this);
+    if (!upgrade) return;
+    if (upgrade->IsUpgradeNeeded()) upgrade->Upgrade();  // its status is not looked at
+}
+
+ZELMaterial::~ZELMaterial() {
+    material_ = nullptr;  // before the behaviors, which are let go from the last to the first
+}
+
+HRESULT ZELMaterial::GetHeatGenerationEnabled(bool& enabled) {
+    unsigned char flag = 0;
+    if (FAILED(ZELReadFlag(material_.Get(), heatGeneration, flag))) return E_FAIL;
+    enabled = flag != 0;
+    return S_OK;
+}
+
+HRESULT ZELMaterial::SetHeatGenerationEnabled(bool enabled) {
+    return FAILED(ZELWriteFlag(material_.Get(), heatGeneration, enabled)) ? E_FAIL : S_OK;
+}
+
+HRESULT ZELMaterial::IsAllZelmarPropertiesEnabled(bool& enabled) {
+    enabled = false;
+    return E_FAIL;
+}
+
+unsigned char ZELMaterial::ISGasketEnabled() {
+    return 0;
+}
+
+KORUnicodeString ZELMaterial::GetApplicativeSpecName() {
+    return "ZELMaterialApplicative";
+}

@@ -1,0 +1,69 @@
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/store/ZELColumns.h"
+
+#include <algorithm>
+#include <array>
+#include <memory>
+
+namespace {
+
+constexpr std::size_t kMostColumns = 4;
+
+KORRawColldouble ColumnOf(const ZELCftArrayZELCftArrayDouble& table, int column) {
+    KORRawColldouble values;
+    values.Reserve(table.size());
+    for (int row = 0; row < table.size(); ++row) values.Append(table[row][column]);
+    return values;
+}
+
+}  // namespace
+
+// Writing resolves each key where its column is written and keeps what stands before a missing one; reading
+// resolves all keys before it touches anything. That is why the two walk the columns on their own.
+
+HRESULT ZELWriteColumns(KORISpecObject* feature, ZELColumnSlots columns,
+                        const ZELCftArrayZELCftArrayDouble& table, bool temperatureDependent) {
+    const auto access = KORISpecAttrAccess_var::Of(feature);
+    if (!access) return E_NOINTERFACE;
+    const std::size_t temperature = columns.size() - 1;
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        KORISpecAttrKey* key = columns[column].Resolve(*access);
+        if (!key) return E_FAIL;
+        const bool filled = column != temperature || temperatureDependent;
+        access->SetListOfDouble(key, filled ? ColumnOf(table, static_cast<int>(column)) : KORRawColldouble());
+    }
+    return S_OK;
+}
+
+HRESULT ZELReadColumns(KORISpecObject* feature, ZELColumnSlots columns, bool temperatureDependent,
+                       ZELCftArrayZELCftArrayDouble& table, ZELColumnsRead& outcome) {
+    outcome = ZELColumnsRead::Consistent;
+    const auto access = KORISpecAttrAccess_var::Of(feature);
+    if (!access) return E_NOINTERFACE;
+    std::array<KORISpecAttrKey*, kMostColumns> keys{};
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        keys[column] = columns[column].Resolve(*access);
+        if (!keys[column]) return E_FAIL;
+    }
+    std::array<std::unique_ptr<KORRawColldouble>, kMostColumns> lists;
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        lists[column].reset(access->GetListOfDouble(keys[column]));
+    }
+    table.Initialize(0, nullptr);
+
+    const std::size_t used = temperatureDependent ? columns.size() : columns.size() - 1;
+    std::array<const double*, kMostColumns> values{};
+    for (std::size_t column = 0; column < used; ++column) {
+        if (!lists[column]) return S_OK;
+        values[column] = lists[column]->Data();
+    }
+    int rows = lists[0]->Size();
+    for (std::size_t column = 1; column < used; ++column) rows = std::min(rows, lists[column]->Size());
+    table.Prepare(rows);
+    for (int row = 0; row < rows; ++row) {
+        ZELCftArraydouble numbers;
+        for (std::size_t column = 0; column < used; ++column) numbers.push_back(values[column][row]);
+        table.push_back(std::move(numbers));
+    }
+    if (rows < lists[0]->Size()) outcome = ZELColumnsRead::Inconsistent;
+    return S_OK;
+}

@@ -1,0 +1,126 @@
+#include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+ZELCftArraydouble Row(double first, double second) {
+    const double values[] = {first, second};
+    return ZELCftArraydouble(2, values);
+}
+
+}  // namespace
+
+TEST(ZELCftArrayZELCftArrayDouble, IsEmptyWhenMadeWithSizeZero) {
+    const ZELCftArrayZELCftArrayDouble table(0, nullptr);
+
+    EXPECT_EQ(table.size(), 0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, TakesItsInitialRowsInOrder) {
+    const ZELCftArraydouble rows[] = {Row(1, 2), Row(3, 4)};
+
+    const ZELCftArrayZELCftArrayDouble table(2, rows);
+
+    ASSERT_EQ(table.size(), 2);
+    EXPECT_EQ(table[0][1], 2.0);
+    EXPECT_EQ(table[1][0], 3.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, HasEmptyRowsWhenOnlyASizeIsGiven) {
+    const ZELCftArrayZELCftArrayDouble table(3);
+
+    ASSERT_EQ(table.size(), 3);
+    EXPECT_EQ(table[2].size(), 0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, AppendsACopyOfARow) {
+    ZELCftArrayZELCftArrayDouble table;
+    ZELCftArraydouble row = Row(1, 2);
+
+    EXPECT_TRUE(table.push_back(row));
+    row[0] = 9.0;
+
+    ASSERT_EQ(table.size(), 1);
+    EXPECT_EQ(table[0][0], 1.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, AppendsARowOfItsOwn) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.push_back(Row(1, 2));
+
+    for (int i = 0; i < 10; ++i) EXPECT_TRUE(table.push_back(table[0]));
+
+    ASSERT_EQ(table.size(), 11);
+    EXPECT_EQ(table[10][1], 2.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, CopiesARowOutByIndexAndRefusesOthers) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.push_back(Row(1, 2));
+    ZELCftArraydouble row = Row(8, 9);
+
+    EXPECT_FALSE(table.GetAtIndex(1, row));
+    EXPECT_FALSE(table.GetAtIndex(-1, row));
+    EXPECT_EQ(row[0], 8.0);
+
+    EXPECT_TRUE(table.GetAtIndex(0, row));
+    EXPECT_EQ(row[0], 1.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, AnswersAnEmptyRowOutsideItsRangeAndKeepsNothingWrittenThere) {
+    ZELCftArrayZELCftArrayDouble table;
+
+    table[0].push_back(5.0);
+
+    EXPECT_EQ(table[0].size(), 0);
+    EXPECT_EQ(table[-1].size(), 0);
+    EXPECT_EQ(table.size(), 0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, CopiesAreDeep) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.push_back(Row(1, 2));
+
+    const ZELCftArrayZELCftArrayDouble copy(table);
+    ZELCftArrayZELCftArrayDouble assigned;
+    assigned = table;
+    table[0][0] = 7.0;
+
+    EXPECT_EQ(copy[0][0], 1.0);
+    EXPECT_EQ(assigned[0][0], 1.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, IsEmptiedByInitializeAndByKill) {
+    for (const bool kill : {false, true}) {
+        ZELCftArrayZELCftArrayDouble table(2);
+
+        if (kill) {
+            table.Kill();
+        } else {
+            table.Initialize(0, nullptr);
+        }
+
+        EXPECT_EQ(table.size(), 0);
+        table.push_back(Row(3, 4));
+        EXPECT_EQ(table[0][1], 4.0);
+    }
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, IsResetToTheGivenRowsByInitialize) {
+    const ZELCftArraydouble rows[] = {Row(5, 6)};
+    ZELCftArrayZELCftArrayDouble table(4);
+
+    table.Initialize(1, rows);
+
+    ASSERT_EQ(table.size(), 1);
+    EXPECT_EQ(table[0][1], 6.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, PreparingRoomAddsNoRow) {
+    ZELCftArrayZELCftArrayDouble table;
+
+    table.Prepare(1000);
+
+    EXPECT_EQ(table.size(), 0);
+}
