@@ -89,6 +89,11 @@ HRESULT KORBaseUnknown::AnswerQuery(KORIID iid, void** out) {
     return E_NOINTERFACE;
 }
 
+const KORName* KORBaseUnknown::DictionaryName() const {
+    const KORMetaClass& record = GetMetaObject();
+    return record.Kind() == KORClassKind::Component ? record.DictionaryName() : nullptr;
+}
+
 KORTieState* KORBaseUnknown::LivingTie(KORIID iid) {
     for (KORTieState* tie = ties_; tie; tie = tie->next) {
         if (tie->record->InterfaceId() == iid) return tie;

@@ -48,8 +48,10 @@ protected:
     /// An interface that this object implements itself, without a reference; null for any other.
     virtual void* OwnInterface(KORIID) { return nullptr; }
 
-    /// The name under which the dictionary is asked for what the main object does not implement itself.
-    virtual const KORName* DictionaryName() const { return GetMetaObject().DictionaryName(); }
+    /// The name under which the dictionary is asked for what the main object does not implement itself: a
+    /// component's own name, a feature's late type. Null, and nothing is found, for any other object: an
+    /// extension made outside of a query extends nothing.
+    virtual const KORName* DictionaryName() const;
 
     /// Raised by whoever changes data behind its extensions' backs (undo): extensions bound under another
     /// generation count as dead for new queries.

@@ -17,6 +17,13 @@ struct KORServices {
     KORErrorRecords errors;
     std::vector<FatalReport> fatalReports;
 
+    /// The platform's units service, asked for the interface it is wanted as; null when there is none. Not
+    /// owned: the platform outlives its table's time as the current one.
+    KORBaseUnknown* units = nullptr;
+
+    /// The document that the user works on; null when there is none. Not owned.
+    KORBaseUnknown* currentDocument = nullptr;
+
     static KORServices& Current();
 };
 

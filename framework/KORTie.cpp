@@ -65,6 +65,10 @@ Tie_StackCtx* Tie_Construct(KORTieRecord& record, KORTieState& slot, KORBaseUnkn
 }
 
 HRESULT Tie_Query(KORTieState& slot, KORIID iid, void** out) {
+    if (!slot.implementation) {
+        *out = nullptr;
+        return E_NOINTERFACE;
+    }
     if (iid != IID_KORImplementation) return slot.implementation->QueryInterface(iid, out);
     slot.implementation->AddRef();
     *out = slot.implementation;

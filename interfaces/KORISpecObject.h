@@ -5,6 +5,7 @@
 #include "framework/KORUnicodeString.h"
 
 class KORIContainer;
+class KORIDomain;
 
 inline const KORIID IID_KORISpecObject = KORName::Intern("KORISpecObject");
 
@@ -19,6 +20,13 @@ class KORISpecObject : public KORIUnknown {
     /// The container the feature lies in, with one reference for the caller; null for a start-up and for a
     /// feature that was removed.
     virtual KORBaseUnknown* GetFeatContainer() = 0;
+
+    /// The feature on which this one hangs (a material's analysis data on the platform's material), with one
+    /// reference for the caller; null when it hangs on none.
+    virtual KORISpecObject* GetFather() { return nullptr; }
+
+    /// Confines the feature to a domain of evaluation; null frees it.
+    virtual void SetDomain(KORIDomain* domain) { static_cast<void>(domain); }
 
     /// On a start-up: a new feature of its late type with its default values, in a container. One reference
     /// for the caller; null when this is no start-up or the container takes no features.

@@ -46,14 +46,23 @@ ZELMaterial::ZELMaterial() : material_(KORISpecObject_var::Of(this)) {
         return;
     }
     Build(elastic_, material, "Construction of ZELElastic failed !");
+    Build(plastic_, material, "Construction of ZELPlastic failed !");
     Build(density_, material, "Construction of ZELDensity failed !");
     Build(thermalExpansion_, material, "Construction of ZELThermalExpansion failed !");
     Build(conductivity_, material, "Construction of ZELConductivity failed !");
     Build(specificHeat_, material, "Construction of ZELSpecificHeat failed !");
 
-    const auto upgrade = KORISamUpgrade_var::Of(this);
+    auto upgrade = KORISamUpgrade_var::Of(this);
     if (!upgrade) return;
     if (upgrade->IsUpgradeNeeded()) upgrade->Upgrade();  // its status is not looked at
+    upgrade = nullptr;
+
+    Build(userMaterial_, material, "Construction of ZELUserMaterial failed !");
+    Build(hyperelastic_, material, "Construction of ZELHyperelastic failed !");
+    // One text for the three gasket behaviors, on purpose.
+    Build(gasketThickness_, material, "Construction of ZELGasketThicknessBehavior failed !");
+    Build(gasketTransverseShear_, material, "Construction of ZELGasketThicknessBehavior failed !");
+    Build(gasketMembrane_, material, "Construction of ZELGasketThicknessBehavior failed !");
 }
 
 ZELMaterial::~ZELMaterial() {
@@ -62,18 +71,36 @@ ZELMaterial::~ZELMaterial() {
 
 HRESULT ZELMaterial::GetHeatGenerationEnabled(bool& enabled) {
     unsigned char flag = 0;
-    if (FAILED(ZELReadFlag(material_.Get(), heatGeneration, flag))) return E_FAIL;
+    if (FAILED(ZELGetValue(material_.Get(), heatGeneration, flag))) return E_FAIL;
     enabled = flag != 0;
     return S_OK;
 }
 
 HRESULT ZELMaterial::SetHeatGenerationEnabled(bool enabled) {
-    return FAILED(ZELWriteFlag(material_.Get(), heatGeneration, enabled)) ? E_FAIL : S_OK;
+    return ZELFailOnly(ZELSetValue(material_.Get(), heatGeneration, static_cast<unsigned char>(enabled)));
 }
 
 HRESULT ZELMaterial::IsAllZelmarPropertiesEnabled(bool& enabled) {
     enabled = false;
-    return E_FAIL;
+    if (!conductivity_.IsObject() || !elastic_.IsObject() || !plastic_.IsObject() || !density_.IsObject() ||
+        !thermalExpansion_.IsObject() || !specificHeat_.IsObject() || !userMaterial_.IsObject() ||
+        !hyperelastic_.IsObject()) {
+        return E_FAIL;
+    }
+    const bool inMemory = conductivity_->GetConductivityEnabled() || elastic_->GetElasticEnabled() ||
+                          plastic_->GetPlasticEnabled() || density_->GetDensityEnabled() ||
+                          thermalExpansion_->GetThermalExpansionEnabled() ||
+                          specificHeat_->GetSpecificHeatEnabled();
+    unsigned char userMaterial = 0;
+    unsigned char hyperelastic = 0;
+    bool heat = false;
+    if (FAILED(userMaterial_->GetUserMaterialEnabled(userMaterial)) ||
+        FAILED(hyperelastic_->GetHyperelasticEnabled(hyperelastic)) ||
+        FAILED(GetHeatGenerationEnabled(heat))) {
+        return E_FAIL;
+    }
+    enabled = inMemory || userMaterial || hyperelastic || heat;
+    return S_OK;
 }
 
 unsigned char ZELMaterial::ISGasketEnabled() {

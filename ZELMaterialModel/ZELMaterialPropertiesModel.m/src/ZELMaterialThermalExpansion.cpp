@@ -43,9 +43,9 @@ HRESULT ZELMaterialThermalExpansion::SetReferenceTemperature(const double& tempe
 }
 
 HRESULT ZELMaterialThermalExpansion::GetPropertyReferenceTemperature() {
-    return ZELReadDouble(Feature(), referenceTemperature, ReferenceTemperature);
+    return ZELReadField(Feature(), referenceTemperature, ReferenceTemperature);
 }
 
 HRESULT ZELMaterialThermalExpansion::SetPropertyReferenceTemperature() {
-    return ZELWriteDouble(Feature(), referenceTemperature, ReferenceTemperature);
+    return ZELSetValue(Feature(), referenceTemperature, ReferenceTemperature);
 }

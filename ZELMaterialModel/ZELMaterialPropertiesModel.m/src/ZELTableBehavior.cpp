@@ -34,27 +34,27 @@ HRESULT ZELTableBehavior::StoreEnabled(const unsigned char& enabled) {
 }
 
 HRESULT ZELTableBehavior::ReadEnabled() {
-    return ZELReadFlag(material_.Get(), description_->enabled, enabled_);
+    return ZELReadField(material_.Get(), description_->enabled, enabled_);
 }
 
 HRESULT ZELTableBehavior::WriteEnabled() {
-    return ZELWriteFlag(material_.Get(), description_->enabled, enabled_);
+    return ZELSetValue(material_.Get(), description_->enabled, enabled_);
 }
 
 HRESULT ZELTableBehavior::GetPropertyDataFile() {
-    return ZELReadString(Feature(), description_->dataFile, DataFile);
+    return ZELGetValue(Feature(), description_->dataFile, DataFile);
 }
 
 HRESULT ZELTableBehavior::SetPropertyDataFile() {
-    return ZELWriteString(Feature(), description_->dataFile, DataFile);
+    return ZELSetValue(Feature(), description_->dataFile, DataFile);
 }
 
 HRESULT ZELTableBehavior::GetPropertyTemperatureDependent() {
-    return ZELReadFlag(Feature(), description_->temperatureDependent, TemperatureDependent);
+    return ZELReadField(Feature(), description_->temperatureDependent, TemperatureDependent);
 }
 
 HRESULT ZELTableBehavior::SetPropertyTemperatureDependent() {
-    return ZELWriteFlag(Feature(), description_->temperatureDependent, TemperatureDependent);
+    return ZELSetValue(Feature(), description_->temperatureDependent, TemperatureDependent);
 }
 
 HRESULT ZELTableBehavior::StoreTable(const ZELCftArrayZELCftArrayDouble& table) {

@@ -8,14 +8,14 @@ namespace {
 
 constexpr std::size_t kMostColumns = 4;
 
-KORRawColldouble ColumnOf(const ZELCftArrayZELCftArrayDouble& table, int column) {
+}  // namespace
+
+KORRawColldouble ZELColumnOf(const ZELCftArrayZELCftArrayDouble& table, int column) {
     KORRawColldouble values;
     values.Reserve(table.size());
     for (int row = 0; row < table.size(); ++row) values.Append(table[row][column]);
     return values;
 }
-
-}  // namespace
 
 // Writing resolves each key where its column is written and keeps what stands before a missing one; reading
 // resolves all keys before it touches anything. That is why the two walk the columns on their own.
@@ -29,7 +29,8 @@ HRESULT ZELWriteColumns(KORISpecObject* feature, ZELColumnSlots columns,
         KORISpecAttrKey* key = columns[column].Resolve(*access);
         if (!key) return E_FAIL;
         const bool filled = column != temperature || temperatureDependent;
-        access->SetListOfDouble(key, filled ? ColumnOf(table, static_cast<int>(column)) : KORRawColldouble());
+        access->SetListOfDouble(key,
+                                filled ? ZELColumnOf(table, static_cast<int>(column)) : KORRawColldouble());
     }
     return S_OK;
 }

@@ -9,6 +9,9 @@
 /// temperature column last. Value k of every list (from 1) belongs to row k-1.
 using ZELColumnSlots = std::span<ZELKeySlot>;
 
+/// One column of a table as a list, row by row; 0.0 where a row is too narrow.
+KORRawColldouble ZELColumnOf(const ZELCftArrayZELCftArrayDouble& table, int column);
+
 /// Stores a table column by column, in order, the temperature column last and empty unless the data depend on
 /// temperature. Rows are trusted to be wide enough. Each key is resolved just before its column is written,
 /// so a missing attribute (E_FAIL) leaves the columns before it written and those after it unchanged.

@@ -1,0 +1,35 @@
+#include "ZELMaterialModel/include/ZELGasketBehavior.h"
+
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/store/ZELKeyOnce.h"
+#include "framework/KORDiagnostic.h"
+
+ZELGasketBehavior::ZELGasketBehavior(KORISpecObject* material) : material_(material) {
+    if (material_) material_->AddRef();
+}
+
+ZELGasketBehavior::~ZELGasketBehavior() {
+    if (material_) material_->Release();
+    for (KORISpecAttrKey* key : keys_) key->Release();
+}
+
+KORISpecAttrAccess_var ZELGasketBehavior::OpenMaterial() const {
+    if (!material_) {
+        KORDiagnosticLine("No material SpecObject !");
+        return nullptr;
+    }
+    const auto access = KORISpecAttrAccess_var::Of(material_);
+    if (!access) KORDiagnosticLine("Accessing ZELMaterial failed !");
+    return access;
+}
+
+KORBaseUnknown_var ZELGasketBehavior::Held(KORISpecAttrAccess& feature, const KORUnicodeString& name) {
+    ZELKeyOnce holder(name);
+    KORISpecAttrKey* key = holder.Resolve(feature);
+    return key ? KORBaseUnknown_var::Adopt(feature.GetComponent(key, 0)) : KORBaseUnknown_var();
+}
+
+bool ZELGasketBehavior::TakeKey(const KORISpecAttrAccess_var& feature, const KORUnicodeString& name) {
+    KORISpecAttrKey* key = feature ? feature->GetAttrKey(name.c_str()) : nullptr;
+    if (key) keys_.push_back(key);
+    return key != nullptr;
+}

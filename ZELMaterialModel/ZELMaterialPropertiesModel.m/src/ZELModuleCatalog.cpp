@@ -1,0 +1,18 @@
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModuleCatalog.h"
+
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
+
+HRESULT ZELOpenModuleCatalog(KORIContainer* container, KORICatalog_var& catalog) {
+    return AccessCatalog(ZELCatalog::FileName, ZELCatalog::Client, container, catalog);
+}
+
+HRESULT ZELInstantiate(KORICatalog& catalog, const KORUnicodeString& lateType, const KORUnicodeString& name,
+                       KORIContainer* container, KORISpecObject_var& created) {
+    created = nullptr;
+    void* found = nullptr;
+    if (FAILED(catalog.RetrieveStartUp(lateType, "KORISpecObject", &found))) return E_FAIL;
+    const auto startUp = KORISpecObject_var::Adopt(static_cast<KORISpecObject*>(found));
+    if (!startUp) return E_FAIL;
+    created = KORISpecObject_var::Adopt(startUp->Instantiate(name, container));
+    return created ? S_OK : E_FAIL;
+}

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "framework/KORVar.h"
+
+inline const KORIID IID_ZELIAnalysisMaterial = KORName::Intern("ZELIAnalysisMaterial");
+
+/// Marks the platform materials for which there can be analysis data.
+class ZELIAnalysisMaterial : public KORIUnknown {
+    KORDeclareInterface(ZELIAnalysisMaterial)
+};
+
+using ZELIAnalysisMaterial_var = KORVar<ZELIAnalysisMaterial>;

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "framework/KORVar.h"
+
+inline const KORIID IID_KORIDomain = KORName::Intern("KORIDomain");
+
+/// A domain of evaluation to which features can be confined.
+class KORIDomain : public KORIUnknown {
+    KORDeclareInterface(KORIDomain)
+};
+
+using KORIDomain_var = KORVar<KORIDomain>;

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "framework/KORBaseUnknown.h"
+#include "framework/KORListVal.h"
+
+inline const KORIID IID_KORISamAnalysisEntity = KORName::Intern("KORISamAnalysisEntity");
+
+using KORListValKORBaseUnknown_var = KORListVal<KORBaseUnknown_var>;
+
+/// A feature that takes part in an analysis model, such as a layup.
+class KORISamAnalysisEntity : public KORIUnknown {
+    KORDeclareInterface(KORISamAnalysisEntity)
+
+        /// The analysis sets that hold this entity, the nearest one first; none when it stands outside every
+        /// set.
+        virtual KORListValKORBaseUnknown_var GetParentSets() = 0;
+};
+
+using KORISamAnalysisEntity_var = KORVar<KORISamAnalysisEntity>;
