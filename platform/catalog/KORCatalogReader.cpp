@@ -1,0 +1,194 @@
+#include "platform/catalog/KORCatalogReader.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+constexpr int kFormat = 1;
+
+constexpr struct {
+    std::string_view name;
+    KORAttributeKind kind;
+} kKinds[] = {
+    {"boolean", KORAttributeKind::Boolean},
+    {"integer", KORAttributeKind::Integer},
+    {"double", KORAttributeKind::Double},
+    {"string", KORAttributeKind::String},
+    {"list of doubles", KORAttributeKind::ListOfDoubles},
+    {"component", KORAttributeKind::Component},
+    {"list of components", KORAttributeKind::ListOfComponents},
+};
+
+bool IsInt(const nlohmann::json& value) {
+    return value.is_number_integer() && value >= std::numeric_limits<int>::min() &&
+           value <= std::numeric_limits<int>::max();
+}
+
+bool HasUnit(KORAttributeKind kind) {
+    return kind == KORAttributeKind::Double || kind == KORAttributeKind::ListOfDoubles;
+}
+
+std::string Quoted(std::string_view text) {
+    return "\"" + std::string(text) + "\"";
+}
+
+}  // namespace
+
+std::vector<KORCatalogType> KORCatalogReader::Read() {
+    std::vector<KORCatalogType> types;
+    const Pointer root;
+    if (!IsObjectOf(root, {"format", "types"})) return types;
+    if (!Has(root, "format") || file_.Root()["format"] != kFormat) {
+        Fail(root / "format", "expected \"format\": " + std::to_string(kFormat));
+    }
+    const std::size_t count = Array(root, "types").size();
+    for (std::size_t index = 0; index < count && !error_; ++index) {
+        const Pointer at = root / "types" / index;
+        KORCatalogType type = ReadType(at);
+        if (error_) return types;
+        for (const KORCatalogType& other : types) {
+            if (other.layout->Name() != type.layout->Name()) continue;
+            Fail(at, "the late type " + Quoted(type.layout->Name()->Text()) + " is declared twice");
+        }
+        types.push_back(std::move(type));
+    }
+    return types;
+}
+
+KORCatalogType KORCatalogReader::ReadType(const Pointer& at) {
+    KORCatalogType type;
+    if (!IsObjectOf(at, {"name", "since", "meaning", "attributes"})) return type;
+    const std::string name = Text(at, "name");
+    type.since = Release(at);
+    type.meaning = Text(at, "meaning");
+    std::vector<KORAttribute> attributes;
+    const std::size_t count = Array(at, "attributes").size();
+    for (std::size_t index = 0; index < count && !error_; ++index) {
+        type.attributes.push_back(ReadAttribute(at / "attributes" / index, attributes));
+    }
+    if (error_) return type;
+    type.layout = std::make_shared<KORLayout>(KORName::Intern(name), std::move(attributes));
+    CheckSuccessors(at, type);
+    return type;
+}
+
+KORCatalogAttribute KORCatalogReader::ReadAttribute(const Pointer& at,
+                                                    std::vector<KORAttribute>& attributes) {
+    KORCatalogAttribute read;
+    if (!IsObjectOf(at, {"name", "kind", "default", "unit", "since", "superseded_by", "meaning"}))
+        return read;
+    const std::string name = Text(at, "name");
+    read.since = Release(at);
+    read.meaning = Text(at, "meaning");
+    if (Has(at, "superseded_by")) read.supersededBy = Text(at, "superseded_by");
+    const auto kind = ReadKind(at);
+    if (!kind) return read;
+    if (HasUnit(*kind)) {
+        read.unit = Text(at, "unit");
+    } else if (Has(at, "unit")) {
+        Fail(at / "unit", "only a double or a list of doubles has a unit");
+    }
+    KORValue initial = ReadInitial(at, *kind);
+    const KORName* key = KORName::Intern(name);
+    const auto same = [key](const KORAttribute& other) { return other.name == key; };
+    if (std::ranges::any_of(attributes, same)) {
+        Fail(at, "the attribute " + Quoted(name) + " is declared twice");
+    }
+    attributes.push_back({key, std::move(initial)});
+    return read;
+}
+
+std::optional<KORAttributeKind> KORCatalogReader::ReadKind(const Pointer& at) {
+    const std::string text = Text(at, "kind");
+    std::string known;
+    for (const auto& [name, kind] : kKinds) {
+        if (text == name) return kind;
+        known += (known.empty() ? "" : ", ") + Quoted(name);
+    }
+    Fail(at / "kind", "the kind " + Quoted(text) + " is unknown; expected one of " + known);
+    return std::nullopt;
+}
+
+KORValue KORCatalogReader::ReadInitial(const Pointer& at, KORAttributeKind kind) {
+    KORValue never(kind);
+    if (!Has(at, "default")) {
+        if (kind <= KORAttributeKind::String) Fail(at, "expected \"default\": a value, or null for none");
+        return never;
+    }
+    const Json& value = file_.Root()[at / "default"];
+    if (value.is_null()) return never;
+    switch (kind) {
+        case KORAttributeKind::Boolean:
+            if (value.is_boolean()) return KORValue::OfBoolean(value.get<bool>());
+            break;
+        case KORAttributeKind::Integer:
+            if (IsInt(value)) return KORValue::OfInteger(value.get<int>());
+            break;
+        case KORAttributeKind::Double:
+            if (value.is_number()) return KORValue::OfDouble(value.get<double>());
+            break;
+        case KORAttributeKind::String:
+            if (value.is_string()) return KORValue::OfString(value.get_ref<const std::string&>().c_str());
+            break;
+        case KORAttributeKind::ListOfDoubles:
+        case KORAttributeKind::Component:
+        case KORAttributeKind::ListOfComponents:
+            Fail(at / "default", "lists and components have no default: they start never valued");
+            return never;
+    }
+    Fail(at / "default", "the default is not of the attribute's kind");
+    return never;
+}
+
+void KORCatalogReader::CheckSuccessors(const Pointer& at, const KORCatalogType& type) {
+    for (std::size_t index = 0; index < type.attributes.size(); ++index) {
+        const std::string& successor = type.attributes[index].supersededBy;
+        if (successor.empty() || type.layout->Find(KORName::Intern(successor)).slot != 0) continue;
+        Fail(at / "attributes" / index / "superseded_by",
+             Quoted(type.layout->Name()->Text()) + " has no attribute " + Quoted(successor));
+    }
+}
+
+bool KORCatalogReader::IsObjectOf(const Pointer& at, std::initializer_list<std::string_view> members) {
+    const Json& object = file_.Root()[at];
+    if (!object.is_object()) {
+        Fail(at, "expected an object");
+        return false;
+    }
+    for (const auto& item : object.items()) {
+        if (std::ranges::find(members, item.key()) != members.end()) continue;
+        Fail(at / item.key(), Quoted(item.key()) + " means nothing here");
+        return false;
+    }
+    return true;
+}
+
+const nlohmann::json& KORCatalogReader::Array(const Pointer& at, const char* member) {
+    static const Json none = Json::array();
+    if (Has(at, member) && file_.Root()[at / member].is_array()) return file_.Root()[at / member];
+    Fail(at / member, "expected " + Quoted(member) + ": an array");
+    return none;
+}
+
+std::string KORCatalogReader::Text(const Pointer& at, const char* member) {
+    if (Has(at, member)) {
+        const Json& text = file_.Root()[at / member];
+        if (text.is_string() && !text.get_ref<const std::string&>().empty()) return text;
+    }
+    Fail(at / member, "expected " + Quoted(member) + ": a text that is not empty");
+    return {};
+}
+
+int KORCatalogReader::Release(const Pointer& at) {
+    if (Has(at, "since")) {
+        const Json& since = file_.Root()[at / "since"];
+        if (IsInt(since) && since >= 1) return since;
+    }
+    Fail(at / "since", "expected \"since\": the number of a release, from 1 on");
+    return 0;
+}
+
+void KORCatalogReader::Fail(const Pointer& at, const std::string& message) {
+    if (!error_) error_ = file_.ErrorAt(at, message);
+}

@@ -1,0 +1,12 @@
+#include "platform/document/KORPlatform.h"
+
+#include <filesystem>
+#include <iostream>
+
+std::shared_ptr<const KORCatalogFile> KORPlatform::OpenCatalog(std::string_view fileName) {
+    KORJsonError error;
+    auto catalog = KORCatalogFile::Open((std::filesystem::path(catalogFolder_) / fileName).string(), error);
+    catalogError_ = catalog ? std::string() : error.Text();
+    if (!catalog && reported_.insert(catalogError_).second) std::cerr << catalogError_ << std::endl;
+    return catalog;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+#include <set>
+#include <string>
+#include <string_view>
+
+#include "framework/KORServices.h"
+#include "platform/catalog/KORCatalogFile.h"
+
+/// The stand-alone platform as its host sets it up: where catalogs lie, and the services its free functions
+/// work on. The host makes it once, keeps it longer than every document, and makes its services the current
+/// ones (KORServicesScope) while it calls modules. It knows no module.
+class KORPlatform {
+public:
+    explicit KORPlatform(std::string catalogFolder) : catalogFolder_(std::move(catalogFolder)) {}
+    KORPlatform(const KORPlatform&) = delete;
+    KORPlatform& operator=(const KORPlatform&) = delete;
+
+    KORServices& Services() { return services_; }
+
+    /// The catalog of a file name in the catalog folder. Null when it is missing, malformed or incomplete;
+    /// then CatalogError says so, and so does standard error, once per error.
+    [[nodiscard]] std::shared_ptr<const KORCatalogFile> OpenCatalog(std::string_view fileName);
+
+    /// What was wrong with the catalog opened last, as "file:line: what was expected"; empty when nothing
+    /// was.
+    const std::string& CatalogError() const { return catalogError_; }
+
+private:
+    std::string catalogFolder_;
+    KORServices services_;
+    std::string catalogError_;
+    std::set<std::string> reported_;
+};

@@ -1,0 +1,174 @@
+#include "platform/store/KORFeature.h"
+
+#include <new>
+
+#include "platform/store/KORStoreDocument.h"
+
+KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHandle& layout,
+                                   const KORUnicodeString& name, KORBaseUnknown& container) {
+    KORFeatureType& type = document.TypeOf(layout);
+    const std::uint32_t number = document.Features().NextNumber();
+    const auto feature = KORVar<KORFeature>::Adopt(new (SlotCount{layout->SlotCount()})
+                                                       KORFeature(type, number, document.Log().Stamp()));
+    if (name != layout->NameText()) {
+        feature->Slots()[KORLayout::kName] = KORValue::OfString(name);
+    }
+    feature->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
+    return feature;
+}
+
+void* KORFeature::operator new(std::size_t size, SlotCount slots) {
+    return ::operator new(size + slots.count * sizeof(KORValue));
+}
+
+KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp)
+    : type_(&type), number_(number) {
+    const KORLayout& layout = type.Layout();
+    KORValue* slots = Slots();
+    new (slots + KORLayout::kName) KORValue(KORAttributeKind::String);
+    new (slots + KORLayout::kAlias) KORValue(KORAttributeKind::String);
+    new (slots + KORLayout::kContainer) KORValue(KORAttributeKind::Component);
+    slots[KORLayout::kAlias].SetStamp(stamp);
+    KORValue* slot = slots + KORLayout::kFirstAttribute;
+    for (const KORAttribute& attribute : layout.Attributes()) {
+        // As if logged: undoing the creation takes the values along.
+        (new (slot++) KORValue(attribute.initial))->SetStamp(stamp);
+    }
+    type.AddRef();
+    type.Document()->Features().Add(number, *this);
+}
+
+KORFeature::~KORFeature() {
+    if (KORStoreDocument* document = StoreDocument()) document->Features().Remove(number_);
+    KORValue* slots = Slots();
+    for (KORSlot slot = 0; slot < Layout().SlotCount(); ++slot) slots[slot].~KORValue();
+    type_->Release();
+}
+
+void* KORFeature::OwnInterface(KORIID iid) {
+    return iid == IID_KORFeature ? this : KORImplements::OwnInterface(iid);
+}
+
+std::uint32_t KORFeature::Generation() const {
+    const KORStoreDocument* document = StoreDocument();
+    return document ? document->Log().Generation() : 0;
+}
+
+KORDocument* KORFeature::GetDocument() {
+    KORStoreDocument* document = StoreDocument();
+    return document ? document->Document() : nullptr;
+}
+
+KORUnicodeString KORFeature::GetName() {
+    const KORValue& name = At(KORLayout::kName);
+    return name.State() == KORValueState::NeverValued ? Layout().NameText() : name.String();
+}
+
+KORBaseUnknown* KORFeature::GetFeatContainer() {
+    return KORBaseUnknown_var(At(KORLayout::kContainer).Component()).Detach();
+}
+
+void KORFeature::SetContainer(KORBaseUnknown* container) {
+    const KORVar<KORFeature> alive(this);
+    Write(KORLayout::kContainer, KORValue::OfComponent(container));
+}
+
+void KORFeature::SetAlias(const KORUnicodeString& alias) {
+    Write(KORLayout::kAlias, KORValue::OfString(alias));
+}
+
+void KORFeature::SetDouble(KORISpecAttrKey* key, double value, int) {
+    WriteAs(KORAttributeKind::Double, key, KORValue::OfDouble(value));
+}
+
+void KORFeature::SetBoolean(KORISpecAttrKey* key, bool value, int) {
+    WriteAs(KORAttributeKind::Boolean, key, KORValue::OfBoolean(value));
+}
+
+void KORFeature::SetInteger(KORISpecAttrKey* key, int value, int) {
+    WriteAs(KORAttributeKind::Integer, key, KORValue::OfInteger(value));
+}
+
+void KORFeature::SetString(KORISpecAttrKey* key, const KORUnicodeString& value, int) {
+    WriteAs(KORAttributeKind::String, key, KORValue::OfString(value));
+}
+
+void KORFeature::SetListOfDouble(KORISpecAttrKey* key, const KORRawColldouble& values) {
+    WriteAs(KORAttributeKind::ListOfDoubles, key, KORValue::OfListOfDoubles(values));
+}
+
+void KORFeature::SetComponent(KORISpecAttrKey* key, KORBaseUnknown* component, int) {
+    WriteAs(KORAttributeKind::Component, key, KORValue::OfComponent(component));
+}
+
+void KORFeature::AppendComponent(KORISpecAttrKey* key, KORBaseUnknown* component) {
+    const KORLayout::Place place = PlaceOf(key);
+    KORStoreDocument* document = StoreDocument();
+    if (!document || place.slot == 0 || place.kind != KORAttributeKind::ListOfComponents) return;
+    KORValue& list = Slots()[place.slot];
+    if (list.Stamp() == document->Log().Stamp()) {
+        // The list before this step is kept, or no step is open: a long list grows in place.
+        list.Append(component);
+        document->Features().MarkDirty(number_);
+        return;
+    }
+    KORValue longer(list);
+    longer.Append(component);
+    Write(place.slot, std::move(longer));
+}
+
+void KORFeature::RemoveAllValues(KORISpecAttrKey* key) {
+    const KORLayout::Place place = PlaceOf(key);
+    if (place.slot == 0 || !KORIsList(place.kind)) return;
+    Write(place.slot, KORValue::EmptyList(place.kind));
+}
+
+void KORFeature::RemoveValue(KORISpecAttrKey* key) {
+    const KORLayout::Place place = PlaceOf(key);
+    if (place.slot == 0) return;
+    Write(place.slot, KORValue(place.kind));
+}
+
+void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value) {
+    const KORLayout::Place place = PlaceOf(key);
+    if (place.slot != 0 && place.kind == kind) Write(place.slot, std::move(value));
+}
+
+void KORFeature::Write(KORSlot slot, KORValue&& value) {
+    KORStoreDocument* document = StoreDocument();
+    const KORValue& stored = At(slot);
+    if (!document || stored.SameAs(value)) return;
+    KORUndoLog& log = document->Log();
+    value.SetStamp(log.Stamp());
+    if (stored.Stamp() == log.Stamp() || !log.IsOpen()) {
+        Swap(slot, value);
+    } else {
+        log.Log(*this, slot, std::move(value));
+    }
+}
+
+void KORFeature::Swap(KORSlot slot, KORValue& other) noexcept {
+    KORStoreDocument& document = *StoreDocument();
+    KORValue& stored = Slots()[slot];
+    stored.Swap(other);
+    document.Features().MarkDirty(number_);
+    if (slot != KORLayout::kContainer) return;
+    const bool lies = stored.Component() != nullptr;
+    const bool lay = other.Component() != nullptr;
+    if (lies && !lay) {
+        AddRef();
+        document.MemberEntered();
+    } else if (lay && !lies) {
+        document.MemberLeft();
+        Release();
+    }
+}
+
+void KORFeature::Clear() noexcept {
+    const bool lay = LiesInContainer();
+    KORValue* slots = Slots();
+    for (KORSlot slot = 0; slot < Layout().SlotCount(); ++slot) slots[slot] = KORValue(slots[slot].Kind());
+    if (!lay) return;
+    StoreDocument()->MemberLeft();
+    Release();
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "interfaces/KORIAlias.h"
+#include "interfaces/KORILinkableObject.h"
+#include "platform/store/KORAttributeReads.h"
+#include "platform/store/KORFeatureType.h"
+
+inline const KORIID IID_KORFeature = KORName::Intern("KORFeature");
+
+/// A feature of a document: one allocation, a small header followed by one slot per attribute of its late
+/// type. Values, instance name, alias and container membership are all slots, and all changes go through
+/// Write, so that undo and dirty tracking cannot be forgotten. It is no start-up: those stand in catalogs.
+///
+/// A feature lies in at most one container, which keeps a reference on it: it lives on without other handles.
+/// Once its document is closed, its slots are empty, reads answer "never valued" and writes are ignored.
+class KORFeature final : public KORAttributeReads<KORFeature, KORILinkableObject, KORIAlias> {
+public:
+    static KORIID Iid() { return IID_KORFeature; }
+
+    /// A new feature with its type's initial values, in a container. Within an undo step the creation is
+    /// logged as one change; later writes to it in the same scope are part of it.
+    static KORVar<KORFeature> New(KORStoreDocument& document, const KORLayoutHandle& layout,
+                                  const KORUnicodeString& name, KORBaseUnknown& container);
+
+    /// Its number in its document, from 1 on: never another feature's, also after this one is gone.
+    std::uint32_t Number() const { return number_; }
+    const KORLayout& Layout() const { return type_->Layout(); }
+    const KORValue& At(KORSlot slot) const { return Slots()[slot]; }
+    KORStoreDocument* StoreDocument() const { return type_->Document(); }  ///< null once it is closed
+
+    /// Changes the container it lies in. Null takes it out: only its other holders keep it then.
+    void SetContainer(KORBaseUnknown* container);
+    bool LiesInContainer() const { return At(KORLayout::kContainer).Component() != nullptr; }
+
+    KORUnicodeString GetName() override;
+    KORBaseUnknown* GetFeatContainer() override;
+    KORISpecObject* Instantiate(const KORUnicodeString&, KORIContainer*) override { return nullptr; }
+
+    void SetDouble(KORISpecAttrKey* key, double value, int index) override;
+    void SetBoolean(KORISpecAttrKey* key, bool value, int index) override;
+    void SetString(KORISpecAttrKey* key, const KORUnicodeString& value, int index) override;
+    void SetListOfDouble(KORISpecAttrKey* key, const KORRawColldouble& values) override;
+    void SetInteger(KORISpecAttrKey* key, int value, int index) override;
+    void SetComponent(KORISpecAttrKey* key, KORBaseUnknown* component, int index) override;
+    void AppendComponent(KORISpecAttrKey* key, KORBaseUnknown* component) override;
+    void RemoveAllValues(KORISpecAttrKey* key) override;
+    void RemoveValue(KORISpecAttrKey* key) override;
+
+    KORDocument* GetDocument() override;
+    void SetAlias(const KORUnicodeString& alias) override;
+    KORUnicodeString GetAlias() override { return At(KORLayout::kAlias).String(); }
+
+    /// Exchanges a slot's value for another: all there is to do, undo and redo a change. Marks the feature
+    /// dirty. The caller holds a reference.
+    void Swap(KORSlot slot, KORValue& other) noexcept;
+
+    /// Takes all values away, unlogged: its document is being closed.
+    void Clear() noexcept;
+
+    /// The slots lie behind the object.
+    struct SlotCount {
+        KORSlot count;
+    };
+    static void* operator new(std::size_t size, SlotCount slots);
+    static void operator delete(void* memory, SlotCount) { ::operator delete(memory); }
+    static void operator delete(void* memory) { ::operator delete(memory); }
+
+protected:
+    void* OwnInterface(KORIID iid) override;
+    const KORName* DictionaryName() const override { return Layout().Name(); }
+    std::uint32_t Generation() const override;
+
+private:
+    KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp);
+    ~KORFeature() override;
+
+    KORValue* Slots() { return reinterpret_cast<KORValue*>(this + 1); }
+    const KORValue* Slots() const { return reinterpret_cast<const KORValue*>(this + 1); }
+
+    /// The one choke point: compares, logs, writes.
+    void Write(KORSlot slot, KORValue&& value);
+    void WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value);
+
+    KORFeatureType* type_;  ///< counted
+    std::uint32_t number_;
+};

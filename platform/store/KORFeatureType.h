@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/store/KORLayout.h"
+
+class KORStoreDocument;
+
+/// A late type as one document uses it: what its features share, and their way to the document. It outlives
+/// the document when a feature does.
+class KORFeatureType {
+public:
+    /// One reference, for the document.
+    KORFeatureType(KORStoreDocument& document, const KORLayoutHandle& layout)
+        : document_(&document), handle_(layout), layout_(*layout) {}
+    KORFeatureType(const KORFeatureType&) = delete;
+    KORFeatureType& operator=(const KORFeatureType&) = delete;
+
+    const KORLayout& Layout() const { return layout_; }
+    KORStoreDocument* Document() const { return document_; }  ///< null once it is closed
+    void ForgetDocument() { document_ = nullptr; }
+
+    void AddRef() { ++references_; }
+    void Release() {
+        if (--references_ == 0) delete this;
+    }
+
+private:
+    ~KORFeatureType() = default;
+
+    KORStoreDocument* document_;
+    KORLayoutHandle handle_;
+    const KORLayout& layout_;
+    std::int32_t references_ = 1;
+};

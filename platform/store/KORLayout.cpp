@@ -1,0 +1,44 @@
+#include "platform/store/KORLayout.h"
+
+#include <algorithm>
+
+namespace {
+
+std::uint32_t NextOrdinal() {
+    static std::uint32_t next = 0;
+    return next++;
+}
+
+}  // namespace
+
+KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes)
+    : name_(name), nameText_(name->c_str()), attributes_(std::move(attributes)), ordinal_(NextOrdinal()) {
+    if (attributes_.empty()) return;
+    const auto byNumber = [](const KORAttribute& a, const KORAttribute& b) {
+        return a.name->Number() < b.name->Number();
+    };
+    const auto [first, last] = std::minmax_element(attributes_.begin(), attributes_.end(), byNumber);
+    firstNumber_ = first->name->Number();
+    places_.resize(last->name->Number() - firstNumber_ + 1);
+    KORSlot slot = kFirstAttribute;
+    for (const KORAttribute& attribute : attributes_) {
+        places_[attribute.name->Number() - firstNumber_] = {slot++, attribute.initial.Kind()};
+    }
+}
+
+const KORValue& KORLayout::Initial(KORSlot slot) const {
+    return attributes_[static_cast<std::size_t>(slot - kFirstAttribute)].initial;
+}
+
+const char* KORLayout::SlotName(KORSlot slot) const {
+    switch (slot) {
+        case kName:
+            return "Name";
+        case kAlias:
+            return "Alias";
+        case kContainer:
+            return "Container";
+        default:
+            return attributes_[static_cast<std::size_t>(slot - kFirstAttribute)].name->c_str();
+    }
+}

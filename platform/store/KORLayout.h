@@ -1,0 +1,63 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/store/KORValue.h"
+
+using KORSlot = std::uint16_t;
+
+/// One attribute of a late type.
+struct KORAttribute {
+    const KORName* name;
+    KORValue initial;  ///< what a new feature starts with; it carries the attribute's kind
+};
+
+/// A late type as features see it: its name and which attribute lies in which slot. It knows no meaning, unit
+/// or release; that is the catalog's. It belongs to the catalog that was read and lives as long as a feature
+/// uses it.
+///
+/// Every feature begins with the same three slots, which no key reaches: instance name, alias and container.
+class KORLayout {
+public:
+    static constexpr KORSlot kName =
+        0;  ///< string; never valued: the late type's own name, as most features have
+    static constexpr KORSlot kAlias = 1;
+    static constexpr KORSlot kContainer = 2;
+    static constexpr KORSlot kFirstAttribute = 3;
+
+    /// Where an attribute lies; slot 0 when there is none.
+    struct Place {
+        KORSlot slot = 0;
+        KORAttributeKind kind = KORAttributeKind::Boolean;
+    };
+
+    /// The attributes in slot order; no name twice.
+    KORLayout(const KORName* name, std::vector<KORAttribute> attributes);
+
+    const KORName* Name() const { return name_; }
+    const KORUnicodeString& NameText() const { return nameText_; }
+    const std::vector<KORAttribute>& Attributes() const { return attributes_; }
+    KORSlot SlotCount() const { return static_cast<KORSlot>(kFirstAttribute + attributes_.size()); }
+
+    Place Find(const KORName* key) const {
+        const std::uint32_t index = key->Number() - firstNumber_;
+        return index < places_.size() ? places_[index] : Place{};
+    }
+
+    const KORValue& Initial(KORSlot slot) const;  ///< of an attribute's slot
+    const char* SlotName(KORSlot slot) const;     ///< the attribute's name; "Name", "Alias" and "Container"
+
+    /// Small and dense, one number per layout of the process: an index into tables.
+    std::uint32_t Ordinal() const { return ordinal_; }
+
+private:
+    const KORName* name_;
+    KORUnicodeString nameText_;
+    std::vector<KORAttribute> attributes_;
+    std::vector<Place> places_;  ///< by the key's number, from firstNumber_ on
+    std::uint32_t firstNumber_ = 0;
+    std::uint32_t ordinal_;
+};
+
+using KORLayoutHandle = std::shared_ptr<const KORLayout>;

@@ -1,0 +1,26 @@
+#include "platform/store/KORStoreDocument.h"
+
+KORStoreDocument::~KORStoreDocument() {
+    CloseStore();
+}
+
+KORFeatureType& KORStoreDocument::TypeOf(const KORLayoutHandle& layout) {
+    const std::uint32_t ordinal = layout->Ordinal();
+    if (ordinal >= types_.size()) types_.resize(ordinal + 1);
+    if (!types_[ordinal]) types_[ordinal] = new KORFeatureType(*this, layout);
+    return *types_[ordinal];
+}
+
+void KORStoreDocument::CloseStore() noexcept {
+    log_.Clear();
+    features_.ForEach([](KORFeature& feature) { feature.AddRef(); });
+    features_.ForEach([](KORFeature& feature) { feature.Clear(); });
+    features_.ForEach([](KORFeature& feature) { feature.Release(); });
+    for (KORFeatureType* type : types_) {
+        if (!type) continue;
+        type->ForgetDocument();
+        type->Release();
+    }
+    types_.clear();
+    features_ = {};
+}

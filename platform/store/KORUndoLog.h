@@ -1,0 +1,69 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/store/KORFeature.h"
+
+/// One reversible change. Holds the value the feature does not have at the moment, so applying it is a swap.
+/// That a feature was created, removed or moved is a change of its container slot.
+struct KORUndoEntry {
+    KORVar<KORFeature> feature;  ///< owned: an undone creation must be able to come back
+    KORSlot slot;
+    KORValue other;
+
+    void Apply() noexcept { feature->Swap(slot, other); }
+
+    /// What changed, for reports: an attribute's name, or "Name", "Alias", "Container".
+    const char* AttributeName() const { return feature->Layout().SlotName(slot); }
+};
+
+/// A committed step: its entries undo it when they are applied backwards and redo it forwards.
+struct KORUndoStep {
+    std::string name;
+    std::vector<KORUndoEntry> entries;  ///< at most one per slot and scope
+};
+
+/// The changes of one document that can be undone and redone. A step stands open while a KORStep scope lives;
+/// writes outside any are not logged. Undo, redo and rollback move values and copy none; their cost is that
+/// of the change. They raise the generation: what extensions know of their features is out of date.
+class KORUndoLog {
+public:
+    /// The committed steps, oldest first. The first Done() can be undone, the others redone.
+    const std::vector<KORUndoStep>& Steps() const { return steps_; }
+    std::size_t Done() const { return done_; }
+
+    /// What the open scopes have changed so far, oldest first.
+    const std::vector<KORUndoEntry>& OpenEntries() const { return open_; }
+
+    bool CanUndo() const { return !IsOpen() && done_ > 0; }
+    bool CanRedo() const { return !IsOpen() && done_ < steps_.size(); }
+    bool Undo() noexcept;  ///< false: there is nothing to undo, or a step stands open
+    bool Redo() noexcept;
+
+    std::uint32_t Generation() const { return generation_; }
+    void Clear() noexcept;  ///< forgets everything; what is done stays done
+
+    bool IsOpen() const { return stamp_ != 0; }
+
+    /// Identifies the innermost open scope; 0 when there is none. Counts up with every scope, so a slot takes
+    /// a stale one for its own only if it was left alone for exactly 2^32 scopes.
+    std::uint32_t Stamp() const { return stamp_; }
+
+    /// Exchanges a slot's value for another and keeps what is needed to go back.
+    void Log(KORFeature& feature, KORSlot slot, KORValue&& value);
+
+private:
+    friend class KORStep;
+
+    void Open();
+    void Commit(std::string&& name, std::uint32_t outerStamp);
+    void RollBack(std::size_t begin, std::uint32_t outerStamp) noexcept;
+
+    std::vector<KORUndoStep> steps_;
+    std::size_t done_ = 0;
+    std::vector<KORUndoEntry> open_;
+    std::uint32_t stamp_ = 0;
+    std::uint32_t lastStamp_ = 0;
+    std::uint32_t generation_ = 0;
+};

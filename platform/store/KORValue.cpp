@@ -1,0 +1,122 @@
+#include "platform/store/KORValue.h"
+
+namespace {
+
+std::uint64_t AddressOf(const void* object) {
+    return reinterpret_cast<std::uintptr_t>(object);
+}
+
+}  // namespace
+
+KORValue KORValue::OfString(const KORUnicodeString& text) {
+    return {KORAttributeKind::String, text.empty() ? 0 : AddressOf(new KORUnicodeString(text))};
+}
+
+KORValue KORValue::OfListOfDoubles(const KORRawColldouble& list) noexcept {
+    if (list.Size() == 0) return EmptyList(KORAttributeKind::ListOfDoubles);
+    KORRawColldouble share(list);
+    return {KORAttributeKind::ListOfDoubles, AddressOf(std::exchange(share.buffer_, nullptr))};
+}
+
+KORValue KORValue::OfComponent(KORBaseUnknown* component) noexcept {
+    if (!component) return KORValue(KORAttributeKind::Component);
+    component = component->MainObject();
+    component->AddRef();
+    return {KORAttributeKind::Component, AddressOf(component)};
+}
+
+KORValue KORValue::EmptyList(KORAttributeKind kind) noexcept {
+    KORValue empty(kind);
+    empty.state_ = KORValueState::Empty;
+    return empty;
+}
+
+std::uint64_t KORValue::CopyOwned() const {
+    switch (kind_) {
+        case KORAttributeKind::Boolean:
+        case KORAttributeKind::Integer:
+        case KORAttributeKind::Double:
+            return bits_;
+        case KORAttributeKind::String:
+            return AddressOf(new KORUnicodeString(*Text()));
+        case KORAttributeKind::ListOfDoubles:
+            ++Pointer<KORRawColldouble::Buffer>()->count;
+            return bits_;
+        case KORAttributeKind::Component:
+            Referenced()->AddRef();
+            return bits_;
+        case KORAttributeKind::ListOfComponents:
+            return AddressOf(new KORComponentList(*Components()));
+    }
+    return 0;
+}
+
+void KORValue::DropOwned() noexcept {
+    switch (kind_) {
+        case KORAttributeKind::Boolean:
+        case KORAttributeKind::Integer:
+        case KORAttributeKind::Double:
+            return;
+        case KORAttributeKind::String:
+            delete Text();
+            return;
+        case KORAttributeKind::ListOfDoubles: {
+            KORRawColldouble last;
+            last.buffer_ = Pointer<KORRawColldouble::Buffer>();
+            return;
+        }
+        case KORAttributeKind::Component:
+            Referenced()->Release();
+            return;
+        case KORAttributeKind::ListOfComponents:
+            delete Components();
+            return;
+    }
+}
+
+bool KORValue::OwnsSameAs(const KORValue& other) const {
+    switch (kind_) {
+        case KORAttributeKind::Boolean:
+        case KORAttributeKind::Integer:
+        case KORAttributeKind::Double:
+        case KORAttributeKind::Component:
+            return false;
+        case KORAttributeKind::String:
+            return *Text() == *other.Text();
+        case KORAttributeKind::ListOfDoubles:
+            return ListOfDoubles().SameBits(other.ListOfDoubles());
+        case KORAttributeKind::ListOfComponents:
+            return Components()->SameAs(*other.Components());
+    }
+    return false;
+}
+
+KORRawColldouble KORValue::ListOfDoubles() const {
+    KORRawColldouble share;
+    share.buffer_ = Pointer<KORRawColldouble::Buffer>();
+    if (share.buffer_) ++share.buffer_->count;
+    return share;
+}
+
+KORListValKORISpecObject_var KORValue::Features() const {
+    return bits_ ? Components()->Features() : KORListValKORISpecObject_var();
+}
+
+KORBaseUnknown_var KORValue::ComponentAt(int position) const {
+    return bits_ ? Components()->At(position) : nullptr;
+}
+
+int KORValue::ListSize() const {
+    if (bits_ == 0) return 0;
+    return kind_ == KORAttributeKind::ListOfDoubles ? Pointer<KORRawColldouble::Buffer>()->size
+                                                    : Components()->Size();
+}
+
+void KORValue::Append(KORBaseUnknown* component) {
+    if (bits_ == 0) {
+        bits_ = AddressOf(new KORComponentList);
+        state_ = KORValueState::Empty;
+    }
+    Components()->Append(component);
+    state_ = KORValueState::Valued;
+}

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <utility>
+
+#include "framework/KORRawColldouble.h"
+#include "platform/store/KORAttributeKind.h"
+#include "platform/store/KORComponentList.h"
+
+/// Never valued and empty are different for a list: the first reads as no list at all. Scalars, strings and
+/// components are never empty.
+enum class KORValueState : std::uint8_t { NeverValued, Empty, Valued };
+
+/// What one slot of a feature holds: an owning value of one of the attribute kinds, in 16 bytes. Strings and
+/// lists share their buffers with whoever handed them in or asked for them; a component is one counted
+/// reference on its main object.
+///
+/// Reading it as another kind than its own is the caller's bug.
+class KORValue {
+public:
+    explicit KORValue(KORAttributeKind kind) noexcept : kind_(kind) {}  ///< never valued
+
+    static KORValue OfBoolean(bool value) noexcept;
+    static KORValue OfInteger(int value) noexcept;
+    static KORValue OfDouble(double value) noexcept;
+    static KORValue OfString(const KORUnicodeString& text);
+    static KORValue OfListOfDoubles(const KORRawColldouble& list) noexcept;
+    static KORValue OfComponent(KORBaseUnknown* component) noexcept;  ///< of null: never valued
+    static KORValue EmptyList(KORAttributeKind kind) noexcept;        ///< `kind` is one of the lists
+
+    KORValue(const KORValue& other) : KORValue(other.kind_) {
+        bits_ = other.OwnsNothing() ? other.bits_ : other.CopyOwned();
+        state_ = other.state_;
+        stamp_ = other.stamp_;
+    }
+    KORValue(KORValue&& other) noexcept : KORValue(other.kind_) { Swap(other); }
+    KORValue& operator=(KORValue other) noexcept {
+        Swap(other);
+        return *this;
+    }
+    ~KORValue() {
+        if (!OwnsNothing()) DropOwned();
+    }
+
+    void Swap(KORValue& other) noexcept {
+        std::swap(bits_, other.bits_);
+        std::swap(stamp_, other.stamp_);
+        std::swap(kind_, other.kind_);
+        std::swap(state_, other.state_);
+    }
+
+    KORAttributeKind Kind() const { return kind_; }
+    KORValueState State() const { return state_; }
+
+    /// The same state and the same bits: a NaN equals itself, 0.0 differs from -0.0. Strings and lists are
+    /// compared by what they hold.
+    bool SameAs(const KORValue& other) const {
+        if (kind_ != other.kind_ || state_ != other.state_) return false;
+        if (bits_ == other.bits_) return true;
+        return !OwnsNothing() && other.bits_ != 0 && OwnsSameAs(other);
+    }
+
+    // A value that was never valued reads as false, 0, 0.0, empty text, no list and null.
+    bool Boolean() const { return bits_ != 0; }
+    int Integer() const { return static_cast<int>(static_cast<std::int64_t>(bits_)); }
+    double Double() const { return std::bit_cast<double>(bits_); }
+    KORUnicodeString String() const { return bits_ ? *Text() : KORUnicodeString(); }
+    KORRawColldouble ListOfDoubles() const;                     ///< a share of the list, not a copy
+    KORBaseUnknown* Component() const { return Referenced(); }  ///< no reference
+    KORListValKORISpecObject_var Features() const;       ///< a share of a list of components, as features
+    KORBaseUnknown_var ComponentAt(int position) const;  ///< of a list, counted from 1; null outside
+    int ListSize() const;                                ///< of either kind of list; never valued: 0
+
+    /// Appends to a list of components, whichever state it is in. Null is appended as an empty entry.
+    void Append(KORBaseUnknown* component);
+
+    /// The undo scope that logged this slot last. It belongs to the slot, not to the value, and travels with
+    /// a swap; 0 before the first one.
+    std::uint32_t Stamp() const { return stamp_; }
+    void SetStamp(std::uint32_t stamp) { stamp_ = stamp; }
+
+private:
+    KORValue(KORAttributeKind kind, std::uint64_t bits) noexcept
+        : bits_(bits), kind_(kind), state_(KORValueState::Valued) {}
+
+    bool OwnsNothing() const { return bits_ == 0 || kind_ <= KORAttributeKind::Double; }
+    bool OwnsSameAs(const KORValue& other) const;  ///< both own something of the same kind
+    std::uint64_t CopyOwned() const;
+    void DropOwned() noexcept;
+
+    template <class Object>
+    Object* Pointer() const {
+        return reinterpret_cast<Object*>(static_cast<std::uintptr_t>(bits_));
+    }
+    KORUnicodeString* Text() const { return Pointer<KORUnicodeString>(); }
+    KORBaseUnknown* Referenced() const { return Pointer<KORBaseUnknown>(); }
+    KORComponentList* Components() const { return Pointer<KORComponentList>(); }
+
+    std::uint64_t bits_ = 0;  ///< the scalar, or the address of what is owned; 0: nothing is owned
+    std::uint32_t stamp_ = 0;
+    KORAttributeKind kind_;
+    KORValueState state_ = KORValueState::NeverValued;
+};
+
+static_assert(sizeof(KORValue) == 16);
+
+inline KORValue KORValue::OfBoolean(bool value) noexcept {
+    return {KORAttributeKind::Boolean, value ? 1u : 0u};
+}
+
+inline KORValue KORValue::OfInteger(int value) noexcept {
+    return {KORAttributeKind::Integer, static_cast<std::uint64_t>(static_cast<std::int64_t>(value))};
+}
+
+inline KORValue KORValue::OfDouble(double value) noexcept {
+    return {KORAttributeKind::Double, std::bit_cast<std::uint64_t>(value)};
+}
