@@ -5,12 +5,16 @@
 include(GoogleTest)
 find_package(GTest REQUIRED)
 
+# What every test includes, parsed once for all of them.
+add_executable(zel_test_headers "${PROJECT_SOURCE_DIR}/cmake/ZELTestHeaders.cpp")
+target_link_libraries(zel_test_headers PRIVATE zel_build_flags GTest::gmock)
+target_precompile_headers(zel_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
+
 function(zel_test name)
     cmake_parse_arguments(arg "" "" "FILES;LINKS" ${ARGN})
     add_executable(${name} ${arg_FILES})
     target_link_libraries(${name} PRIVATE ${arg_LINKS} zel_build_flags GTest::gmock GTest::gtest_main)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
-    # GoogleTest's own macros trip over these.
-    target_compile_options(${name} PRIVATE -Wno-null-dereference)
+    target_precompile_headers(${name} REUSE_FROM zel_test_headers)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
 endfunction()

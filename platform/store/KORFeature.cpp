@@ -21,6 +21,10 @@ void* KORFeature::operator new(std::size_t size, SlotCount slots) {
     return ::operator new(size + slots.count * sizeof(KORValue));
 }
 
+void KORFeature::operator delete(void* memory, SlotCount) { ::operator delete(memory); }
+
+void KORFeature::operator delete(void* memory) { ::operator delete(memory); }
+
 KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp)
     : type_(&type), number_(number) {
     const KORLayout& layout = type.Layout();

@@ -62,8 +62,8 @@ public:
         KORSlot count;
     };
     static void* operator new(std::size_t size, SlotCount slots);
-    static void operator delete(void* memory, SlotCount) { ::operator delete(memory); }
-    static void operator delete(void* memory) { ::operator delete(memory); }
+    static void operator delete(void* memory, SlotCount);
+    static void operator delete(void* memory);
 
 protected:
     void* OwnInterface(KORIID iid) override;

@@ -1,0 +1,59 @@
+#include "framework/KORName.h"
+
+#include <gtest/gtest.h>
+
+TEST(KORName, IsTheSameObjectForTheSameText) {
+    const std::string text = "YoungData";
+
+    EXPECT_EQ(KORName::Intern("YoungData"), KORName::Intern(text));
+    EXPECT_NE(KORName::Intern("YoungData"), KORName::Intern("PoissonData"));
+    EXPECT_NE(KORName::Intern("YoungData"), KORName::Intern("youngData"));
+}
+
+TEST(KORName, KeepsItsTextWhenTheCallersIsGone) {
+    const KORName* name = nullptr;
+    {
+        std::string text = "DensityData and more";
+        name = KORName::Intern(std::string_view(text).substr(0, 11));
+        text.assign(20, '*');
+    }
+
+    EXPECT_EQ(name->Text(), "DensityData");
+    EXPECT_STREQ(name->c_str(), "DensityData");
+}
+
+TEST(KORName, TakesTheEmptyTextForAName) {
+    EXPECT_EQ(KORName::Intern(""), KORName::Intern(std::string_view()));
+    EXPECT_EQ(KORName::Intern("")->Text(), "");
+}
+
+TEST(KORName, IsFoundOnlyOnceItWasInterned) {
+    EXPECT_EQ(KORName::Find("a name that nobody interned"), nullptr);
+
+    const KORName* name = KORName::Intern("a name that somebody interned");
+
+    EXPECT_EQ(KORName::Find("a name that somebody interned"), name);
+    EXPECT_EQ(KORName::Find("a name that nobody interned"), nullptr) << "asking does not intern";
+}
+
+TEST(KORName, IsNumberedInOrderOfFirstUse) {
+    const std::uint32_t first = KORName::Intern("numbered first")->Number();
+
+    EXPECT_EQ(KORName::Intern("numbered second")->Number(), first + 1);
+    EXPECT_EQ(KORName::Intern("numbered first")->Number(), first);
+    EXPECT_EQ(KORName::Intern("numbered third")->Number(), first + 2);
+}
+
+TEST(KORName, CountsWhatWasHandedOut) {
+    const KORName* name = KORName::Intern("counted");
+    EXPECT_EQ(name->References(), 0);
+
+    name->AddRef();
+    name->AddRef();
+    EXPECT_EQ(name->References(), 2);
+
+    name->Release();
+    name->Release();
+    EXPECT_EQ(name->References(), 0);
+    EXPECT_EQ(KORName::Find("counted"), name) << "the count keeps nothing alive";
+}

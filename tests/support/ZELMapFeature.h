@@ -1,0 +1,81 @@
+#pragma once
+
+#include <map>
+#include <variant>
+#include <vector>
+
+#include "interfaces/KORIAlias.h"
+#include "interfaces/KORILinkableObject.h"
+#include "interfaces/KORISpecAttrAccess.h"
+#include "tests/support/ZELMapWorld.h"
+
+class ZELMapContainer;
+
+/// A feature or a start-up of the map store: its values lie in a map by attribute name. What is not in the
+/// map was never valued.
+class ZELMapFeature final
+    : public ZELMapObject<KORISpecObject, KORISpecAttrAccess, KORILinkableObject, KORIAlias> {
+public:
+    /// A feature in a container, or a start-up (no container) that never lies in one. Values are the
+    /// defaults.
+    ZELMapFeature(const std::shared_ptr<ZELMapWorld>& world, const std::string& lateType,
+                  const KORUnicodeString& name, ZELMapContainer* container);
+    ~ZELMapFeature() override;
+
+    void EmptyAll() { values_.clear(); }  ///< the document is being closed
+    void LeaveContainer() { container_ = nullptr; }
+
+    KORUnicodeString GetType() override;
+    KORUnicodeString GetName() override;
+    KORBaseUnknown* GetFeatContainer() override;
+    KORISpecObject* Instantiate(const KORUnicodeString& name, KORIContainer* container) override;
+
+    KORISpecAttrKey* GetAttrKey(const char* name) override;
+    void SetDouble(KORISpecAttrKey* key, double value, int index) override;
+    void SetBoolean(KORISpecAttrKey* key, bool value, int index) override;
+    void SetString(KORISpecAttrKey* key, const KORUnicodeString& value, int index) override;
+    double GetDouble(KORISpecAttrKey* key, int index) override;
+    bool GetBoolean(KORISpecAttrKey* key, int index) override;
+    KORUnicodeString GetString(KORISpecAttrKey* key, int index) override;
+    KORISpecObject* GetSpecObject(const char* name, int index) override;
+    void SetListOfDouble(KORISpecAttrKey* key, const KORRawColldouble& values) override;
+    KORRawColldouble* GetListOfDouble(KORISpecAttrKey* key) override;
+    void SetInteger(KORISpecAttrKey* key, int value, int index) override;
+    int GetInteger(KORISpecAttrKey* key, int index) override;
+    void SetComponent(KORISpecAttrKey* key, KORBaseUnknown* component, int index) override;
+    KORBaseUnknown* GetComponent(KORISpecAttrKey* key, int index) override;
+    void AppendComponent(KORISpecAttrKey* key, KORBaseUnknown* component) override;
+    KORListValKORISpecObject_var* GetListOfComponents(KORISpecAttrKey* key) override;
+    int GetListSize(KORISpecAttrKey* key) override;
+    void RemoveAllValues(KORISpecAttrKey* key) override;
+    void RemoveValue(KORISpecAttrKey* key) override;
+
+    KORDocument* GetDocument() override;
+
+    void SetAlias(const KORUnicodeString& alias) override;
+    KORUnicodeString GetAlias() override;
+
+private:
+    using Entries = std::vector<KORBaseUnknown_var>;
+    /// Its alternatives stand in the order of the kinds.
+    using Value =
+        std::variant<bool, int, double, KORUnicodeString, KORRawColldouble, KORBaseUnknown_var, Entries>;
+
+    const KORName* DictionaryKey() const override { return KORName::Intern(lateType_); }
+    bool Has(const std::string& name, ZELKind kind) const;
+    bool Has(KORISpecAttrKey* key, ZELKind kind) const { return key && Has(key->Text(), kind); }
+    const Value* Find(const std::string& name, ZELKind kind) const;
+    ZELVerdict Note(const char* call, const std::string& attribute, const std::string& value,
+                    bool canFail) const;
+    void Write(const char* call, KORISpecAttrKey* key, const Value& value);
+    template <class T>
+    T Read(const char* call, KORISpecAttrKey* key, ZELKind kind) const;
+
+    std::string lateType_;
+    KORUnicodeString name_;
+    KORUnicodeString alias_;
+    ZELMapContainer* container_;  ///< weak; null on a start-up, when removed, and when the document is closed
+    bool isStartUp_;
+    std::vector<ZELAttribute> attributes_;  ///< as the catalog was when this feature was made
+    std::map<std::string, Value> values_;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "tests/support/ZELMapContainer.h"
+#include "tests/support/ZELTestStore.h"
+
+/// The second store: slow and simple, with a log of every call and with calls that can be made to fail. It
+/// knows no undo, no dirty marks and no files.
+class ZELMapStore final : public ZELTestStore {
+public:
+    ZELMapStore();
+    ~ZELMapStore() override;  ///< closes the document; handles on its features stay safe
+    ZELMapStore(const ZELMapStore&) = delete;
+    ZELMapStore& operator=(const ZELMapStore&) = delete;
+
+    KORISpecObject_var Make(const char* lateType) override;
+    KORIContainer_var Container() override;
+    KORDocument* Document() override;
+    void Remove(const KORISpecObject_var& feature) override;
+    long LiveFeatures() const override;
+    void DefineType(const char* lateType, std::vector<ZELAttribute> attributes) override;
+    void OmitAttribute(const char* lateType, const char* attribute) override;
+    void OmitType(const char* lateType) override;
+
+    ZELPlatformCalls& Calls() { return world_->calls; }
+
+    /// Attribute keys of the known types that were handed out and not given back, in the whole process.
+    long KeyReferences() const;
+
+private:
+    std::shared_ptr<ZELMapWorld> world_ = std::make_shared<ZELMapWorld>();
+    KORVar<ZELMapDocument> document_;
+};

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building and testing need. Does nothing, and needs neither network nor
+# root, when all of them are there.
+set -euo pipefail
+
+packages=(g++ cmake ninja-build ccache nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev
+    libbenchmark-dev gcovr clang-format)
+
+missing=()
+for package in "${packages[@]}"; do
+    if [[ "$(dpkg-query --show --showformat='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]]; then
+        missing+=("$package")
+    fi
+done
+
+if ((${#missing[@]} == 0)); then
+    echo "dependencies: all ${#packages[@]} packages are installed"
+    exit 0
+fi
+
+echo "dependencies: installing ${missing[*]}"
+as_root=()
+if ((EUID != 0)); then
+    as_root=(sudo)
+fi
+export DEBIAN_FRONTEND=noninteractive
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"

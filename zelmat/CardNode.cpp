@@ -1,0 +1,114 @@
+#include "zelmat/CardNode.h"
+
+#include <utility>
+
+namespace zelmat {
+
+using nlohmann::json;
+
+CardNode::CardNode(const KORJsonFile& file, Findings& findings)
+    : file_(&file), findings_(&findings), json_(&file.Root()) {}
+
+CardNode::CardNode(const CardNode& parent, json::json_pointer at)
+    : file_(parent.file_), findings_(parent.findings_), at_(std::move(at)), json_(&file_->Root().at(at_)) {}
+
+CardNode CardNode::At(const std::string& key) const {
+    return CardNode(*this, at_ / key);
+}
+
+CardNode CardNode::At(std::size_t index) const {
+    return CardNode(*this, at_ / index);
+}
+
+std::optional<CardNode> CardNode::Required(const std::string& key) const {
+    if (Has(key)) return At(key);
+    Report("missing-key", Path() + " lacks the key \"" + key + "\"");
+    return std::nullopt;
+}
+
+bool CardNode::Has(const std::string& key) const {
+    return json_->contains(key);
+}
+
+std::vector<std::string> CardNode::Keys() const {
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : json_->items()) keys.push_back(key);
+    return keys;
+}
+
+bool CardNode::ExpectObject() const {
+    if (!json_->is_object()) ReportKind("an object in braces");
+    return json_->is_object();
+}
+
+bool CardNode::ExpectList() const {
+    if (!json_->is_array()) ReportKind("a list");
+    return json_->is_array();
+}
+
+std::optional<std::string> CardNode::Text() const {
+    if (json_->is_string()) return json_->get<std::string>();
+    ReportKind("a text");
+    return std::nullopt;
+}
+
+std::optional<bool> CardNode::Flag() const {
+    if (json_->is_boolean()) return json_->get<bool>();
+    ReportKind("true or false");
+    return std::nullopt;
+}
+
+std::optional<double> CardNode::Number() const {
+    if (json_->is_number()) return json_->get<double>();
+    Report("not-a-number", Path() + " is not a number",
+           {"got " + Excerpt(), "expected a number without quotes"});
+    return std::nullopt;
+}
+
+std::optional<std::vector<std::string>> CardNode::Texts() const {
+    if (!ExpectList()) return std::nullopt;
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < Size(); ++i) {
+        if (auto text = At(i).Text()) texts.push_back(std::move(*text));
+    }
+    return texts.size() == Size() ? std::optional(std::move(texts)) : std::nullopt;
+}
+
+std::optional<std::vector<std::string>> CardNode::OneOrMoreTexts() const {
+    if (json_->is_string()) return std::vector<std::string>{json_->get<std::string>()};
+    return Texts();
+}
+
+std::string CardNode::Path() const {
+    std::string path;
+    auto at = at_;
+    for (; !at.empty(); at.pop_back()) {
+        const bool inList = file_->Root().at(at.parent_pointer()).is_array();
+        const std::string step = inList ? "[" + at.back() + "]" : at.back();
+        path = path.empty() || path.front() == '[' ? step + path : step + "." + path;
+    }
+    return path.empty() ? "the card" : path;
+}
+
+std::string CardNode::Excerpt() const {
+    constexpr std::size_t kLongest = 40;
+    // A cut may fall inside a character: everything beyond plain ASCII is written as an escape.
+    std::string text = json_->dump(-1, ' ', true);
+    if (text.size() > kLongest) text = text.substr(0, kLongest) + "...";
+    return text;
+}
+
+int CardNode::Line() const {
+    return file_->Line(at_);
+}
+
+void CardNode::Report(std::string code, std::string text, std::vector<std::string> details) const {
+    findings_->Add(
+        {FindingKind::ERROR, {file_->Name(), Line()}, std::move(code), std::move(text), std::move(details)});
+}
+
+void CardNode::ReportKind(const char* expected) const {
+    Report("wrong-type", Path() + " is not " + expected, {"got " + Excerpt()});
+}
+
+}  // namespace zelmat

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zelmat {
+
+/// How the program ends.
+enum ExitCode : int {
+    EXIT_CLEAN = 0,
+    EXIT_FINDINGS = 1,    ///< the work is done or was refused; something was found on the way
+    EXIT_USAGE = 2,       ///< the command line asks for something that there is not
+    EXIT_UNREADABLE = 3,  ///< something could not be read or written at all
+};
+
+enum class FindingKind {
+    WARNING,     ///< the data went in, though not as given
+    ERROR,       ///< the data are refused
+    UNREADABLE,  ///< a file could not be read or written; shown as an error
+};
+
+/// A spot in a file. Line 0 is the file as a whole.
+struct Place {
+    std::string file;
+    int line = 0;  ///< counted from 1
+};
+
+/// One thing the user has to know, with the place to look at.
+struct Finding {
+    FindingKind kind = FindingKind::ERROR;
+    Place place;
+    std::string code;  ///< stable and made of words ("unknown-column"), for scripts to match
+    std::string text;
+    std::vector<std::string> details;  ///< the value, its bound, a hint; those that apply
+};
+
+/// `file:line: error[code]: text (value, bound, hint)`
+std::string FindingLine(const Finding& finding);
+
+/// "error" or "warning"
+const char* KindWord(FindingKind kind);
+
+/// What was found so far, in the order of finding.
+class Findings {
+public:
+    void Add(Finding finding) { all_.push_back(std::move(finding)); }
+
+    const std::vector<Finding>& All() const { return all_; }
+    std::vector<Finding> ByLine() const;  ///< in the order of their lines; of one file
+    bool HasErrors() const;               ///< anything worse than a warning
+    ExitCode Exit() const;                ///< the worst of them decides
+
+private:
+    std::vector<Finding> all_;
+};
+
+}  // namespace zelmat

@@ -1,0 +1,108 @@
+#include "zelmat/MaterialCardReader.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "zelmat/CardTableReader.h"
+#include "zelmat/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+constexpr std::array<std::pair<const char*, const char*>, 7> kUnits = {{
+    {"stress", "Pa"},
+    {"length", "m"},
+    {"temperature", "K"},
+    {"density", "kg/m3"},
+    {"thermal_expansion", "1/K"},
+    {"conductivity", "W/(m K)"},
+    {"specific_heat", "J/(kg K)"},
+}};
+
+constexpr std::array<const char*, 5> kHeadKeys = {"name", "description", "source", "units", "illustrative"};
+
+}  // namespace
+
+std::optional<MaterialCard> MaterialCardReader::Read(const std::string& path) {
+    KORJsonError error;
+    const auto file = KORJsonFile::Read(path, error);
+    if (!file) {
+        const bool broken = error.line > 0;
+        std::vector<std::string> details;
+        if (broken) details.push_back("column " + std::to_string(error.column));
+        findings_.Add({FindingKind::UNREADABLE,
+                       {path, error.line},
+                       broken ? "broken-json" : "unreadable",
+                       error.message,
+                       std::move(details)});
+        return std::nullopt;
+    }
+
+    Findings mistakes;
+    MaterialCard card;
+    card.file = path;
+    const CardNode root(*file, mistakes);
+    if (root.ExpectObject()) {
+        ReadHead(root, card);
+        ReadBlocks(root, card);
+        ReportUnknownBlocks(root);
+    }
+    for (const Finding& mistake : mistakes.ByLine()) findings_.Add(mistake);
+    if (mistakes.HasErrors()) return std::nullopt;
+    return card;
+}
+
+void MaterialCardReader::ReadHead(const CardNode& root, MaterialCard& card) const {
+    if (const auto name = root.Required("name")) card.name = name->Text().value_or("");
+    if (root.Has("description")) card.description = root.At("description").Text().value_or("");
+    if (root.Has("illustrative")) card.illustrative = root.At("illustrative").Flag().value_or(false);
+    if (root.Has("source"))
+        card.sources = root.At("source").OneOrMoreTexts().value_or(std::vector<std::string>());
+    if (root.Has("units")) ReadUnits(root.At("units"));
+}
+
+void MaterialCardReader::ReadUnits(const CardNode& units) const {
+    if (!units.ExpectObject()) return;
+    for (const std::string& quantity : units.Keys()) {
+        const CardNode node = units.At(quantity);
+        const auto known = std::find_if(kUnits.begin(), kUnits.end(),
+                                        [&](const auto& unit) { return unit.first == quantity; });
+        if (known == kUnits.end()) {
+            node.Report("unknown-unit", "there is no quantity \"" + quantity + "\"",
+                        {"known: " + WordList(kUnits, [](const auto& unit) { return unit.first; })});
+            continue;
+        }
+        const auto given = node.Text();
+        if (given && *given != known->second) {
+            node.Report("wrong-unit", quantity + " is given in \"" + *given + "\"",
+                        {std::string("expected ") + known->second, "convert the values"});
+        }
+    }
+}
+
+void MaterialCardReader::ReadBlocks(const CardNode& root, MaterialCard& card) const {
+    for (const CardBlock& block : CardBlocks()) {
+        if (!root.Has(block.name)) continue;
+        std::optional<CardTable> table;
+        if (!block.forms.empty()) table = CardTableReader(root.At(block.name), block).Read();
+        if (block.use != CardUse::SHOWN) {
+            card.notShown.push_back(&block);
+        } else if (table) {
+            card.tables.push_back(std::move(*table));
+        }
+    }
+}
+
+void MaterialCardReader::ReportUnknownBlocks(const CardNode& root) const {
+    for (const std::string& key : root.Keys()) {
+        if (std::find(kHeadKeys.begin(), kHeadKeys.end(), key) != kHeadKeys.end() || FindCardBlock(key))
+            continue;
+        root.At(key).Report(
+            "unknown-block", "there is no block \"" + key + "\"",
+            {"known: " + WordList(CardBlocks(), [](const CardBlock& block) { return block.name; })});
+    }
+}
+
+}  // namespace zelmat

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "interfaces/KORISpecObject.h"
+#include "zelmat/Findings.h"
+#include "zelmat/MaterialCard.h"
+
+namespace zelmat {
+
+/// What the store holds for a material: every behavior that is switched on reads its data from there again,
+/// as the writer of an analysis input would have it. `file` and `name` say in findings which material it is
+/// about.
+std::vector<StoredTable> ReadMaterial(KORISpecObject* material, const std::string& file,
+                                      const std::string& name, Findings& findings);
+
+}  // namespace zelmat
