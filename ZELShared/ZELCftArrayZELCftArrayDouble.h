@@ -40,7 +40,8 @@ public:
     /// Resets the table to `size` rows copied from `rows`; (0, null) empties it and keeps its room for the
     /// next rows.
     void Initialize(int size, const ZELCftArraydouble* rows);
-    void Kill();  ///< frees all rows
+    void Resize(int size) { rows_.resize(Place(size)); }  ///< keeps rows that are there; new ones are empty
+    void Kill();                                          ///< frees all rows
 
 private:
     static std::size_t Place(int index) { return static_cast<std::size_t>(index); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstring>
 
 /// One row of a property table: a growable array of doubles, numbered from 0. Four numbers lie in the row
 /// itself, so the usual row needs no allocation.
@@ -36,6 +37,14 @@ public:
     /// nothing.
     double& operator[](int index) { return InRange(index) ? values_[index] : Outside(); }
     const double& operator[](int index) const { return InRange(index) ? values_[index] : Outside(); }
+
+    /// Makes the row these numbers, four at most: any row has room for as many.
+    template <std::size_t Size>
+    void Assign(const double (&values)[Size]) {
+        static_assert(Size <= kInline);
+        std::memcpy(values_, values, sizeof values);
+        size_ = static_cast<int>(Size);
+    }
 
     int size() const { return size_; }
     bool Prepare(int size);  ///< room for this many numbers; false when memory is short

@@ -9,8 +9,8 @@ inline const KORIID IID_ZELIKqcAnalysisCaseFact = KORName::Intern("ZELIKqcAnalys
 class ZELIKqcAnalysisCaseFact : public KORIUnknown {
     KORDeclareInterface(ZELIKqcAnalysisCaseFact)
 
-        /// Creates the analysis property set (late type "ZELZelmarPropertySetLT") of a document.
-        [[nodiscard]] virtual HRESULT CreatePropertySet(KORDocument* document) = 0;
+    /// Creates the analysis property set (late type "ZELZelmarPropertySetLT") of a document.
+    [[nodiscard]] virtual HRESULT CreatePropertySet(KORDocument* document) = 0;
 };
 
 using ZELIKqcAnalysisCaseFact_var = KORVar<ZELIKqcAnalysisCaseFact>;

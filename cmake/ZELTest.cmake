@@ -16,5 +16,6 @@ function(zel_test name)
     target_link_libraries(${name} PRIVATE ${arg_LINKS} zel_build_flags GTest::gmock GTest::gtest_main)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")
     target_precompile_headers(${name} REUSE_FROM zel_test_headers)
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT
+        "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/leak-suppressions.txt:print_suppressions=0")
 endfunction()

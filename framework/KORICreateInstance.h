@@ -8,9 +8,9 @@ inline const KORIID IID_KORICreateInstance = KORName::Intern("KORICreateInstance
 class KORICreateInstance : public KORIUnknown {
     KORDeclareInterface(KORICreateInstance)
 
-        /// Stores a new instance in *out: a KORBaseUnknown* with one reference for the caller. E_OUTOFMEMORY,
-        /// and null in *out, when it cannot be allocated.
-        [[nodiscard]] virtual HRESULT CreateInstance(void** out) = 0;
+    /// Stores a new instance in *out: a KORBaseUnknown* with one reference for the caller. E_OUTOFMEMORY,
+    /// and null in *out, when it cannot be allocated.
+    [[nodiscard]] virtual HRESULT CreateInstance(void** out) = 0;
 };
 
 using KORICreateInstance_var = KORVar<KORICreateInstance>;

@@ -56,22 +56,24 @@ const KORMetaClass& fct_RetrieveMetaObject(const char* className, KORClassKind k
 /// Opens the body of a registered class: the class-wide queries, and the creation by the framework.
 #define KORDeclareClass                                                                              \
 public:                                                                                              \
-    static const char* ClassName() {                                                                 \
-        return MetaObject().ClassName();                                                             \
-    }                                                                                                \
-    static KORClassId ClassId() {                                                                    \
-        return MetaObject().ClassId();                                                               \
-    }                                                                                                \
+    [[maybe_unused]] static const char* ClassName();                                                 \
+    [[maybe_unused]] static KORClassId ClassId();                                                    \
     static const KORMetaClass& MetaObject(); /**< the registration record, made on first use */      \
     static KORBaseUnknown* CreateItself();   /**< a new instance for the framework, one reference */ \
     const KORMetaClass& GetMetaObject() const override {                                             \
         return MetaObject();                                                                         \
     }
 
-/// The registration record of a class, in the class's own source file.
+/// The registration record of a class and the queries that it answers, in the class's own source file.
 #define KORImplementClass(Class, kind, lateType, module)                                          \
     const KORMetaClass& Class::MetaObject() {                                                     \
         static const KORMetaClass& record =                                                       \
             fct_RetrieveMetaObject(#Class, kind, KORBaseUnknown::MetaObject(), lateType, module); \
         return record;                                                                            \
+    }                                                                                             \
+    const char* Class::ClassName() {                                                              \
+        return MetaObject().ClassName();                                                          \
+    }                                                                                             \
+    KORClassId Class::ClassId() {                                                                 \
+        return MetaObject().ClassId();                                                            \
     }

@@ -1,7 +1,9 @@
 #include "framework/KORName.h"
 
-#include <unordered_map>
+#include <functional>
+#include <vector>
 
+/// All names, in a table of open addressing: look-ups are on the way of every attribute key.
 class KORNamePool {
 public:
     /// Never destroyed: names are used by static objects of every library, in any order, up to the very end.
@@ -10,24 +12,52 @@ public:
         return pool;
     }
 
-    const KORName* Find(std::string_view text) const {
-        const auto found = names_.find(text);
-        return found == names_.end() ? nullptr : found->second;
-    }
+    const KORName* Find(std::string_view text) const { return places_[PlaceOf(text, Hash(text))].name; }
 
-    const KORName* Add(std::string_view text) {
-        auto* name = new KORName(text, static_cast<std::uint32_t>(names_.size()));
-        names_.emplace(name->Text(), name);
-        return name;
+    const KORName* Intern(std::string_view text) {
+        const std::size_t hash = Hash(text);
+        std::size_t place = PlaceOf(text, hash);
+        if (places_[place].name) return places_[place].name;
+        if (2 * (count_ + 1) > places_.size()) {
+            Grow();
+            place = PlaceOf(text, hash);
+        }
+        places_[place] = {hash, new KORName(text, count_++)};
+        return places_[place].name;
     }
 
 private:
-    std::unordered_map<std::string_view, const KORName*> names_;
+    struct Place {
+        std::size_t hash = 0;
+        const KORName* name = nullptr;
+    };
+
+    static std::size_t Hash(std::string_view text) { return std::hash<std::string_view>()(text); }
+
+    /// Where a name stands, or would stand.
+    std::size_t PlaceOf(std::string_view text, std::size_t hash) const {
+        const std::size_t mask = places_.size() - 1;
+        std::size_t place = hash & mask;
+        while (places_[place].name && (places_[place].hash != hash || places_[place].name->Text() != text)) {
+            place = (place + 1) & mask;
+        }
+        return place;
+    }
+
+    void Grow() {
+        std::vector<Place> old(2 * places_.size());
+        old.swap(places_);
+        for (const Place& entry : old) {
+            if (entry.name) places_[PlaceOf(entry.name->Text(), entry.hash)] = entry;
+        }
+    }
+
+    std::vector<Place> places_ = std::vector<Place>(1024);  ///< a power of two, at most half full
+    std::uint32_t count_ = 0;
 };
 
 const KORName* KORName::Intern(std::string_view text) {
-    const KORName* known = Find(text);
-    return known ? known : KORNamePool::Instance().Add(text);
+    return KORNamePool::Instance().Intern(text);
 }
 
 const KORName* KORName::Find(std::string_view text) {

@@ -27,6 +27,16 @@ public:
         Values(buffer_)[buffer_->size++] = value;
     }
 
+    /// Appends `count` values for the caller to fill, at once: they are not initialized. Good until the next
+    /// change.
+    double* Extend(int count) {
+        Reserve(Size() + count);
+        if (count == 0) return nullptr;
+        double* values = Values(buffer_) + buffer_->size;
+        buffer_->size += count;
+        return values;
+    }
+
     /// The value at a position counted from 1; the caller stays within Size().
     double operator[](int position) const { return Values(buffer_)[position - 1]; }
 

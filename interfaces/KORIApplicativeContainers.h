@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/KORBaseUnknown.h"
 #include "interfaces/KORDocument.h"
 
 inline const KORIID IID_KORIApplicativeContainers = KORName::Intern("KORIApplicativeContainers");

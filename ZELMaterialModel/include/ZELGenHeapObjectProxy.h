@@ -30,9 +30,7 @@ public:
         T* object = object_;
         counter_ = nullptr;
         object_ = nullptr;
-        if (!counter || --*counter >= 1) return;
-        delete object;
-        delete counter;
+        if (counter && --*counter < 1) Delete(object, counter);
     }
 
     /// Lets go, then takes the object over with a counter of its own, also when it is null.
@@ -49,6 +47,13 @@ public:
     std::int32_t GetNumberOfReferences() const { return counter_ ? *counter_ : 0; }
 
 private:
+    /// Not inlined: through several inlined proxies of one object the compiler loses track of who was the
+    /// last.
+    [[gnu::noinline]] static void Delete(T* object, std::int32_t* counter) {
+        delete object;
+        delete counter;
+    }
+
     void Share(const ZELGenHeapObjectProxy& other) {
         counter_ = other.counter_;
         object_ = other.object_;

@@ -14,7 +14,7 @@ inline const KORIID IID_ZELIHyperelasticMaterialModel = KORName::Intern("ZELIHyp
 class ZELIHyperelasticMaterialModel : public KORIUnknown {
     KORDeclareInterface(ZELIHyperelasticMaterialModel)
 
-        virtual HRESULT GetStrainEnergyPotentialOrder(int& order) = 0;
+    virtual HRESULT GetStrainEnergyPotentialOrder(int& order) = 0;
     virtual HRESULT SetStrainEnergyPotentialOrder(int order) = 0;  ///< no range check
     virtual HRESULT GetPropertyTemperatureDependent(unsigned char& dependent) = 0;
     virtual HRESULT SetPropertyTemperatureDependent(unsigned char dependent) = 0;

@@ -12,7 +12,7 @@ inline const KORIID IID_ZELIJohnsonCookData = KORName::Intern("ZELIJohnsonCookDa
 class ZELIJohnsonCookData : public KORIUnknown {
     KORDeclareInterface(ZELIJohnsonCookData)
 
-        virtual HRESULT GetCoeffA(double& value) = 0;  ///< A, initial yield stress, Pa
+    virtual HRESULT GetCoeffA(double& value) = 0;  ///< A, initial yield stress, Pa
     virtual HRESULT SetCoeffA(const double& value) = 0;
     virtual HRESULT GetCoeffB(double& value) = 0;  ///< B, hardening modulus, Pa
     virtual HRESULT SetCoeffB(const double& value) = 0;

@@ -9,9 +9,9 @@ inline const KORIID IID_ZELILayup = KORName::Intern("ZELILayup");
 class ZELILayup : public KORIUnknown {
     KORDeclareInterface(ZELILayup)
 
-        /// Replaces the layers. Empty handles are stored as they come. E_FAIL when the feature offers no
-        /// attribute access or lacks the list.
-        virtual HRESULT SetLayers(const KORListValKORISpecObject_var& layers) = 0;
+    /// Replaces the layers. Empty handles are stored as they come. E_FAIL when the feature offers no
+    /// attribute access or lacks the list.
+    virtual HRESULT SetLayers(const KORListValKORISpecObject_var& layers) = 0;
 
     /// Appends the stored layers to the caller's list; what is stored empty is skipped.
     virtual HRESULT GetLayers(KORListValKORISpecObject_var& layers) = 0;

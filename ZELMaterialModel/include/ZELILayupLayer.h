@@ -12,8 +12,8 @@ inline const KORIID IID_ZELILayupLayer = KORName::Intern("ZELILayupLayer");
 class ZELILayupLayer : public KORIUnknown {
     KORDeclareInterface(ZELILayupLayer)
 
-        /// The platform material that the layer is made of.
-        virtual HRESULT SetMaterial(const KORISpecObject_var& material) = 0;
+    /// The platform material that the layer is made of.
+    virtual HRESULT SetMaterial(const KORISpecObject_var& material) = 0;
 
     /// S_OK, and the caller's handle as it was, when the layer has no material.
     virtual HRESULT GetMaterial(KORISpecObject_var& material) = 0;

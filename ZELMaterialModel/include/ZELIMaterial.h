@@ -23,7 +23,7 @@ inline const KORIID IID_ZELIMaterial = KORName::Intern("ZELIMaterial");
 class ZELIMaterial : public KORIUnknown {
     KORDeclareInterface(ZELIMaterial)
 
-        virtual void GetElasticProperties(ZELGenHeapObjectProxy<ZELMaterialElastic>& proxy) = 0;
+    virtual void GetElasticProperties(ZELGenHeapObjectProxy<ZELMaterialElastic>& proxy) = 0;
     virtual void GetPlasticProperties(ZELGenHeapObjectProxy<ZELMaterialPlastic>& proxy) = 0;
     virtual void GetDensityProperties(ZELGenHeapObjectProxy<ZELMaterialDensity>& proxy) = 0;
     virtual void GetThermalExpansionProperties(ZELGenHeapObjectProxy<ZELMaterialThermalExpansion>& proxy) = 0;

@@ -11,16 +11,16 @@ inline const KORIID IID_ZELIMaterialPropertiesFact = KORName::Intern("ZELIMateri
 class ZELIMaterialPropertiesFact : public KORIUnknown {
     KORDeclareInterface(ZELIMaterialPropertiesFact)
 
-        /// Creates the complete analysis data of a platform material, in the material's own container: a
-        /// "ZELMaterialLT" feature with one fresh feature per behavior beneath it, and the starting values of
-        /// the gasket behaviors. Every call makes a new tree; hanging it on the material is the caller's
-        /// business.
-        ///
-        /// `created` receives the root with one reference for the caller as soon as it exists, whatever fails
-        /// later; it is untouched for a null material and before instantiation was tried, null when that made
-        /// nothing. E_FAIL at the first step that fails; what was made before stays in the container.
-        [[nodiscard]] virtual HRESULT
-        CreateZELMaterialProperty(KORIMaterialFeature*& material, KORISpecObject*& created) = 0;
+    /// Creates the complete analysis data of a platform material, in the material's own container: a
+    /// "ZELMaterialLT" feature with one fresh feature per behavior beneath it, and the starting values of
+    /// the gasket behaviors. Every call makes a new tree; hanging it on the material is the caller's
+    /// business.
+    ///
+    /// `created` receives the root with one reference for the caller as soon as it exists, whatever fails
+    /// later; it is untouched for a null material and before instantiation was tried, null when that made
+    /// nothing. E_FAIL at the first step that fails; what was made before stays in the container.
+    [[nodiscard]] virtual HRESULT CreateZELMaterialProperty(KORIMaterialFeature*& material,
+                                                            KORISpecObject*& created) = 0;
 
     /// Creates an empty layup with a unique visible name ("Layup-1") in the analysis property set of a
     /// document, and the set first if there is none. A null document stands for the one that the user works

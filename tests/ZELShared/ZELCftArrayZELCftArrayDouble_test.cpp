@@ -124,3 +124,17 @@ TEST(ZELCftArrayZELCftArrayDouble, PreparingRoomAddsNoRow) {
 
     EXPECT_EQ(table.size(), 0);
 }
+
+TEST(ZELCftArrayZELCftArrayDouble, KeepsItsRowsAndAddsEmptyOnesWhenItIsResized) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.push_back(Row(1, 2));
+
+    table.Resize(3);
+    ASSERT_EQ(table.size(), 3);
+    EXPECT_EQ(table[0][1], 2.0);
+    EXPECT_EQ(table[2].size(), 0);
+
+    table.Resize(1);
+    ASSERT_EQ(table.size(), 1);
+    EXPECT_EQ(table[0][0], 1.0);
+}

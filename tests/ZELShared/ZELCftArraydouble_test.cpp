@@ -144,3 +144,16 @@ TEST(ZELCftArraydouble, PreparingRoomChangesNeitherSizeNorNumbers) {
     ASSERT_EQ(row.size(), 2);
     EXPECT_EQ(row[1], 2.5);
 }
+
+TEST(ZELCftArraydouble, IsMadeAnotherRowOfNumbersAtOnce) {
+    for (const int size : {0, 2, 9}) {
+        ZELCftArraydouble row(size);
+
+        row.Assign({210e9, 0.3, 293.15});
+
+        ASSERT_EQ(row.size(), 3);
+        EXPECT_EQ(row[0], 210e9);
+        EXPECT_EQ(row[2], 293.15);
+        EXPECT_EQ(row[3], 0.0);
+    }
+}

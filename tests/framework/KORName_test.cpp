@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 TEST(KORName, IsTheSameObjectForTheSameText) {
     const std::string text = "YoungData";
 
@@ -42,6 +45,18 @@ TEST(KORName, IsNumberedInOrderOfFirstUse) {
     EXPECT_EQ(KORName::Intern("numbered second")->Number(), first + 1);
     EXPECT_EQ(KORName::Intern("numbered first")->Number(), first);
     EXPECT_EQ(KORName::Intern("numbered third")->Number(), first + 2);
+}
+
+TEST(KORName, StaysTheSameObjectHoweverManyNamesComeAfterIt) {
+    const KORName* early = KORName::Intern("early");
+    std::vector<const KORName*> names;
+    for (int i = 0; i < 5000; ++i) names.push_back(KORName::Intern("name " + std::to_string(i)));
+
+    EXPECT_EQ(KORName::Find("early"), early);
+    for (int i = 0; i < 5000; ++i) {
+        ASSERT_EQ(KORName::Find("name " + std::to_string(i)), names[static_cast<std::size_t>(i)]);
+        ASSERT_EQ(names[static_cast<std::size_t>(i)]->Text(), "name " + std::to_string(i));
+    }
 }
 
 TEST(KORName, CountsWhatWasHandedOut) {

@@ -157,3 +157,26 @@ TEST(KORRawColldouble, IsTheSameAsAnEmptyListOnceEmptied) {
 
     EXPECT_TRUE(reserved.SameBits(KORRawColldouble()));
 }
+
+TEST(KORRawColldouble, IsExtendedByValuesToFill) {
+    KORRawColldouble list;
+    list.Append(1.0);
+    const KORRawColldouble before(list);
+
+    double* values = list.Extend(2);
+    values[0] = 2.0;
+    values[1] = 3.0;
+
+    ASSERT_EQ(list.Size(), 3);
+    EXPECT_EQ(list[1], 1.0);
+    EXPECT_EQ(list[3], 3.0);
+    EXPECT_EQ(before.Size(), 1);
+}
+
+TEST(KORRawColldouble, IsAsItWasWhenExtendedByNothing) {
+    KORRawColldouble list;
+
+    EXPECT_EQ(list.Extend(0), nullptr);
+
+    EXPECT_EQ(list.Size(), 0);
+}

@@ -10,7 +10,7 @@
 KORImplementClass(ZELEHyperelasticMaterialModel, KORClassKind::DataExtension,
                   "ZELHyperelasticMaterialModelLT", kZELModule)
 
-    KORBaseUnknown* ZELEHyperelasticMaterialModel::CreateItself() {
+KORBaseUnknown* ZELEHyperelasticMaterialModel::CreateItself() {
     return new ZELEHyperelasticMaterialModel;
 }
 

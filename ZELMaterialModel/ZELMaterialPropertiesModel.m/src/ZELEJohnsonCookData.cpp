@@ -8,7 +8,7 @@
 
 KORImplementClass(ZELEJohnsonCookData, KORClassKind::CodeExtension, "ZELPlasticJohnsonCookLT", kZELModule)
 
-    KORBaseUnknown* ZELEJohnsonCookData::CreateItself() {
+KORBaseUnknown* ZELEJohnsonCookData::CreateItself() {
     return new ZELEJohnsonCookData;
 }
 

@@ -8,8 +8,8 @@
 class ZELEJohnsonCookData final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        HRESULT
-        GetCoeffA(double& value);
+    HRESULT
+    GetCoeffA(double& value);
     HRESULT SetCoeffA(const double& value);
     HRESULT GetCoeffB(double& value);
     HRESULT SetCoeffB(const double& value);

@@ -11,7 +11,7 @@
 
 KORImplementClass(ZELELayup, KORClassKind::DataExtension, "ZELLayupLT", kZELModule)
 
-    KORBaseUnknown* ZELELayup::CreateItself() {
+KORBaseUnknown* ZELELayup::CreateItself() {
     return new ZELELayup;
 }
 

@@ -7,8 +7,8 @@
 class ZELELayup final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        HRESULT
-        SetLayers(const KORListValKORISpecObject_var& layers);
+    HRESULT
+    SetLayers(const KORListValKORISpecObject_var& layers);
     HRESULT GetLayers(KORListValKORISpecObject_var& layers);
     bool IsUnused();
 };

@@ -11,7 +11,7 @@
 
 KORImplementClass(ZELELayupLayer, KORClassKind::DataExtension, "ZELLayupLayerLT", kZELModule)
 
-    KORBaseUnknown* ZELELayupLayer::CreateItself() {
+KORBaseUnknown* ZELELayupLayer::CreateItself() {
     return new ZELELayupLayer;
 }
 

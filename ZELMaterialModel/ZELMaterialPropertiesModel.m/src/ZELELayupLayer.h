@@ -8,8 +8,8 @@
 class ZELELayupLayer final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        HRESULT
-        SetMaterial(const KORISpecObject_var& material);
+    HRESULT
+    SetMaterial(const KORISpecObject_var& material);
     HRESULT GetMaterial(KORISpecObject_var& material);
     HRESULT SetThickness(const double& thickness);
     HRESULT GetThickness(double& thickness);

@@ -9,7 +9,7 @@
 
 KORImplementClass(ZELELayupValidity, KORClassKind::DataExtension, "ZELLayupLT", kZELModule)
 
-    KORBaseUnknown* ZELELayupValidity::CreateItself() {
+KORBaseUnknown* ZELELayupValidity::CreateItself() {
     return new ZELELayupValidity;
 }
 

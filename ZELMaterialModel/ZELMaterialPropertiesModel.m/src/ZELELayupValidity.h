@@ -10,6 +10,6 @@
 class ZELELayupValidity final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        HRESULT
-        IsValid(const KORISpecObject_var& layup, const void* context, std::uint32_t& status);
+    HRESULT
+    IsValid(const KORISpecObject_var& layup, const void* context, std::uint32_t& status);
 };

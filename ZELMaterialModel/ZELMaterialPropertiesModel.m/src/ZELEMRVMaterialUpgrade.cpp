@@ -21,7 +21,7 @@
 
 KORImplementClass(ZELEMRVMaterialUpgrade, KORClassKind::DataExtension, "ZELMaterialLT", kZELModule)
 
-    KORBaseUnknown* ZELEMRVMaterialUpgrade::CreateItself() {
+KORBaseUnknown* ZELEMRVMaterialUpgrade::CreateItself() {
     return new ZELEMRVMaterialUpgrade;
 }
 
@@ -214,10 +214,11 @@ HRESULT ZELEMRVMaterialUpgrade::MoveHyperelasticModel(const Work& work) {
     if (FAILED(model->SetPropertyData(rows))) return E_FAIL;  // the old model still has them
 
     // The new key is looked up before the old value goes: a document without it keeps its model where it is.
+    const KORBaseUnknown_var moved(created);
     return ZELFailOnly(ZELUseAttribute(hyperelasticity.Get(), ZELKeyOnce(ZELKey::HyperelasticModel_v2),
                                        [&](KORISpecAttrAccess& access, KORISpecAttrKey* key) {
                                            RemoveValue(hyperelasticity.Get(), ZELKey::HyperelasticModel);
-                                           access.SetComponent(key, KORBaseUnknown_var(created).Get(), 0);
+                                           access.SetComponent(key, moved.Get(), 0);
                                        }));
 }
 

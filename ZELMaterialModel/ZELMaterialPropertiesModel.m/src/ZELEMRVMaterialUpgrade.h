@@ -11,8 +11,7 @@
 class ZELEMRVMaterialUpgrade final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        bool
-        IsUpgradeNeeded();
+    bool IsUpgradeNeeded();
     HRESULT Upgrade();
 
 private:

@@ -12,7 +12,7 @@
 
 KORImplementClass(ZELMaterial, KORClassKind::DataExtension, "ZELMaterialLT", kZELModule)
 
-    KORBaseUnknown* ZELMaterial::CreateItself() {
+KORBaseUnknown* ZELMaterial::CreateItself() {
     return new ZELMaterial;
 }
 
@@ -104,7 +104,9 @@ HRESULT ZELMaterial::IsAllZelmarPropertiesEnabled(bool& enabled) {
 }
 
 unsigned char ZELMaterial::ISGasketEnabled() {
-    return 0;
+    unsigned char enabled = 0;
+    if (gasketThickness_.IsObject()) gasketThickness_->GetGasketEnabled(enabled);  // a failure leaves it 0
+    return enabled;
 }
 
 KORUnicodeString ZELMaterial::GetApplicativeSpecName() {

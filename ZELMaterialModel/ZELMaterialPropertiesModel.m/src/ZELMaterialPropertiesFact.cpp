@@ -14,8 +14,8 @@
 
 KORImplementClass(ZELMaterialPropertiesFact, KORClassKind::Component, "KORnull", kZELModule)
 
-    // The component comes from its instance factory only.
-    KORBaseUnknown* ZELMaterialPropertiesFact::CreateItself() {
+// The component comes from its instance factory only.
+KORBaseUnknown* ZELMaterialPropertiesFact::CreateItself() {
     return nullptr;
 }
 

@@ -13,8 +13,7 @@
 class KOR_EXPORT ZELMaterialPropertiesFact final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        [[nodiscard]] HRESULT
-        CreateZELMaterialProperty(KORIMaterialFeature*& material, KORISpecObject*& created);
+    [[nodiscard]] HRESULT CreateZELMaterialProperty(KORIMaterialFeature*& material, KORISpecObject*& created);
     [[nodiscard]] HRESULT CreateLayup(KORISpecObject_var& layup, KORDocument* document);
     [[nodiscard]] HRESULT CreateLayupLayer(const KORISpecObject_var& context, KORISpecObject_var& layer);
 

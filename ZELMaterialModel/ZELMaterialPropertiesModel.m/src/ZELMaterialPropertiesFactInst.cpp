@@ -10,7 +10,7 @@
 KORImplementClass(ZELMaterialPropertiesFactInst, KORClassKind::CodeExtension, "ZELMaterialPropertiesFact",
                   kZELModule)
 
-    KORBaseUnknown* ZELMaterialPropertiesFactInst::CreateItself() {
+KORBaseUnknown* ZELMaterialPropertiesFactInst::CreateItself() {
     return new ZELMaterialPropertiesFactInst;
 }
 

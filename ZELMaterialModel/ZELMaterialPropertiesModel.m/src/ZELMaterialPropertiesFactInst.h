@@ -7,8 +7,7 @@
 class ZELMaterialPropertiesFactInst final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
-        /// A new factory as a KORBaseUnknown* with one reference; E_OUTOFMEMORY and null when it cannot be
-        /// allocated.
-        [[nodiscard]] HRESULT
-        CreateInstance(void** out);
+    /// A new factory as a KORBaseUnknown* with one reference; E_OUTOFMEMORY and null when it cannot be
+    /// allocated.
+    [[nodiscard]] HRESULT CreateInstance(void** out);
 };

@@ -3,7 +3,8 @@
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 
 HRESULT ZELOpenModuleCatalog(KORIContainer* container, KORICatalog_var& catalog) {
-    return AccessCatalog(ZELCatalog::FileName, ZELCatalog::Client, container, catalog);
+    const HRESULT status = AccessCatalog(ZELCatalog::FileName, ZELCatalog::Client, container, catalog);
+    return SUCCEEDED(status) && !catalog ? E_FAIL : status;
 }
 
 HRESULT ZELInstantiate(KORICatalog& catalog, const KORUnicodeString& lateType, const KORUnicodeString& name,

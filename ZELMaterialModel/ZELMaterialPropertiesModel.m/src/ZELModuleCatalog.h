@@ -3,7 +3,7 @@
 #include "interfaces/KORICatalog.h"
 
 /// Opens the module's own catalog for instantiation in a container: AccessCatalog's status, `catalog` set on
-/// success.
+/// success; E_FAIL also when the platform answers success and gives no catalog.
 [[nodiscard]] HRESULT ZELOpenModuleCatalog(KORIContainer* container, KORICatalog_var& catalog);
 
 /// Instantiates the start-up of a late type from a catalog, under a name, in a container. E_FAIL when the

@@ -3,17 +3,30 @@
 #include <algorithm>
 #include <array>
 #include <memory>
+#include <utility>
 
 namespace {
 
-constexpr std::size_t kMostColumns = 4;
+constexpr std::size_t kMostColumns = 3;  ///< two value columns and the temperature
+
+/// Columns to rows that are there already, unrolled by width: as fast as the plain loop.
+template <std::size_t... Column>
+void FillRows(std::index_sequence<Column...>, const double* const* columns, int rows,
+              ZELCftArrayZELCftArrayDouble& table) {
+    const double* const from[] = {columns[Column]...};
+    for (int row = 0; row < rows; ++row) {
+        const double numbers[] = {from[Column][row]...};
+        table[row].Assign(numbers);
+    }
+}
 
 }  // namespace
 
 KORRawColldouble ZELColumnOf(const ZELCftArrayZELCftArrayDouble& table, int column) {
     KORRawColldouble values;
-    values.Reserve(table.size());
-    for (int row = 0; row < table.size(); ++row) values.Append(table[row][column]);
+    const int rows = table.size();
+    double* const numbers = values.Extend(rows);
+    for (int row = 0; row < rows; ++row) numbers[row] = table[row][column];
     return values;
 }
 
@@ -49,21 +62,28 @@ HRESULT ZELReadColumns(KORISpecObject* feature, ZELColumnSlots columns, bool tem
     for (std::size_t column = 0; column < columns.size(); ++column) {
         lists[column].reset(access->GetListOfDouble(keys[column]));
     }
-    table.Initialize(0, nullptr);
-
     const std::size_t used = temperatureDependent ? columns.size() : columns.size() - 1;
     std::array<const double*, kMostColumns> values{};
     for (std::size_t column = 0; column < used; ++column) {
-        if (!lists[column]) return S_OK;
+        if (!lists[column]) {
+            table.Initialize(0, nullptr);
+            return S_OK;
+        }
         values[column] = lists[column]->Data();
     }
     int rows = lists[0]->Size();
     for (std::size_t column = 1; column < used; ++column) rows = std::min(rows, lists[column]->Size());
-    table.Prepare(rows);
-    for (int row = 0; row < rows; ++row) {
-        ZELCftArraydouble numbers;
-        for (std::size_t column = 0; column < used; ++column) numbers.push_back(values[column][row]);
-        table.push_back(std::move(numbers));
+    table.Resize(rows);
+    switch (used) {
+        case 1:
+            FillRows(std::make_index_sequence<1>(), values.data(), rows, table);
+            break;
+        case 2:
+            FillRows(std::make_index_sequence<2>(), values.data(), rows, table);
+            break;
+        default:
+            FillRows(std::make_index_sequence<kMostColumns>(), values.data(), rows, table);
+            break;
     }
     if (rows < lists[0]->Size()) outcome = ZELColumnsRead::Inconsistent;
     return S_OK;
