@@ -1,7 +1,7 @@
 #include "platform/catalog/KORCatalogReader.h"
 
 #include <algorithm>
-#include <limits>
+#include <string_view>
 
 namespace {
 
@@ -20,17 +20,8 @@ constexpr struct {
     {"list of components", KORAttributeKind::ListOfComponents},
 };
 
-bool IsInt(const nlohmann::json& value) {
-    return value.is_number_integer() && value >= std::numeric_limits<int>::min() &&
-           value <= std::numeric_limits<int>::max();
-}
-
 bool HasUnit(KORAttributeKind kind) {
     return kind == KORAttributeKind::Double || kind == KORAttributeKind::ListOfDoubles;
-}
-
-std::string Quoted(std::string_view text) {
-    return "\"" + std::string(text) + "\"";
 }
 
 }  // namespace
@@ -39,14 +30,12 @@ std::vector<KORCatalogType> KORCatalogReader::Read() {
     std::vector<KORCatalogType> types;
     const Pointer root;
     if (!IsObjectOf(root, {"format", "types"})) return types;
-    if (!Has(root, "format") || file_.Root()["format"] != kFormat) {
-        Fail(root / "format", "expected \"format\": " + std::to_string(kFormat));
-    }
+    ExpectFormat(kFormat);
     const std::size_t count = Array(root, "types").size();
-    for (std::size_t index = 0; index < count && !error_; ++index) {
+    for (std::size_t index = 0; index < count && !Error(); ++index) {
         const Pointer at = root / "types" / index;
         KORCatalogType type = ReadType(at);
-        if (error_) return types;
+        if (Error()) return types;
         for (const KORCatalogType& other : types) {
             if (other.layout->Name() != type.layout->Name()) continue;
             Fail(at, "the late type " + Quoted(type.layout->Name()->Text()) + " is declared twice");
@@ -64,10 +53,10 @@ KORCatalogType KORCatalogReader::ReadType(const Pointer& at) {
     type.meaning = Text(at, "meaning");
     std::vector<KORAttribute> attributes;
     const std::size_t count = Array(at, "attributes").size();
-    for (std::size_t index = 0; index < count && !error_; ++index) {
+    for (std::size_t index = 0; index < count && !Error(); ++index) {
         type.attributes.push_back(ReadAttribute(at / "attributes" / index, attributes));
     }
-    if (error_) return type;
+    if (Error()) return type;
     type.layout = std::make_shared<KORLayout>(KORName::Intern(name), std::move(attributes));
     CheckSuccessors(at, type);
     return type;
@@ -116,7 +105,7 @@ KORValue KORCatalogReader::ReadInitial(const Pointer& at, KORAttributeKind kind)
         if (kind <= KORAttributeKind::String) Fail(at, "expected \"default\": a value, or null for none");
         return never;
     }
-    const Json& value = file_.Root()[at / "default"];
+    const Json& value = At(at / "default");
     if (value.is_null()) return never;
     switch (kind) {
         case KORAttributeKind::Boolean:
@@ -150,45 +139,11 @@ void KORCatalogReader::CheckSuccessors(const Pointer& at, const KORCatalogType& 
     }
 }
 
-bool KORCatalogReader::IsObjectOf(const Pointer& at, std::initializer_list<std::string_view> members) {
-    const Json& object = file_.Root()[at];
-    if (!object.is_object()) {
-        Fail(at, "expected an object");
-        return false;
-    }
-    for (const auto& item : object.items()) {
-        if (std::ranges::find(members, item.key()) != members.end()) continue;
-        Fail(at / item.key(), Quoted(item.key()) + " means nothing here");
-        return false;
-    }
-    return true;
-}
-
-const nlohmann::json& KORCatalogReader::Array(const Pointer& at, const char* member) {
-    static const Json none = Json::array();
-    if (Has(at, member) && file_.Root()[at / member].is_array()) return file_.Root()[at / member];
-    Fail(at / member, "expected " + Quoted(member) + ": an array");
-    return none;
-}
-
-std::string KORCatalogReader::Text(const Pointer& at, const char* member) {
-    if (Has(at, member)) {
-        const Json& text = file_.Root()[at / member];
-        if (text.is_string() && !text.get_ref<const std::string&>().empty()) return text;
-    }
-    Fail(at / member, "expected " + Quoted(member) + ": a text that is not empty");
-    return {};
-}
-
 int KORCatalogReader::Release(const Pointer& at) {
     if (Has(at, "since")) {
-        const Json& since = file_.Root()[at / "since"];
+        const Json& since = At(at / "since");
         if (IsInt(since) && since >= 1) return since;
     }
     Fail(at / "since", "expected \"since\": the number of a release, from 1 on");
     return 0;
-}
-
-void KORCatalogReader::Fail(const Pointer& at, const std::string& message) {
-    if (!error_) error_ = file_.ErrorAt(at, message);
 }

@@ -3,6 +3,13 @@
 #include <filesystem>
 #include <iostream>
 
+#include "platform/analysis/KORAnalysisExtensions.h"
+
+KORPlatform::KORPlatform(std::string catalogFolder) : catalogFolder_(std::move(catalogFolder)) {
+    KORLinkAnalysisExtensions();
+    services_.units = units_.Get();
+}
+
 std::shared_ptr<const KORCatalogFile> KORPlatform::OpenCatalog(std::string_view fileName) {
     KORJsonError error;
     auto catalog = KORCatalogFile::Open((std::filesystem::path(catalogFolder_) / fileName).string(), error);

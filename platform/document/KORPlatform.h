@@ -6,18 +6,21 @@
 #include <string_view>
 
 #include "framework/KORServices.h"
+#include "platform/analysis/KORUnitsService.h"
 #include "platform/catalog/KORCatalogFile.h"
 
 /// The stand-alone platform as its host sets it up: where catalogs lie, and the services its free functions
 /// work on. The host makes it once, keeps it longer than every document, and makes its services the current
-/// ones (KORServicesScope) while it calls modules. It knows no module.
+/// ones (KORServicesScope) while it calls modules. The document that the user works on is the host's to set
+/// there. It knows no module.
 class KORPlatform {
 public:
-    explicit KORPlatform(std::string catalogFolder) : catalogFolder_(std::move(catalogFolder)) {}
+    explicit KORPlatform(std::string catalogFolder);
     KORPlatform(const KORPlatform&) = delete;
     KORPlatform& operator=(const KORPlatform&) = delete;
 
     KORServices& Services() { return services_; }
+    KORUnitsService& Units() { return *units_; }  ///< in the services, too
 
     /// The catalog of a file name in the catalog folder. Null when it is missing, malformed or incomplete;
     /// then CatalogError says so, and so does standard error, once per error.
@@ -29,6 +32,7 @@ public:
 
 private:
     std::string catalogFolder_;
+    KORVar<KORUnitsService> units_ = KORVar<KORUnitsService>::Adopt(new KORUnitsService);
     KORServices services_;
     std::string catalogError_;
     std::set<std::string> reported_;

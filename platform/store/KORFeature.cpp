@@ -8,8 +8,8 @@ KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHa
                                    const KORUnicodeString& name, KORBaseUnknown& container) {
     KORFeatureType& type = document.TypeOf(layout);
     const std::uint32_t number = document.Features().NextNumber();
-    const auto feature = KORVar<KORFeature>::Adopt(new (SlotCount{layout->SlotCount()})
-                                                       KORFeature(type, number, document.Log().Stamp()));
+    const auto feature = KORVar<KORFeature>::Adopt(
+        new (SlotCount{layout->SlotCount()}) KORFeature(type, number, document.Log().Stamp(), nullptr));
     if (name != layout->NameText()) {
         feature->Slots()[KORLayout::kName] = KORValue::OfString(name);
     }
@@ -17,26 +17,42 @@ KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHa
     return feature;
 }
 
+KORVar<KORFeature> KORFeature::NewCopy(const KORFeature& original, KORBaseUnknown& container) {
+    KORStoreDocument& document = *original.StoreDocument();
+    const SlotCount slots{original.Layout().SlotCount()};
+    const std::uint32_t number = document.Features().NextNumber();
+    auto copy = KORVar<KORFeature>::Adopt(
+        new (slots) KORFeature(*original.type_, number, document.Log().Stamp(), &original));
+    copy->Slots()[KORLayout::kName] = original.At(KORLayout::kName);
+    copy->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
+    return copy;
+}
+
 void* KORFeature::operator new(std::size_t size, SlotCount slots) {
     return ::operator new(size + slots.count * sizeof(KORValue));
 }
 
-void KORFeature::operator delete(void* memory, SlotCount) { ::operator delete(memory); }
+void KORFeature::operator delete(void* memory, SlotCount) {
+    ::operator delete(memory);
+}
 
-void KORFeature::operator delete(void* memory) { ::operator delete(memory); }
+void KORFeature::operator delete(void* memory) {
+    ::operator delete(memory);
+}
 
-KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp)
+KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp,
+                       const KORFeature* original)
     : type_(&type), number_(number) {
     const KORLayout& layout = type.Layout();
     KORValue* slots = Slots();
     new (slots + KORLayout::kName) KORValue(KORAttributeKind::String);
-    new (slots + KORLayout::kAlias) KORValue(KORAttributeKind::String);
+    new (slots + KORLayout::kAlias)
+        KORValue(original ? original->At(KORLayout::kAlias) : KORValue(KORAttributeKind::String));
     new (slots + KORLayout::kContainer) KORValue(KORAttributeKind::Component);
     slots[KORLayout::kAlias].SetStamp(stamp);
-    KORValue* slot = slots + KORLayout::kFirstAttribute;
-    for (const KORAttribute& attribute : layout.Attributes()) {
+    for (KORSlot slot = KORLayout::kFirstAttribute; slot < layout.SlotCount(); ++slot) {
         // As if logged: undoing the creation takes the values along.
-        (new (slot++) KORValue(attribute.initial))->SetStamp(stamp);
+        (new (slots + slot) KORValue(original ? original->At(slot) : layout.Initial(slot)))->SetStamp(stamp);
     }
     type.AddRef();
     type.Document()->Features().Add(number, *this);
@@ -70,6 +86,11 @@ KORUnicodeString KORFeature::GetName() {
 
 KORBaseUnknown* KORFeature::GetFeatContainer() {
     return KORBaseUnknown_var(At(KORLayout::kContainer).Component()).Detach();
+}
+
+KORISpecObject* KORFeature::GetFather() {
+    const KORSlot slot = Layout().FatherSlot();
+    return slot != 0 ? KORISpecObject_var::Of(At(slot).Component()).Detach() : nullptr;
 }
 
 void KORFeature::SetContainer(KORBaseUnknown* container) {

@@ -22,6 +22,11 @@ public:
     static KORVar<KORFeature> New(KORStoreDocument& document, const KORLayoutHandle& layout,
                                   const KORUnicodeString& name, KORBaseUnknown& container);
 
+    /// A copy of a feature of an open document: the same type, name, alias and values, in a container of that
+    /// document. Lists share their numbers with the original; references are the original's. Logged like a
+    /// new feature.
+    static KORVar<KORFeature> NewCopy(const KORFeature& original, KORBaseUnknown& container);
+
     /// Its number in its document, from 1 on: never another feature's, also after this one is gone.
     std::uint32_t Number() const { return number_; }
     const KORLayout& Layout() const { return type_->Layout(); }
@@ -34,6 +39,7 @@ public:
 
     KORUnicodeString GetName() override;
     KORBaseUnknown* GetFeatContainer() override;
+    KORISpecObject* GetFather() override;  ///< what its attribute "Father" references, where it has one
     KORISpecObject* Instantiate(const KORUnicodeString&, KORIContainer*) override { return nullptr; }
 
     void SetDouble(KORISpecAttrKey* key, double value, int index) override;
@@ -49,6 +55,16 @@ public:
     KORDocument* GetDocument() override;
     void SetAlias(const KORUnicodeString& alias) override;
     KORUnicodeString GetAlias() override { return At(KORLayout::kAlias).String(); }
+
+    /// Puts a value of the slot's kind into a slot. The one choke point of all changes: compares, logs,
+    /// writes. Nothing happens once the document is closed.
+    void Write(KORSlot slot, KORValue&& value);
+
+    /// Visits the components that its attributes reference, those in lists included, as KORBaseUnknown&
+    /// without a reference. Its father is not among them: a feature hangs on that, but does not consist of
+    /// it. The visitor does not change the feature.
+    template <class Visitor>
+    void ForEachComponent(Visitor&& visit) const;
 
     /// Exchanges a slot's value for another: all there is to do, undo and redo a change. Marks the feature
     /// dirty. The caller holds a reference.
@@ -71,16 +87,30 @@ protected:
     std::uint32_t Generation() const override;
 
 private:
-    KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp);
+    /// With the values of the original, or with the type's initial ones when it is null.
+    KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp, const KORFeature* original);
     ~KORFeature() override;
 
     KORValue* Slots() { return reinterpret_cast<KORValue*>(this + 1); }
     const KORValue* Slots() const { return reinterpret_cast<const KORValue*>(this + 1); }
 
-    /// The one choke point: compares, logs, writes.
-    void Write(KORSlot slot, KORValue&& value);
     void WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value);
 
     KORFeatureType* type_;  ///< counted
     std::uint32_t number_;
 };
+
+template <class Visitor>
+void KORFeature::ForEachComponent(Visitor&& visit) const {
+    for (KORSlot slot = KORLayout::kFirstAttribute; slot < Layout().SlotCount(); ++slot) {
+        const KORValue& value = At(slot);
+        if (value.State() != KORValueState::Valued || slot == Layout().FatherSlot()) continue;
+        if (value.Kind() == KORAttributeKind::Component) {
+            visit(*value.Component());
+        } else if (value.Kind() == KORAttributeKind::ListOfComponents) {
+            for (int position = 1; position <= value.ListSize(); ++position) {
+                if (const KORBaseUnknown_var entry = value.ComponentAt(position); entry) visit(*entry);
+            }
+        }
+    }
+}

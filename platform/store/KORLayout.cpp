@@ -24,6 +24,8 @@ KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes)
     for (const KORAttribute& attribute : attributes_) {
         places_[attribute.name->Number() - firstNumber_] = {slot++, attribute.initial.Kind()};
     }
+    const Place father = Find(KORName::Intern("Father"));
+    if (father.kind == KORAttributeKind::Component) father_ = father.slot;
 }
 
 const KORValue& KORLayout::Initial(KORSlot slot) const {

@@ -48,6 +48,10 @@ public:
     const KORValue& Initial(KORSlot slot) const;  ///< of an attribute's slot
     const char* SlotName(KORSlot slot) const;     ///< the attribute's name; "Name", "Alias" and "Container"
 
+    /// The component attribute "Father", where the type has it: the feature on which its features hang. Slot
+    /// 0 when they hang on none.
+    KORSlot FatherSlot() const { return father_; }
+
     /// Small and dense, one number per layout of the process: an index into tables.
     std::uint32_t Ordinal() const { return ordinal_; }
 
@@ -57,6 +61,7 @@ private:
     std::vector<KORAttribute> attributes_;
     std::vector<Place> places_;  ///< by the key's number, from firstNumber_ on
     std::uint32_t firstNumber_ = 0;
+    KORSlot father_ = 0;
     std::uint32_t ordinal_;
 };
 

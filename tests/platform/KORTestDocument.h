@@ -24,6 +24,24 @@ inline KORRawColldouble KORNumbers(std::initializer_list<double> values) {
     return list;
 }
 
+/// A late type of features that hang on others, and consist of others.
+inline KORLayoutHandle KORHangingLayout() {
+    const auto key = [](const char* text) { return KORName::Intern(text); };
+    std::vector<KORAttribute> attributes;
+    attributes.push_back({key("Father"), KORValue(KORAttributeKind::Component)});
+    attributes.push_back({key("Part"), KORValue(KORAttributeKind::Component)});
+    attributes.push_back({key("Parts"), KORValue(KORAttributeKind::ListOfComponents)});
+    return std::make_shared<KORLayout>(key("KORHangingLT"), std::move(attributes));
+}
+
+inline std::vector<std::uint32_t> KORNumbersOf(const KORListValKORISpecObject_var& features) {
+    std::vector<std::uint32_t> numbers;
+    for (int position = 1; position <= features.Size(); ++position) {
+        numbers.push_back(KORVar<KORFeature>(features[position])->Number());
+    }
+    return numbers;
+}
+
 /// An empty document, and the shortest way to features of the late type above.
 class KORTestDocument : public testing::Test {
 protected:

@@ -4,13 +4,29 @@
 
 namespace {
 
-TEST(KORPlatformCatalog, HasThePlatformsMaterial) {
-    const KORCatalogType* material = KORPlatformCatalog().Find(KORName::Intern("KORMaterialLT"));
+constexpr struct {
+    const char* lateType;
+    const char* attribute;
+    KORAttributeKind kind;
+} kDeclared[] = {
+    {"KORMaterialLT", "ApplicativeData", KORAttributeKind::ListOfComponents},
+    {"KORApplicativeDataLT", "Name", KORAttributeKind::String},
+    {"KORApplicativeDataLT", "Data", KORAttributeKind::Component},
+    {"KORAnalysisModelLT", "Children", KORAttributeKind::ListOfComponents},
+    {"ZELZelmarPropertySetLT", "Children", KORAttributeKind::ListOfComponents},
+    {"ZELShellSectionEnhLT", "SectionType", KORAttributeKind::Integer},
+    {"ZELShellSectionEnhLT", "Layup", KORAttributeKind::Component},
+};
 
-    ASSERT_NE(nullptr, material);
-    const KORLayout::Place data = material->layout->Find(KORName::Intern("ApplicativeData"));
-    EXPECT_NE(0, data.slot);
-    EXPECT_EQ(KORAttributeKind::ListOfComponents, data.kind);
+TEST(KORPlatformCatalog, DeclaresWhatThePlatformKeepsInFeatures) {
+    for (const auto& [lateType, attribute, kind] : kDeclared) {
+        const KORCatalogType* type = KORPlatformCatalog().Find(KORName::Intern(lateType));
+        ASSERT_NE(nullptr, type) << lateType;
+        const KORLayout::Place place = type->layout->Find(KORName::Intern(attribute));
+        EXPECT_NE(0, place.slot) << lateType << " " << attribute;
+        EXPECT_EQ(kind, place.kind) << lateType << " " << attribute;
+    }
+    EXPECT_EQ(5u, KORPlatformCatalog().Types().size());
 }
 
 }  // namespace

@@ -39,6 +39,7 @@ constexpr struct {
     {"ZELMaterialLT", "ZELGasketThicknessBehavior", kComponent},
     {"ZELMaterialLT", "ZELGasketTransverseShearElastic", kComponent},
     {"ZELMaterialLT", "ZELGasketMembraneElastic", kComponent},
+    {"ZELMaterialLT", "Father", kComponent},
     {"ZELElasticLT", "ElasticTemperatureDependent", kBoolean},
     {"ZELElasticLT", "DataFile", kString},
     {"ZELElasticLT", "YoungData", kDoubles},
@@ -165,7 +166,7 @@ TEST_F(ZELMaterialPropertiesCatalog, DeclaresNothingElse) {
     for (const KORCatalogType& type : catalog->Types()) attributes += type.layout->Attributes().size();
 
     EXPECT_EQ(20u, catalog->Types().size());
-    EXPECT_EQ(112u, attributes);
+    EXPECT_EQ(113u, attributes);
 }
 
 TEST_F(ZELMaterialPropertiesCatalog, StartsFlagsOffScalarsAtZeroAndStringsEmpty) {

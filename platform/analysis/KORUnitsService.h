@@ -1,0 +1,23 @@
+#pragma once
+
+#include <unordered_map>
+
+#include "framework/KORImplements.h"
+#include "interfaces/KORIVdxUnits.h"
+#include "platform/analysis/KORUnitTypes.h"
+
+/// The units service of a platform: which unit the user currently sees each quantity in. It stores no
+/// quantities. Every unit type starts with its SI unit; magnitudes that were handed out follow later changes,
+/// units do not.
+class KORUnitsService final : public KORImplements<KORIVdxUnits> {
+public:
+    KORIVdxParameter* CreateParameter(const KORUnicodeString& unitType) override;
+
+    /// False, and nothing changes, for an unknown unit type or a symbol that is none of its units.
+    bool SetCurrentUnit(std::string_view unitType, std::string_view symbol);
+
+    const KORUnit& CurrentUnit(const KORUnitType& type) const;
+
+private:
+    std::unordered_map<const KORUnitType*, const KORUnit*> current_;  ///< where it is not the first one
+};

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/catalog/KORJsonReader.h"
+#include "platform/document/KORTextDocument.h"
+
+/// Reads the text form of a document in two steps: Read understands all of it and changes nothing; Build
+/// makes the features and cannot fail.
+class KORTextReader final : public KORJsonReader {
+public:
+    KORTextReader(const KORJsonFile& file, KORMemoryDocument& document)
+        : KORJsonReader(file), document_(document) {}
+
+    void Read();
+
+    /// To be called when Read found no error. The numbers of the new features by id; what the catalogs do not
+    /// know goes to `kept`.
+    std::unordered_map<int, std::uint32_t> Build(KORKeptAttributes& kept) const;
+
+private:
+    struct References {
+        KORSlot slot;
+        std::vector<int> ids;  ///< 0 for null
+    };
+    struct Feature {
+        int id = 0;
+        KORLayoutHandle layout;
+        std::optional<KORUnicodeString> name;
+        std::optional<KORUnicodeString> alias;
+        std::optional<std::string> container = "";  ///< none: in no container; empty: the document's own
+        std::vector<std::pair<KORSlot, KORValue>> values;
+        std::vector<References> references;
+        std::map<std::string, Json> kept;
+    };
+
+    void ReadCatalogs();
+    void ReadPressureUnit();
+    void ReadContainers();
+    Feature ReadHead(const Pointer& at);
+    int ReadId(const Pointer& at);
+    void ReadContainer(const Pointer& at, Feature& feature);
+    void ReadAttributes(const Pointer& at, Feature& feature);
+    void ReadAttribute(const Pointer& at, KORLayout::Place place, Feature& feature);
+    KORValue ReadValue(const Pointer& at, KORAttributeKind kind);
+    KORValue ReadNumbers(const Pointer& at);
+    std::optional<double> Number(const Json& value) const;
+    std::vector<int> ReadReference(const Pointer& at);
+    std::vector<int> ReadReferences(const Pointer& at);
+    int ReadTarget(const Pointer& at);  ///< the id that stands there
+    void CheckKept(const Pointer& at);
+    std::optional<KORUnicodeString> OptionalText(const Pointer& at, const char* member);
+
+    KORVar<KORFeature> Make(const Feature& feature) const;
+
+    KORMemoryDocument& document_;
+    KORCatalogSet catalogs_;
+    std::string pressureUnit_;
+    std::vector<std::string> containers_;
+    std::vector<Feature> features_;
+    std::unordered_map<int, std::size_t> places_;  ///< in features_, by id
+};

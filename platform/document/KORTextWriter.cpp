@@ -1,0 +1,183 @@
+#include "platform/document/KORTextWriter.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace {
+
+std::string NumberText(double number) {
+    if (std::isnan(number)) return "\"NaN\"";
+    if (std::isinf(number)) return number > 0 ? "\"Infinity\"" : "\"-Infinity\"";
+    if (number == 0.0 && std::signbit(number)) return "-0.0";  // "-0" would be read as a whole number
+    char text[32];
+    const auto end = std::to_chars(std::begin(text), std::end(text), number).ptr;
+    return {text, end};
+}
+
+/// "[a, b, c]"
+template <class Range>
+std::string Joined(const Range& texts) {
+    std::string joined = "[";
+    for (const std::string& text : texts) joined += (joined.size() > 1 ? ", " : "") + text;
+    return joined + "]";
+}
+
+}  // namespace
+
+std::optional<std::string> KORTextWriter::Write(std::string& error) {
+    CollectFeatures();
+    WriteHead();
+    for (const auto& feature : features_) WriteFeature(*feature);
+    text_ += features_.empty() ? "]\n}\n" : "\n  ]\n}\n";
+    error = error_;
+    return error_.empty() ? std::optional(text_) : std::nullopt;
+}
+
+void KORTextWriter::CollectFeatures() {
+    KORFeaturePlaces seen(document_.FeatureCount());
+    const auto take = [&](KORFeature* feature) {
+        if (feature && feature->StoreDocument() == &document_ && seen.Add(feature, 0))
+            features_.emplace_back(feature);
+    };
+    document_.ForEachFeature(nullptr, [&](KORFeature& feature) { take(&feature); });
+    for (std::size_t next = 0; next < features_.size(); ++next) {
+        const KORVar<KORFeature> feature = features_[next];
+        feature->ForEachComponent(
+            [&](KORBaseUnknown& component) { take(KORVar<KORFeature>::Of(&component).Get()); });
+        take(KORVar<KORFeature>(KORISpecObject_var::Adopt(feature->GetFather())).Get());
+    }
+    std::ranges::sort(features_, {}, [](const auto& feature) { return feature->Number(); });
+    for (std::uint32_t index = 0; index < features_.size(); ++index) {
+        ids_.Add(features_[index].Get(), index + 1);
+    }
+}
+
+void KORTextWriter::WriteHead() {
+    const KORUnitType& pressure = *KORFindUnitType("PRESSURE");
+    std::vector<std::string> catalogs;
+    for (const auto& catalog : document_.Catalogs().Catalogs()) catalogs.push_back(Quoted(catalog.name));
+    std::vector<std::string> containers;
+    for (const std::string& name : document_.ContainerNames()) containers.push_back(Quoted(name));
+    text_ = "{\n  \"format\": 1,\n  \"catalogs\": " + Joined(catalogs) +
+            ",\n  \"pressure_unit\": " + Quoted(document_.Platform().Units().CurrentUnit(pressure).symbol) +
+            ",\n  \"containers\": " + Joined(containers) + ",\n  \"features\": [";
+}
+
+void KORTextWriter::WriteFeature(const KORFeature& feature) {
+    const std::uint32_t id = *ids_.Find(&feature);
+    text_ += (id > 1 ? ",\n" : "\n") + std::string("    {\"id\": ") + std::to_string(id) +
+             ", \"type\": " + Quoted(feature.Layout().NameText().View());
+    const KORValue& name = feature.At(KORLayout::kName);
+    if (name.State() == KORValueState::Valued) text_ += ", \"name\": " + Quoted(name.String().View());
+    const KORValue& alias = feature.At(KORLayout::kAlias);
+    if (alias.State() == KORValueState::Valued) text_ += ", \"alias\": " + Quoted(alias.String().View());
+    WriteContainer(feature);
+    const std::vector<std::string> attributes = AttributesOf(feature);
+    if (!attributes.empty()) {
+        text_ += ",\n     \"attributes\": {";
+        const char* separator = "\n       ";
+        for (const std::string& attribute : attributes) {
+            text_ += separator + attribute;
+            separator = ",\n       ";
+        }
+        text_ += "\n     }";
+    }
+    text_ += "}";
+}
+
+void KORTextWriter::WriteContainer(const KORFeature& feature) {
+    const KORBaseUnknown* container = feature.At(KORLayout::kContainer).Component();
+    if (!container) text_ += ", \"container\": null";
+    for (const std::string& name : document_.ContainerNames()) {
+        if (KORBaseUnknown_var::Adopt(document_.FindContainer(name.c_str())).Get() != container) continue;
+        text_ += ", \"container\": " + Quoted(name);
+    }
+}
+
+std::vector<std::string> KORTextWriter::AttributesOf(const KORFeature& feature) {
+    std::vector<std::string> attributes;
+    const KORLayout& layout = feature.Layout();
+    for (KORSlot slot = KORLayout::kFirstAttribute; slot < layout.SlotCount(); ++slot) {
+        if (feature.At(slot).SameAs(layout.Initial(slot))) continue;
+        attributes.push_back(Quoted(layout.SlotName(slot)) + ": " + ValueText(feature, slot));
+    }
+    const auto kept = kept_.find(feature.Number());
+    if (kept == kept_.end()) return attributes;
+    for (const auto& [name, value] : kept->second) {
+        attributes.push_back(Quoted(name) + ": " + KeptText(value));
+    }
+    return attributes;
+}
+
+std::string KORTextWriter::ValueText(const KORFeature& feature, KORSlot slot) {
+    const KORValue& value = feature.At(slot);
+    if (value.State() == KORValueState::NeverValued) return "null";
+    switch (value.Kind()) {
+        case KORAttributeKind::Boolean:
+            return value.Boolean() ? "true" : "false";
+        case KORAttributeKind::Integer:
+            return std::to_string(value.Integer());
+        case KORAttributeKind::Double:
+            return NumberText(value.Double());
+        case KORAttributeKind::String:
+            return Quoted(value.String().View());
+        case KORAttributeKind::ListOfDoubles:
+            return NumbersText(value.ListOfDoubles());
+        case KORAttributeKind::Component:
+            return "{\"ref\": " + ReferenceText(feature, slot, value.Component()) + "}";
+        case KORAttributeKind::ListOfComponents:
+            break;
+    }
+    std::vector<std::string> entries;
+    for (int position = 1; position <= value.ListSize(); ++position) {
+        entries.push_back(ReferenceText(feature, slot, value.ComponentAt(position).Get()));
+    }
+    return "{\"refs\": " + Joined(entries) + "}";
+}
+
+std::string KORTextWriter::NumbersText(const KORRawColldouble& numbers) const {
+    std::vector<std::string> texts;
+    for (int position = 1; position <= numbers.Size(); ++position) {
+        texts.push_back(NumberText(numbers[position]));
+    }
+    return Joined(texts);
+}
+
+std::string KORTextWriter::ReferenceText(const KORFeature& feature, KORSlot slot, KORBaseUnknown* target) {
+    if (!target) return "null";
+    const auto referenced = KORVar<KORFeature>::Of(target);
+    const auto id = referenced ? ids_.Find(referenced.Get()) : std::nullopt;
+    if (id) return std::to_string(*id);
+    if (error_.empty()) {
+        error_ = "feature " + std::to_string(feature.Number()) + ", " + feature.Layout().SlotName(slot) +
+                 ": references what is no feature of the document";
+    }
+    return "null";
+}
+
+std::string KORTextWriter::KeptText(const nlohmann::json& value) const {
+    const auto id = [this](const nlohmann::json& number) -> std::string {
+        if (number.is_null()) return "null";
+        const KORFeature* feature = document_.Features().Find(number.get<std::uint32_t>());
+        const auto place = feature ? ids_.Find(feature) : std::nullopt;
+        return place ? std::to_string(*place) : "null";
+    };
+    if (!value.is_object()) return value.dump();
+    if (value.contains("ref")) {
+        const std::string text = id(value["ref"]);
+        return text == "null" ? text : "{\"ref\": " + text + "}";
+    }
+    std::vector<std::string> ids;
+    for (const nlohmann::json& number : value["refs"]) ids.push_back(id(number));
+    return "{\"refs\": " + Joined(ids) + "}";
+}
+
+std::string KORTextWriter::Quoted(std::string_view text) {
+    try {
+        return nlohmann::json(text).dump();
+    } catch (const nlohmann::json::type_error&) {
+        if (error_.empty()) error_ = "a text is no UTF-8";
+        return "\"\"";
+    }
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/document/KORTextDocument.h"
+#include "platform/store/KORFeaturePlaces.h"
+
+/// Writes the text form of a document, in an order that depends on nothing but the document.
+class KORTextWriter {
+public:
+    KORTextWriter(KORMemoryDocument& document, const KORKeptAttributes& kept)
+        : document_(document), kept_(kept) {}
+
+    /// Nothing, and `error` filled, when something cannot be written.
+    std::optional<std::string> Write(std::string& error);
+
+private:
+    void CollectFeatures();  ///< what lies in a container, and what that references
+    void WriteHead();
+    void WriteFeature(const KORFeature& feature);
+    void WriteContainer(const KORFeature& feature);
+    std::vector<std::string> AttributesOf(const KORFeature& feature);
+    std::string ValueText(const KORFeature& feature, KORSlot slot);
+    std::string NumbersText(const KORRawColldouble& numbers) const;
+    std::string ReferenceText(const KORFeature& feature, KORSlot slot, KORBaseUnknown* target);
+    std::string KeptText(const nlohmann::json& value) const;
+    std::string Quoted(std::string_view text);
+
+    KORMemoryDocument& document_;
+    const KORKeptAttributes& kept_;
+    std::vector<KORVar<KORFeature>> features_;
+    KORFeaturePlaces ids_;
+    std::string text_;
+    std::string error_;  ///< the first one
+};

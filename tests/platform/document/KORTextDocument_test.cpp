@@ -1,0 +1,290 @@
+#include "platform/document/KORTextDocument.h"
+
+#include <unistd.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <limits>
+
+#include "KORTestDocument.h"
+#include "interfaces/KORIMaterialFeature.h"
+
+namespace {
+
+/// Every kind of attribute, in every state it can be in.
+constexpr const char* kWhole = R"json({
+  "format": 1,
+  "catalogs": ["ZELMaterialPropertiesCatalog.KORfct"],
+  "pressure_unit": "MPa",
+  "containers": ["VRBMatAppliCont", "Second"],
+  "features": [
+    {"id": 1, "type": "KORMaterialLT", "name": "Steel", "alias": "S235 \"é\"",
+     "attributes": {
+       "ApplicativeData": {"refs": [2]}
+     }},
+    {"id": 2, "type": "KORApplicativeDataLT",
+     "attributes": {
+       "Name": "ZELMaterialApplicative",
+       "Data": {"ref": 3}
+     }},
+    {"id": 3, "type": "ZELMaterialLT", "name": "", "container": "VRBMatAppliCont",
+     "attributes": {
+       "ZELElasticFlag": true,
+       "ZELPlasticFlag": null,
+       "ZELElastic": {"ref": 4},
+       "Father": {"ref": 1}
+     }},
+    {"id": 4, "type": "ZELElasticLT", "alias": "", "container": null,
+     "attributes": {
+       "DataFile": "steel.csv",
+       "YoungData": [2.1e+11, 0.1, -0.0, "NaN", "Infinity", "-Infinity", 1152921504606846976],
+       "PoissonData": []
+     }},
+    {"id": 5, "type": "MRVUserMaterialLT", "container": "Second",
+     "attributes": {
+       "UserMaterialDepVar": -3
+     }},
+    {"id": 6, "type": "ZELLayupLT",
+     "attributes": {
+       "LayerList": {"refs": [7, null, 7]}
+     }},
+    {"id": 7, "type": "ZELLayupLayerLT",
+     "attributes": {
+       "Thickness": 0.00025
+     }},
+    {"id": 8, "type": "ZELLayupLT",
+     "attributes": {
+       "LayerList": {"refs": []}
+     }},
+    {"id": 9, "type": "ZELLayupLT"}
+  ]
+}
+)json";
+
+class KORTextDocumentTest : public testing::Test {
+protected:
+    std::string Written() {
+        std::string error;
+        const auto written = text.Write(error);
+        EXPECT_EQ("", error);
+        return written.value_or("");
+    }
+    void Read(const std::string& read) {
+        KORJsonError error;
+        ASSERT_TRUE(text.ReadText(read, "text", error)) << error.Text();
+    }
+    const KORValue& ValueOf(int id, const char* attribute) {
+        const auto feature = text.Find(id);
+        return feature->At(feature->Layout().Find(KORName::Intern(attribute)).slot);
+    }
+    KORBaseUnknown_var ContainerOf(int id) {
+        return KORBaseUnknown_var::Adopt(text.Find(id)->GetFeatContainer());
+    }
+
+    KORPlatform platform{ZEL_CATALOG_FOLDER};
+    KORVar<KORMemoryDocument> document = KORMemoryDocument::New(platform);
+    KORTextDocument text{*document};
+};
+
+TEST_F(KORTextDocumentTest, IsWrittenAsItWasRead) {
+    Read(kWhole);
+
+    EXPECT_EQ(kWhole, Written());
+}
+
+TEST_F(KORTextDocumentTest, MakesFeaturesInTheirContainers) {
+    Read(kWhole);
+
+    EXPECT_EQ(8u, document->FeatureCount());
+    EXPECT_EQ(9u, document->Features().Size());
+    EXPECT_EQ(KORUnicodeString("Steel"), text.Find(1)->GetName());
+    EXPECT_EQ(KORUnicodeString("S235 \"é\""), text.Find(1)->GetAlias());
+    EXPECT_EQ(KORUnicodeString("KORApplicativeDataLT"), text.Find(2)->GetName());
+    EXPECT_EQ(KORUnicodeString(""), text.Find(3)->GetName());
+    EXPECT_EQ(KORBaseUnknown_var::Adopt(document->GetFeatContainer()), ContainerOf(1));
+    EXPECT_EQ(KORBaseUnknown_var::Adopt(document->FindContainer("VRBMatAppliCont")), ContainerOf(3));
+    EXPECT_FALSE(ContainerOf(4));
+    EXPECT_FALSE(text.Find(10));
+}
+
+TEST_F(KORTextDocumentTest, GivesAttributesTheirValuesAndTheOthersTheCatalogs) {
+    Read(kWhole);
+
+    EXPECT_TRUE(ValueOf(3, "ZELElasticFlag").Boolean());
+    EXPECT_EQ(KORValueState::NeverValued, ValueOf(3, "ZELPlasticFlag").State());
+    EXPECT_EQ(KORValueState::Valued, ValueOf(3, "ZELDensityFlag").State());
+    EXPECT_EQ(text.Find(4).Get(), ValueOf(3, "ZELElastic").Component());
+    EXPECT_EQ(KORValueState::NeverValued, ValueOf(3, "ZELPlastic").State());
+    EXPECT_EQ(KORValueState::Empty, ValueOf(4, "PoissonData").State());
+    EXPECT_EQ(KORValueState::NeverValued, ValueOf(4, "TemperatureData").State());
+    EXPECT_EQ(-3, ValueOf(5, "UserMaterialDepVar").Integer());
+    EXPECT_EQ(0.00025, ValueOf(7, "Thickness").Double());
+    EXPECT_EQ(3, ValueOf(6, "LayerList").ListSize());
+    EXPECT_FALSE(ValueOf(6, "LayerList").ComponentAt(2));
+    EXPECT_EQ(KORValueState::Empty, ValueOf(8, "LayerList").State());
+    EXPECT_EQ(KORValueState::NeverValued, ValueOf(9, "LayerList").State());
+}
+
+TEST_F(KORTextDocumentTest, HoldsEveryNumber) {
+    Read(kWhole);
+
+    const KORRawColldouble numbers = ValueOf(4, "YoungData").ListOfDoubles();
+
+    ASSERT_EQ(7, numbers.Size());
+    EXPECT_EQ(2.1e11, numbers[1]);
+    EXPECT_EQ(0.1, numbers[2]);
+    EXPECT_TRUE(numbers[3] == 0.0 && std::signbit(numbers[3]));
+    EXPECT_TRUE(std::isnan(numbers[4]));
+    EXPECT_EQ(std::numeric_limits<double>::infinity(), numbers[5]);
+    EXPECT_EQ(-std::numeric_limits<double>::infinity(), numbers[6]);
+    EXPECT_EQ(0x1p60, numbers[7]);
+}
+
+TEST_F(KORTextDocumentTest, HangsApplicativeFeaturesOnPlatformMaterials) {
+    Read(kWhole);
+
+    const KORIMaterialFeature_var steel(text.Find(1));
+
+    const auto hung = KORISpecObject_var::Adopt(steel->GetApplicativeFeature("ZELMaterialApplicative"));
+    EXPECT_EQ(KORISpecObject_var(text.Find(3).Get()), hung);
+    EXPECT_EQ(KORISpecObject_var(text.Find(1).Get()), KORISpecObject_var::Adopt(hung->GetFather()));
+}
+
+TEST_F(KORTextDocumentTest, SetsThePlatformsUnitOfPressureAndUsesItsCatalogs) {
+    Read(kWhole);
+
+    EXPECT_EQ("MPa", platform.Units().CurrentUnit(*KORFindUnitType("PRESSURE")).symbol);
+    ASSERT_EQ(1u, document->Catalogs().Catalogs().size());
+    EXPECT_EQ("ZELMaterialPropertiesCatalog.KORfct", document->Catalogs().Catalogs()[0].name);
+}
+
+TEST_F(KORTextDocumentTest, LeavesTheUnitOfPressureWhenItNamesNone) {
+    platform.Units().SetCurrentUnit("PRESSURE", "ksi");
+
+    Read(R"({"format": 1, "features": []})");
+
+    EXPECT_EQ("ksi", platform.Units().CurrentUnit(*KORFindUnitType("PRESSURE")).symbol);
+    EXPECT_EQ(0u, document->FeatureCount());
+    EXPECT_EQ(
+        "{\n  \"format\": 1,\n  \"catalogs\": [],\n  \"pressure_unit\": \"ksi\",\n  \"containers\": [],\n"
+        "  \"features\": []\n}\n",
+        Written());
+}
+
+TEST_F(KORTextDocumentTest, KeepsAttributesThatTheCatalogDoesNotKnow) {
+    Read(R"json({"format": 1, "features": [
+      {"id": 30, "type": "KORMaterialLT", "attributes": {"Tint": "red", "Numbers": [1, 2.5], "Off": null,
+          "Next": {"ref": 20}, "All": {"refs": [20, null]}, "ApplicativeData": {"refs": [20]}}},
+      {"id": 20, "type": "KORApplicativeDataLT", "attributes": {"Name": "a"}}]})json");
+
+    EXPECT_EQ(R"json({
+  "format": 1,
+  "catalogs": [],
+  "pressure_unit": "Pa",
+  "containers": [],
+  "features": [
+    {"id": 1, "type": "KORMaterialLT",
+     "attributes": {
+       "ApplicativeData": {"refs": [2]},
+       "All": {"refs": [2, null]},
+       "Next": {"ref": 2},
+       "Numbers": [1,2.5],
+       "Off": null,
+       "Tint": "red"
+     }},
+    {"id": 2, "type": "KORApplicativeDataLT",
+     "attributes": {
+       "Name": "a"
+     }}
+  ]
+}
+)json",
+              Written());
+}
+
+TEST_F(KORTextDocumentTest, ForgetsKeptReferencesToFeaturesThatAreGone) {
+    Read(R"json({"format": 1, "features": [
+      {"id": 1, "type": "KORMaterialLT", "attributes": {"Next": {"ref": 2}, "All": {"refs": [2]}}},
+      {"id": 2, "type": "KORMaterialLT"}]})json");
+
+    EXPECT_EQ(S_OK, document->Remove(text.Find(2).Get()));
+
+    EXPECT_FALSE(text.Find(2));
+    const std::string written = Written();
+    EXPECT_NE(std::string::npos, written.find("\"Next\": null"));
+    EXPECT_NE(std::string::npos, written.find("\"All\": {\"refs\": [null]}"));
+}
+
+TEST_F(KORTextDocumentTest, LeavesOutWhatOnlyUndoOrAHandleStillHolds) {
+    Read(kWhole);
+    const auto held = text.Find(9);
+
+    EXPECT_EQ(S_OK, document->Remove(held.Get()));
+
+    EXPECT_EQ(std::string::npos, Written().find("\"id\": 9"));
+}
+
+TEST_F(KORTextDocumentTest, IsNoStepToUndoUnlessTheCallerOpensOne) {
+    Read(kWhole);
+    EXPECT_FALSE(document->CanUndo());
+    {
+        KORStep step(*document, "Read");
+        Read(kWhole);
+        step.Commit();
+    }
+    EXPECT_EQ(16u, document->FeatureCount());
+
+    EXPECT_TRUE(document->Undo());
+
+    EXPECT_EQ(8u, document->FeatureCount());
+    EXPECT_EQ(kWhole, Written());
+}
+
+TEST_F(KORTextDocumentTest, IsReadFromAFile) {
+    const std::string path = testing::TempDir() + "KORTextDocument_" + std::to_string(::getpid()) + ".json";
+    std::ofstream(path) << kWhole;
+    KORJsonError error;
+
+    EXPECT_TRUE(text.Read(path, error)) << error.Text();
+    std::filesystem::remove(path);
+
+    EXPECT_EQ(kWhole, Written());
+    EXPECT_FALSE(text.Read(path, error));
+    EXPECT_EQ(path + ": cannot be read: No such file or directory", error.Text());
+}
+
+TEST_F(KORTextDocumentTest, IsNotWrittenWhenAFeatureReferencesSomethingElse) {
+    const auto elsewhere = KORMemoryDocument::New(platform);
+    const auto foreign = elsewhere->NewPlatformFeature("KORMaterialLT", "Steel");
+    const auto object = KORBaseUnknown_var::Adopt(new KORBaseUnknown);
+    const auto section = document->NewPlatformFeature("ZELShellSectionEnhLT", "Section");
+    std::string error;
+
+    section->SetComponent(KORName::Intern("Layup"), foreign.Get(), 0);
+    EXPECT_FALSE(text.Write(error));
+    EXPECT_EQ("feature 1, Layup: references what is no feature of the document", error);
+
+    section->SetComponent(KORName::Intern("Layup"), object.Get(), 0);
+    EXPECT_FALSE(text.Write(error));
+    EXPECT_EQ("feature 1, Layup: references what is no feature of the document", error);
+}
+
+TEST_F(KORTextDocumentTest, IsNotWrittenWhenATextIsNoUtf8) {
+    document->NewPlatformFeature("KORMaterialLT", "Steel")->SetAlias("\xff");
+    std::string error;
+
+    EXPECT_FALSE(text.Write(error));
+
+    EXPECT_EQ("a text is no UTF-8", error);
+}
+
+TEST_F(KORTextDocumentTest, LeavesNoReferencesBehind) {
+    Read(kWhole);
+
+    EXPECT_NE("", Written());
+
+    EXPECT_EQ(2, text.Find(9)->References());  // the container's and the handle's
+}
+
+}  // namespace
