@@ -1,0 +1,190 @@
+// What does a table cost, written in a step and read back: at the store, and through the elastic behavior
+// with its three columns? Beside them the plain loop: the same rows into three fresh columns.
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <memory>
+
+#include "ZELMaterialModel/include/ZELIMaterial.h"
+#include "ZELMaterialModel/include/ZELMaterialElastic.h"
+#include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
+#include "bench/Ground.h"
+#include "bench/Ratios.h"
+#include "platform/store/KORStep.h"
+
+namespace {
+
+using bench::Figure;
+using bench::Ground;
+using bench::Target;
+
+constexpr int kColumns = 3;
+
+ZELCftArrayZELCftArrayDouble TableOf(int rows, double scale) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.Prepare(rows);
+    for (int row = 0; row < rows; ++row) {
+        const double numbers[kColumns] = {scale * (2.1e11 - row), 0.3, scale * (293.0 + row)};
+        table.push_back(ZELCftArraydouble(kColumns, numbers));
+    }
+    return table;
+}
+
+void PlainLoop(benchmark::State& state) {
+    const int rows = static_cast<int>(state.range(0));
+    const ZELCftArrayZELCftArrayDouble table = TableOf(rows, 1.0);
+    for (auto _ : state) {
+        const auto size = static_cast<std::size_t>(rows);
+        const auto moduli = std::make_unique_for_overwrite<double[]>(size);
+        const auto ratios = std::make_unique_for_overwrite<double[]>(size);
+        const auto temperatures = std::make_unique_for_overwrite<double[]>(size);
+        for (std::size_t row = 0; row < size; ++row) {
+            const ZELCftArraydouble& numbers = table[static_cast<int>(row)];
+            moduli[row] = numbers[0];
+            ratios[row] = numbers[1];
+            temperatures[row] = numbers[2];
+        }
+        benchmark::DoNotOptimize(moduli.get());
+        benchmark::DoNotOptimize(ratios.get());
+        benchmark::DoNotOptimize(temperatures.get());
+        benchmark::ClobberMemory();
+    }
+}
+
+/// A feature's table as the store keeps it: three lists.
+class StoredTable {
+public:
+    explicit StoredTable(Ground& ground) : access_(ground.New("ZELElasticLT")) {}
+
+    void Write(const ZELCftArrayZELCftArrayDouble& table) const {
+        std::array<KORRawColldouble, kColumns> columns;
+        double* const a = columns[0].Extend(table.size());
+        double* const b = columns[1].Extend(table.size());
+        double* const c = columns[2].Extend(table.size());
+        for (int row = 0; row < table.size(); ++row) {
+            const ZELCftArraydouble& numbers = table[row];
+            a[row] = numbers[0];
+            b[row] = numbers[1];
+            c[row] = numbers[2];
+        }
+        for (std::size_t column = 0; column < kColumns; ++column) {
+            access_->SetListOfDouble(keys_[column], columns[column]);
+        }
+    }
+
+    /// Into rows that are there already.
+    void Read(ZELCftArrayZELCftArrayDouble& rows) const {
+        const std::unique_ptr<KORRawColldouble> moduli(access_->GetListOfDouble(keys_[0]));
+        const std::unique_ptr<KORRawColldouble> ratios(access_->GetListOfDouble(keys_[1]));
+        const std::unique_ptr<KORRawColldouble> temperatures(access_->GetListOfDouble(keys_[2]));
+        for (int row = 0; row < rows.size(); ++row) {
+            ZELCftArraydouble& numbers = rows[row];
+            numbers[0] = moduli->Data()[row];
+            numbers[1] = ratios->Data()[row];
+            numbers[2] = temperatures->Data()[row];
+        }
+    }
+
+private:
+    KORISpecAttrAccess_var access_;
+    std::array<KORISpecAttrKey*, kColumns> keys_ = {
+        KORName::Intern("YoungData"), KORName::Intern("PoissonData"), KORName::Intern("TemperatureData")};
+};
+
+/// Writes two tables in turn, so that every write is a change.
+template <class Write>
+void WriteInSteps(benchmark::State& state, Ground& ground, Write write) {
+    const int rows = static_cast<int>(state.range(0));
+    const ZELCftArrayZELCftArrayDouble tables[] = {TableOf(rows, 1.0), TableOf(rows, 1.01)};
+    int turn = 0;
+    for (auto _ : state) {
+        KORStep step(ground.Document(), "Write");
+        write(tables[turn ^= 1]);
+        step.Commit();
+        ground.ForgetSteps();
+    }
+}
+
+void WriteAtStore(benchmark::State& state) {
+    Ground ground;
+    const StoredTable stored(ground);
+    WriteInSteps(state, ground, [&](const auto& table) { stored.Write(table); });
+}
+
+void ReadAtStore(benchmark::State& state) {
+    Ground ground;
+    const StoredTable stored(ground);
+    auto rows = TableOf(static_cast<int>(state.range(0)), 1.0);
+    stored.Write(rows);
+    for (auto _ : state) {
+        stored.Read(rows);
+        benchmark::DoNotOptimize(&rows[0]);
+        benchmark::ClobberMemory();
+    }
+}
+
+/// The elastic behavior of a new material, with a temperature column.
+ZELGenHeapObjectProxy<ZELMaterialElastic> NewElastic(Ground& ground) {
+    const ZELIMaterial_var material(ground.NewCurrentMaterial());
+    ZELGenHeapObjectProxy<ZELMaterialElastic> elastic;
+    material->GetElasticProperties(elastic);
+    elastic->SetTemperatureDependent(1);
+    return elastic;
+}
+
+void WriteThroughBehavior(benchmark::State& state) {
+    Ground ground;
+    const auto elastic = NewElastic(ground);
+    WriteInSteps(state, ground, [&](const auto& table) { elastic->SetElasticDataArray(table); });
+}
+
+void ReadThroughBehavior(benchmark::State& state) {
+    Ground ground;
+    const auto elastic = NewElastic(ground);
+    elastic->SetElasticDataArray(TableOf(static_cast<int>(state.range(0)), 1.0));
+    for (auto _ : state) benchmark::DoNotOptimize(elastic->GetPropertyElasticDataArray());
+}
+
+BENCHMARK(PlainLoop)->Arg(10)->Arg(1000)->Arg(100000);
+BENCHMARK(WriteAtStore)->Arg(10)->Arg(1000)->Arg(100000);
+BENCHMARK(ReadAtStore)->Arg(10)->Arg(1000)->Arg(100000);
+BENCHMARK(WriteThroughBehavior)->Arg(10)->Arg(1000)->Arg(100000);
+BENCHMARK(ReadThroughBehavior)->Arg(10)->Arg(1000)->Arg(100000);
+
+const bench::Ratio kRatios[] = {
+    {"table write in a step, 10 rows, store", Figure::Time("WriteAtStore/10"), Figure::Peer(990, 990),
+     Target::AtLeast(4)},
+    {"table write in a step, 1,000 rows, store", Figure::Time("WriteAtStore/1000"), Figure::Peer(7700, 7700),
+     Target::AtLeast(4)},
+    {"table write in a step, 10 rows, behavior", Figure::Time("WriteThroughBehavior/10"),
+     Figure::Peer(990, 990), Target::AtLeast(4)},
+    {"table write in a step, 1,000 rows, behavior", Figure::Time("WriteThroughBehavior/1000"),
+     Figure::Peer(7700, 7700), Target::None()},
+    {"table write, 10 rows, store", Figure::Time("WriteAtStore/10"), Figure::Time("PlainLoop/10"),
+     Target::None()},
+    {"table write, 1,000 rows, store", Figure::Time("WriteAtStore/1000"), Figure::Time("PlainLoop/1000"),
+     Target::AtMost(2)},
+    {"table write, 100,000 rows, store", Figure::Time("WriteAtStore/100000"),
+     Figure::Time("PlainLoop/100000"), Target::AtMost(2)},
+    {"table write, 1,000 rows, behavior", Figure::Time("WriteThroughBehavior/1000"),
+     Figure::Time("PlainLoop/1000"), Target::AtMost(4)},
+    {"table write, 100,000 rows, behavior", Figure::Time("WriteThroughBehavior/100000"),
+     Figure::Time("PlainLoop/100000"), Target::AtMost(4)},
+    {"table read, 1,000 rows, store", Figure::Time("ReadAtStore/1000"), Figure::Peer(4000, 6000),
+     Target::None()},
+    {"table read, 1,000 rows, store", Figure::Time("ReadAtStore/1000"), Figure::Time("PlainLoop/1000"),
+     Target::AtMost(2)},
+    {"table read, 100,000 rows, store", Figure::Time("ReadAtStore/100000"), Figure::Time("PlainLoop/100000"),
+     Target::AtMost(2)},
+    {"table read, 1,000 rows, behavior", Figure::Time("ReadThroughBehavior/1000"),
+     Figure::Time("PlainLoop/1000"), Target::AtMost(2)},
+    {"table read, 100,000 rows, behavior", Figure::Time("ReadThroughBehavior/100000"),
+     Figure::Time("PlainLoop/100000"), Target::AtMost(2)},
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    return bench::RunWithRatios(argc, argv, kRatios);
+}
