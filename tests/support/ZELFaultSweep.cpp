@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <iostream>
 
+#include "tests/support/ZELCatalogText.h"
+
 namespace {
 
 constexpr int kSane = 1000;  ///< more calls than any operation makes: the run does not get anywhere
@@ -75,6 +77,7 @@ void ZELFaultRun::Act(const std::function<void()>& act) {
 }
 
 int ZELFaultSweep(ZELFault fault, const std::function<void(ZELFaultRun&)>& run) {
+    ZELModuleTypes();  // read once here, instead of once in each process
     for (int n = 1; n <= kSane; ++n) {
         int ends[2];
         if (pipe(ends) != 0) break;

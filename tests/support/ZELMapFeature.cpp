@@ -14,6 +14,7 @@ std::string Text(double value) {
 
 std::string Text(const KORBaseUnknown* component) {
     if (!component) return "null";
+    const ZELUnrecorded unrecorded;
     auto* feature = dynamic_cast<KORISpecObject*>(const_cast<KORBaseUnknown*>(component));
     return feature ? std::string(feature->GetType().View()) : component->IsA();
 }
@@ -41,7 +42,7 @@ struct TextOf {
 
 ZELMapFeature::ZELMapFeature(const std::shared_ptr<ZELMapWorld>& world, const std::string& lateType,
                              const KORUnicodeString& name, ZELMapContainer* container)
-    : ZELMapObject(world, container ? lateType : lateType + "(start-up)"),
+    : ZELMapAnalysisFeature(world, container ? lateType : lateType + "(start-up)"),
       lateType_(lateType),
       name_(name),
       container_(container),
@@ -57,6 +58,42 @@ ZELMapFeature::ZELMapFeature(const std::shared_ptr<ZELMapWorld>& world, const st
 
 ZELMapFeature::~ZELMapFeature() {
     World()->features.erase(this);
+}
+
+void ZELMapFeature::EmptyAll() {
+    values_.clear();
+    father_ = nullptr;
+}
+
+ZELMapFeature* ZELMapFeature::Copy(ZELMapContainer* container) const {
+    auto* copy = new ZELMapFeature(World(), lateType_, name_, container);
+    copy->alias_ = alias_;
+    copy->attributes_ = attributes_;
+    copy->values_ = values_;
+    return copy;
+}
+
+std::vector<KORISpecObject*> ZELMapFeature::Referenced() const {
+    std::vector<KORISpecObject*> found;
+    const auto add = [&found](const KORBaseUnknown_var& component) {
+        if (auto* feature = dynamic_cast<KORISpecObject*>(component.Get())) found.push_back(feature);
+    };
+    for (const auto& [name, value] : values_) {
+        if (const auto* component = std::get_if<KORBaseUnknown_var>(&value)) add(*component);
+        if (const auto* entries = std::get_if<Entries>(&value)) std::ranges::for_each(*entries, add);
+    }
+    return found;
+}
+
+void ZELMapFeature::Redirect(const std::map<KORISpecObject*, ZELMapFeature*>& copyOf) {
+    const auto redirect = [&copyOf](KORBaseUnknown_var& component) {
+        const auto found = copyOf.find(dynamic_cast<KORISpecObject*>(component.Get()));
+        if (found != copyOf.end()) component = static_cast<KORBaseUnknown*>(found->second);
+    };
+    for (auto& [name, value] : values_) {
+        if (auto* component = std::get_if<KORBaseUnknown_var>(&value)) redirect(*component);
+        if (auto* entries = std::get_if<Entries>(&value)) std::ranges::for_each(*entries, redirect);
+    }
 }
 
 bool ZELMapFeature::Has(const std::string& name, ZELKind kind) const {
@@ -102,6 +139,11 @@ KORBaseUnknown* ZELMapFeature::GetFeatContainer() {
     if (verdict != ZELVerdict::Answer || !container_) return nullptr;
     container_->AddRef();
     return container_;
+}
+
+KORISpecObject* ZELMapFeature::GetFather() {
+    const ZELVerdict verdict = Calls().Record("GetFather", Label(), true);
+    return verdict == ZELVerdict::Answer ? KORISpecObject_var(father_).Detach() : nullptr;
 }
 
 KORISpecObject* ZELMapFeature::Instantiate(const KORUnicodeString& name, KORIContainer* container) {
@@ -248,4 +290,8 @@ void ZELMapFeature::SetAlias(const KORUnicodeString& alias) {
 KORUnicodeString ZELMapFeature::GetAlias() {
     Calls().Record("GetAlias", Label(), false);
     return alias_;
+}
+
+void ZELMapFeature::SetDomain(KORIDomain* domain) {
+    Calls().Record("SetDomain", Label() + (domain ? " domain" : " null"), false);
 }

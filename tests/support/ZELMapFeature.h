@@ -4,17 +4,13 @@
 #include <variant>
 #include <vector>
 
-#include "interfaces/KORIAlias.h"
-#include "interfaces/KORILinkableObject.h"
-#include "interfaces/KORISpecAttrAccess.h"
-#include "tests/support/ZELMapWorld.h"
+#include "tests/support/ZELMapAnalysis.h"
 
 class ZELMapContainer;
 
 /// A feature or a start-up of the map store: its values lie in a map by attribute name. What is not in the
 /// map was never valued.
-class ZELMapFeature final
-    : public ZELMapObject<KORISpecObject, KORISpecAttrAccess, KORILinkableObject, KORIAlias> {
+class ZELMapFeature final : public ZELMapAnalysisFeature {
 public:
     /// A feature in a container, or a start-up (no container) that never lies in one. Values are the
     /// defaults.
@@ -22,12 +18,22 @@ public:
                   const KORUnicodeString& name, ZELMapContainer* container);
     ~ZELMapFeature() override;
 
-    void EmptyAll() { values_.clear(); }  ///< the document is being closed
+    void EmptyAll();  ///< the document is being closed
     void LeaveContainer() { container_ = nullptr; }
+
+    /// The feature on which this one hangs; null takes it off.
+    void HangOn(KORISpecObject* father) { father_ = father; }
+
+    /// A new feature with the same values in another container, one reference for the caller.
+    ZELMapFeature* Copy(ZELMapContainer* container) const;
+    std::vector<KORISpecObject*> Referenced() const;  ///< by attributes, in the order of their names
+    /// What references one of these features references its copy from now on.
+    void Redirect(const std::map<KORISpecObject*, ZELMapFeature*>& copyOf);
 
     KORUnicodeString GetType() override;
     KORUnicodeString GetName() override;
     KORBaseUnknown* GetFeatContainer() override;
+    KORISpecObject* GetFather() override;
     KORISpecObject* Instantiate(const KORUnicodeString& name, KORIContainer* container) override;
 
     KORISpecAttrKey* GetAttrKey(const char* name) override;
@@ -54,6 +60,7 @@ public:
 
     void SetAlias(const KORUnicodeString& alias) override;
     KORUnicodeString GetAlias() override;
+    void SetDomain(KORIDomain* domain) override;
 
 private:
     using Entries = std::vector<KORBaseUnknown_var>;
@@ -61,7 +68,7 @@ private:
     using Value =
         std::variant<bool, int, double, KORUnicodeString, KORRawColldouble, KORBaseUnknown_var, Entries>;
 
-    const KORName* DictionaryKey() const override { return KORName::Intern(lateType_); }
+    const std::string& LateType() const override { return lateType_; }
     bool Has(const std::string& name, ZELKind kind) const;
     bool Has(KORISpecAttrKey* key, ZELKind kind) const { return key && Has(key->Text(), kind); }
     const Value* Find(const std::string& name, ZELKind kind) const;
@@ -75,6 +82,7 @@ private:
     KORUnicodeString name_;
     KORUnicodeString alias_;
     ZELMapContainer* container_;  ///< weak; null on a start-up, when removed, and when the document is closed
+    KORISpecObject_var father_;
     bool isStartUp_;
     std::vector<ZELAttribute> attributes_;  ///< as the catalog was when this feature was made
     std::map<std::string, Value> values_;

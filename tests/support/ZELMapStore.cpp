@@ -1,12 +1,17 @@
 #include "tests/support/ZELMapStore.h"
 
 #include <set>
+#include <stdexcept>
 #include <utility>
 
 #include "tests/support/ZELCatalogText.h"
+#include "tests/support/ZELMapMaterial.h"
 
 ZELMapStore::ZELMapStore() : document_(KORVar<ZELMapDocument>::Adopt(new ZELMapDocument(world_))) {
     world_->types = ZELModuleTypes();
+    DefineType("KORAnalysisModelLT", {{"Children", ZELKind::ListOfComponents}});
+    DefineType("ZELZelmarPropertySetLT", {{"Children", ZELKind::ListOfComponents}});
+    DefineType("ZELShellSectionEnhLT", {{"SectionType", ZELKind::Integer, 0}, {"Layup", ZELKind::Component}});
 }
 
 ZELMapStore::~ZELMapStore() {
@@ -15,8 +20,20 @@ ZELMapStore::~ZELMapStore() {
 }
 
 KORISpecObject_var ZELMapStore::Make(const char* lateType) {
+    return MakeIn(Container(), lateType);
+}
+
+KORIContainer_var ZELMapStore::AddContainer(const char* name) {
+    return KORIContainer_var(static_cast<KORIContainer*>(document_->AddContainer(name).Get()));
+}
+
+KORISpecObject_var ZELMapStore::MakeIn(const KORIContainer_var& container, const char* lateType) {
     const ZELUnrecorded unrecorded;
-    return document_->Container()->MakeMember(lateType, lateType);
+    return dynamic_cast<ZELMapContainer&>(*container).MakeMember(lateType, lateType);
+}
+
+KORISpecObject_var ZELMapStore::MakePlatformMaterial(const KORIContainer_var& container) {
+    return KORISpecObject_var::Adopt(new ZELMapMaterial(container, world_));
 }
 
 KORIContainer_var ZELMapStore::Container() {
@@ -27,8 +44,14 @@ KORDocument* ZELMapStore::Document() {
     return document_.Get();
 }
 
+KORISpecObject_var ZELMapStore::AddAnalysisModel() {
+    if (!document_->AnalysisModel()) document_->SetAnalysisModel(Make("KORAnalysisModelLT"));
+    return document_->AnalysisModel();
+}
+
 void ZELMapStore::Remove(const KORISpecObject_var& feature) {
-    document_->Container()->Remove(feature.Get());
+    const ZELUnrecorded unrecorded;
+    if (FAILED(document_->Container()->Remove(feature.Get()))) throw std::runtime_error("no member");
 }
 
 long ZELMapStore::LiveFeatures() const {

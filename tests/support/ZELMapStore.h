@@ -15,11 +15,17 @@ public:
     KORISpecObject_var Make(const char* lateType) override;
     KORIContainer_var Container() override;
     KORDocument* Document() override;
+    KORISpecObject_var AddAnalysisModel() override;
+    KORIContainer_var AddContainer(const char* name) override;  ///< its name shows in the log
+    KORISpecObject_var MakeIn(const KORIContainer_var& container, const char* lateType) override;
+    KORISpecObject_var MakePlatformMaterial(const KORIContainer_var& container) override;
     void Remove(const KORISpecObject_var& feature) override;
     long LiveFeatures() const override;
     void DefineType(const char* lateType, std::vector<ZELAttribute> attributes) override;
     void OmitAttribute(const char* lateType, const char* attribute) override;
     void OmitType(const char* lateType) override;
+
+    const std::shared_ptr<ZELMapWorld>& World() const { return world_; }
 
     ZELPlatformCalls& Calls() { return world_->calls; }
 

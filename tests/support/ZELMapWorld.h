@@ -37,7 +37,7 @@ protected:
         const bool canFail = iid != IID_KORBaseUnknown;
         const ZELVerdict verdict = Calls().Record("QueryInterface", label_ + " " + iid->Text(), canFail);
         refusing_ = verdict != ZELVerdict::Answer || Calls().Refuses(label_, iid->Text());
-        return refusing_ ? nullptr : KORImplements<I...>::OwnInterface(iid);
+        return refusing_ || !Offers(iid) ? nullptr : KORImplements<I...>::OwnInterface(iid);
     }
 
     // A query that this object does not answer itself goes on to the living extensions and ends at the
@@ -47,6 +47,9 @@ protected:
         return std::exchange(refusing_, false) ? nullptr : DictionaryKey();
     }
     virtual const KORName* DictionaryKey() const { return nullptr; }
+
+    /// Which of its interfaces the object has, if not all.
+    virtual bool Offers(KORIID) const { return true; }
 
 private:
     std::shared_ptr<ZELMapWorld> world_;

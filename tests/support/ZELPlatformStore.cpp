@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "platform/catalog/KORPlatformCatalog.h"
 #include "tests/support/ZELCatalogText.h"
 
 namespace {
@@ -43,10 +44,24 @@ void ZELPlatformStore::WriteCatalog() {
 }
 
 KORISpecObject_var ZELPlatformStore::Make(const char* lateType) {
+    return MakeIn(Container(), lateType);
+}
+
+KORIContainer_var ZELPlatformStore::AddContainer(const char* name) {
+    return KORIContainer_var(document_->AddContainer(name));
+}
+
+KORISpecObject_var ZELPlatformStore::MakeIn(const KORIContainer_var& container, const char* lateType) {
     const KORCatalogType* type = catalog_->Find(KORName::Find(lateType));
     if (!type) return nullptr;
-    const KORIFeatureContainer_var container = Container();
-    return KORISpecObject_var(container->NewFeature(type->layout, lateType));
+    const KORIFeatureContainer_var holder = container;
+    return KORISpecObject_var(holder->NewFeature(type->layout, lateType));
+}
+
+KORISpecObject_var ZELPlatformStore::MakePlatformMaterial(const KORIContainer_var& container) {
+    const KORCatalogType* type = KORPlatformCatalog().Find(KORName::Find("KORMaterialLT"));
+    const KORIFeatureContainer_var holder = container;
+    return KORISpecObject_var(holder->NewFeature(type->layout, "Material"));
 }
 
 KORIContainer_var ZELPlatformStore::Container() {
@@ -55,6 +70,10 @@ KORIContainer_var ZELPlatformStore::Container() {
 
 KORDocument* ZELPlatformStore::Document() {
     return document_.Get();
+}
+
+KORISpecObject_var ZELPlatformStore::AddAnalysisModel() {
+    return KORISpecObject_var(document_->AddAnalysisModel());
 }
 
 void ZELPlatformStore::Remove(const KORISpecObject_var& feature) {

@@ -23,6 +23,18 @@ public:
     virtual KORIContainer_var Container() = 0;
     virtual KORDocument* Document() = 0;  ///< no reference
 
+    /// The document's analysis model, made if there is none.
+    virtual KORISpecObject_var AddAnalysisModel() = 0;
+
+    /// An applicative container of the document, made if there is none of that name.
+    virtual KORIContainer_var AddContainer(const char* name) = 0;
+
+    /// A feature like those of Make, in another container of the document.
+    virtual KORISpecObject_var MakeIn(const KORIContainer_var& container, const char* lateType) = 0;
+
+    /// A material of the platform, lying in a container, on which applications hang features.
+    virtual KORISpecObject_var MakePlatformMaterial(const KORIContainer_var& container) = 0;
+
     /// Takes a feature out of the container. Its other holders keep it.
     virtual void Remove(const KORISpecObject_var& feature) = 0;
 

@@ -74,11 +74,11 @@ HRESULT ZELMaterialPropertiesFact::CreateZELMaterialProperty(KORIMaterialFeature
                                                              KORISpecObject*& created) {
     Place place;
     if (FAILED(OpenPlace(material, place))) return E_FAIL;
-    KORISpecObject_var root;
-    const HRESULT status = ZELInstantiate(*place.catalog, ZELLateType::ZELMaterialLT,
-                                          ZELLateType::ZELMaterialLT, place.container.Get(), root);
-    created = KORISpecObject_var(root).Detach();
-    if (FAILED(status) || FAILED(CreateBehaviors(place, root.Get()))) return E_FAIL;
+    const KORISpecObject_var startUp = ZELRetrieveStartUp(*place.catalog, ZELLateType::ZELMaterialLT);
+    if (!startUp) return E_FAIL;
+    created = startUp->Instantiate(ZELLateType::ZELMaterialLT, place.container.Get());
+    const KORISpecObject_var root(created);
+    if (!root || FAILED(CreateBehaviors(place, root.Get()))) return E_FAIL;
     return WriteGasketStart(root.Get());
 }
 

@@ -7,12 +7,15 @@ HRESULT ZELOpenModuleCatalog(KORIContainer* container, KORICatalog_var& catalog)
     return SUCCEEDED(status) && !catalog ? E_FAIL : status;
 }
 
+KORISpecObject_var ZELRetrieveStartUp(KORICatalog& catalog, const KORUnicodeString& lateType) {
+    void* found = nullptr;
+    if (FAILED(catalog.RetrieveStartUp(lateType, "KORISpecObject", &found))) return nullptr;
+    return KORISpecObject_var::Adopt(static_cast<KORISpecObject*>(found));
+}
+
 HRESULT ZELInstantiate(KORICatalog& catalog, const KORUnicodeString& lateType, const KORUnicodeString& name,
                        KORIContainer* container, KORISpecObject_var& created) {
-    created = nullptr;
-    void* found = nullptr;
-    if (FAILED(catalog.RetrieveStartUp(lateType, "KORISpecObject", &found))) return E_FAIL;
-    const auto startUp = KORISpecObject_var::Adopt(static_cast<KORISpecObject*>(found));
+    const KORISpecObject_var startUp = ZELRetrieveStartUp(catalog, lateType);
     if (!startUp) return E_FAIL;
     created = KORISpecObject_var::Adopt(startUp->Instantiate(name, container));
     return created ? S_OK : E_FAIL;

@@ -6,8 +6,11 @@
 /// success; E_FAIL also when the platform answers success and gives no catalog.
 [[nodiscard]] HRESULT ZELOpenModuleCatalog(KORIContainer* container, KORICatalog_var& catalog);
 
+/// The start-up of a late type; empty when the catalog has none that is a spec object.
+KORISpecObject_var ZELRetrieveStartUp(KORICatalog& catalog, const KORUnicodeString& lateType);
+
 /// Instantiates the start-up of a late type from a catalog, under a name, in a container. E_FAIL when the
-/// catalog has no such start-up or no feature comes of it; `created` is null then.
+/// catalog has no such start-up, `created` untouched, or no feature comes of it, `created` empty.
 [[nodiscard]] HRESULT ZELInstantiate(KORICatalog& catalog, const KORUnicodeString& lateType,
                                      const KORUnicodeString& name, KORIContainer* container,
                                      KORISpecObject_var& created);

@@ -28,6 +28,11 @@ std::vector<std::string> Among(const std::vector<std::string>& lines, const std:
     return found;
 }
 
+std::string NameOf(ZELFault fault) {
+    if (fault == ZELFault::Throw) return "Throw";
+    return fault == ZELFault::Refuse ? "Refuse" : "SuccessWithNull";
+}
+
 }  // namespace
 
 TEST(ZELMaterialCalls, BuildTheFirstBehaviorsInOrderBeforeTheyAskForTheUpgrade) {
@@ -213,7 +218,4 @@ TEST_P(ZELMaterialFaults, KeepTheStoredHeatGenerationAndTheAnswerWhicheverCallFa
 
 INSTANTIATE_TEST_SUITE_P(, ZELMaterialFaults,
                          testing::Values(ZELFault::Refuse, ZELFault::SuccessWithNull, ZELFault::Throw),
-                         [](const auto& choice) {
-                             const char* names[] = {"Refuse", "SuccessWithNull", "Throw"};
-                             return std::string(names[static_cast<int>(choice.param)]);
-                         });
+                         [](const auto& choice) { return NameOf(choice.param); });

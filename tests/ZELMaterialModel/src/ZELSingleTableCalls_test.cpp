@@ -84,17 +84,17 @@ TEST_P(ZELSingleTableCalls, ResolveNoKeyForASecondMaterialOrForASetter) {
     ZELMapStore store;
     const Features first(store, GetParam());
     const Features second(store, GetParam());
-    const auto of_first = GetParam().make(first.material.Get());
+    const auto ofFirst = GetParam().make(first.material.Get());
     store.Calls().ClearLog();
 
-    const auto of_second = GetParam().make(second.material.Get());
-    of_first->SetEnabled(0);
-    of_first->Properties().SetTemperatureDependent(0);
-    of_first->Properties().SetDataFile("after.csv");
-    of_first->SetDataArray({{2.0}});
+    const auto ofSecond = GetParam().make(second.material.Get());
+    ofFirst->SetEnabled(0);
+    ofFirst->Properties().SetTemperatureDependent(0);
+    ofFirst->Properties().SetDataFile("after.csv");
+    ofFirst->SetDataArray({{2.0}});
 
     EXPECT_THAT(store.Calls().Log("GetAttrKey"), IsEmpty());
-    EXPECT_EQ(of_second->GetDataArray(), (ZELRows{{1.0, 293.0}}));
+    EXPECT_EQ(ofSecond->GetDataArray(), (ZELRows{{1.0, 293.0}}));
     EXPECT_EQ(GetText(first.feature, "DataFile"), "after.csv");
     EXPECT_EQ(GetText(second.feature, "DataFile"), "before.csv");
 }

@@ -1,0 +1,26 @@
+zel_test(test_module_behaviors
+    FILES
+        src/ZELEHyperelasticMaterialModel_test.cpp
+        src/ZELEJohnsonCookData_test.cpp
+        src/ZELEMRVMaterialUpgradeContainers_test.cpp
+        src/ZELEMRVMaterialUpgradeFaults_test.cpp
+        src/ZELEMRVMaterialUpgradeQuery_test.cpp
+        src/ZELEMRVMaterialUpgradeUnits_test.cpp
+        src/ZELEMRVMaterialUpgrade_test.cpp
+        src/ZELGasketBehaviorCalls_test.cpp
+        src/ZELGasketElastic.cpp
+        src/ZELGasketElastic_test.cpp
+        src/ZELGasketMembraneElasticBehavior_test.cpp
+        src/ZELGasketThicknessBehavior_test.cpp
+        src/ZELGasketTransverseShearElasticBehavior_test.cpp
+        src/ZELHyperelasticUnits_test.cpp
+        src/ZELHyperelastic_test.cpp
+        src/ZELMaterialBehaviors_test.cpp
+        src/ZELMaterialPlasticCalls_test.cpp
+        src/ZELMaterialPlasticJohnsonCook_test.cpp
+        src/ZELMaterialPlastic_test.cpp
+        src/ZELMaterialPropertiesFact_test.cpp
+        src/ZELTestData_test.cpp
+        src/ZELUserMaterial_test.cpp
+        store/ZELBoundAccess_test.cpp
+    LINKS module_src module_store ZELShared test_support)

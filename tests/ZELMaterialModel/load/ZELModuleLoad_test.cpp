@@ -1,0 +1,162 @@
+#include <dlfcn.h>
+#include <gmock/gmock.h>
+
+#include "ZELMaterialModel/include/ZELIMaterial.h"
+#include "framework/KORDictionary.h"
+#include "framework/KORLibrary.h"
+#include "framework/KORTrace.h"
+#include "tests/ZELMaterialModel/load/ZELCaller.h"
+#include "tests/support/ZELDiagnostics.h"
+#include "tests/support/ZELMapStore.h"
+
+namespace {
+
+constexpr const char* kModule = "ZELMaterialModel";
+
+/// What the framework keeps of loaded modules.
+struct Registrations {
+    std::size_t entries = KORFillDictionary::Count();
+    std::size_t records = KORModule::Of(kModule).Records();
+    std::size_t traces = KORTrace::Channels().size();
+    long objects = KORModule::Of(kModule).LiveObjects();
+
+    friend bool operator==(const Registrations&, const Registrations&) = default;
+};
+
+bool IsInProcess(const char* path) {
+    void* handle = dlopen(path, RTLD_NOW | RTLD_NOLOAD);
+    if (handle) dlclose(handle);
+    return handle != nullptr;
+}
+
+/// The caller's library, loaded while it lives.
+class Caller {
+public:
+    Caller() : handle_(dlopen(ZEL_CALLER_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
+        if (!handle_) ADD_FAILURE() << dlerror();
+    }
+    ~Caller() {
+        if (handle_) dlclose(handle_);
+    }
+    Caller(const Caller&) = delete;
+    Caller& operator=(const Caller&) = delete;
+
+    template <class Operation>
+    Operation Find(const char* name) const {
+        return reinterpret_cast<Operation>(dlsym(handle_, name));
+    }
+
+private:
+    void* handle_;
+};
+
+/// A program that knows the module by its interfaces and its path only.
+class ZELModuleLoad : public testing::Test {
+protected:
+    ZELModuleLoad() {
+        Attach(material_, "ZELDensity", density_);
+        Load();
+    }
+    void Load() {
+        std::string error;
+        library_ = KORLibrary::Load(ZEL_MODULE_LIBRARY, kModule, error);
+        EXPECT_EQ(error, "");
+    }
+    void ExpectGone() {
+        EXPECT_EQ(Registrations(), before_);
+        EXPECT_FALSE(IsInProcess(ZEL_MODULE_LIBRARY));
+        EXPECT_FALSE(ZELIMaterial_var(material_));
+    }
+
+    ZELDiagnostics diagnostics_;
+    ZELMapStore store_;
+    KORISpecObject_var material_ = store_.Make("ZELMaterialLT");
+    KORISpecObject_var density_ = store_.Make("ZELDensityLT");
+    const Registrations before_;
+    std::unique_ptr<KORLibrary> library_;
+};
+
+}  // namespace
+
+TEST_F(ZELModuleLoad, BringsTheModulesInterfacesWithTheLibrary) {
+    ASSERT_TRUE(library_);
+    EXPECT_TRUE(IsInProcess(ZEL_MODULE_LIBRARY));
+    EXPECT_GT(Registrations().entries, before_.entries);
+    EXPECT_EQ(Registrations().traces, before_.traces + 1);
+
+    EXPECT_TRUE(ZELIMaterial_var(material_));
+}
+
+TEST_F(ZELModuleLoad, TakesEverythingAwayWhenItIsUnloadedUnused) {
+    ASSERT_TRUE(library_);
+
+    EXPECT_EQ(library_->Unload(), S_OK);
+
+    ExpectGone();
+}
+
+TEST_F(ZELModuleLoad, TakesEverythingAwayWhenItIsUnloadedAfterUseAndComesBack) {
+    for (int round = 1; round <= 3; ++round) {
+        ASSERT_TRUE(library_);
+        {
+            const Caller caller;
+            const auto storeDensity = caller.Find<ZELStoreDensity>("StoreDensity");
+            ASSERT_NE(storeDensity, nullptr);
+            EXPECT_EQ(storeDensity(material_.Get(), 7000.0 + round), 7000.0 + round);
+        }
+        EXPECT_EQ(KORModule::Of(kModule).LiveObjects(), 0);
+
+        EXPECT_EQ(library_->Unload(), S_OK);
+
+        ExpectGone();
+        EXPECT_THAT(List(density_, "DensityData"), testing::Optional(testing::ElementsAre(7000.0 + round)));
+        Load();
+    }
+}
+
+TEST_F(ZELModuleLoad, StaysWhileAnInterfaceIsHeld) {
+    ASSERT_TRUE(library_);
+    ZELIMaterial_var material = material_;
+    ASSERT_TRUE(material);
+
+    EXPECT_EQ(library_->Unload(), E_FAIL);
+
+    EXPECT_TRUE(IsInProcess(ZEL_MODULE_LIBRARY));
+    EXPECT_EQ(ZELIMaterial_var(material_), material) << "and goes on";
+    material = nullptr;
+    EXPECT_EQ(library_->Unload(), S_OK);
+    ExpectGone();
+}
+
+TEST_F(ZELModuleLoad, StaysWhileABehaviorIsHeld) {
+    ASSERT_TRUE(library_);
+    {
+        const Caller caller;
+        EXPECT_EQ(caller.Find<ZELHoldDensity>("HoldDensity")(material_.Get()), 1) << "no extension any more";
+
+        EXPECT_EQ(library_->Unload(), E_FAIL);
+
+        EXPECT_TRUE(IsInProcess(ZEL_MODULE_LIBRARY));
+        EXPECT_EQ(caller.Find<ZELStoreDensity>("StoreDensity")(material_.Get(), 7850.0), 7850.0);
+        caller.Find<ZELDropDensity>("DropDensity")();
+    }
+
+    EXPECT_EQ(library_->Unload(), S_OK);
+    ExpectGone();
+}
+
+TEST_F(ZELModuleLoad, IsUnloadedWithItsLibraryObject) {
+    ASSERT_TRUE(library_);
+
+    library_ = nullptr;
+
+    ExpectGone();
+}
+
+TEST_F(ZELModuleLoad, IsNotUnloadedASecondTime) {
+    ASSERT_TRUE(library_);
+    EXPECT_EQ(library_->Unload(), S_OK);
+
+    EXPECT_EQ(library_->Unload(), E_FAIL);
+    EXPECT_EQ(library_->Symbol("CreateTIEZELIMaterialZELMaterial"), nullptr);
+}

@@ -1,0 +1,384 @@
+// The steps of the upgrade that move data between the containers of a document.
+
+#include <gmock/gmock.h>
+
+#include "ZELMaterialModel/include/ZELIMaterial.h"
+#include "interfaces/KORIMaterialFeature.h"
+#include "tests/ZELMaterialModel/src/ZELTestDataMaterial.h"
+#include "tests/ZELMaterialModel/src/ZELUpgradeTest.h"
+#include "tests/support/ZELMapStore.h"
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Optional;
+
+namespace {
+
+constexpr const char* kApplicativeName = "ZELMaterialApplicative";
+
+class ZELUpgradeContainers : public ZELUpgradeTest {
+protected:
+    /// The platform's material, and the analysis data that hang on it.
+    void HangOn(const KORISpecObject_var& platformMaterial, const KORISpecObject_var& data) {
+        platformMaterial_ = platformMaterial;
+        EXPECT_EQ(
+            KORIMaterialFeature_var(platformMaterial)->SetApplicativeFeature(kApplicativeName, data.Get()),
+            S_OK);
+    }
+    KORISpecObject_var Hanging() {
+        return KORISpecObject_var::Adopt(
+            KORIMaterialFeature_var(platformMaterial_)->GetApplicativeFeature(kApplicativeName));
+    }
+
+    const KORIContainer_var own_ = Store().Container();
+    const KORIContainer_var old_ = Store().AddContainer("VRBMatAppliCont");
+    const KORIContainer_var foreign_ = Store().AddContainer("TestData");
+    KORISpecObject_var platformMaterial_ = Store().MakePlatformMaterial(own_);
+};
+
+}  // namespace
+
+TEST_P(ZELUpgradeContainers, FindMaterialsInTheOldContainerOnly) {
+    const ZELTestDataMaterial inOld(Store(), old_);
+    const ZELTestDataMaterial inOwn(Store(), own_);
+    const ZELTestDataMaterial inOther(Store(), foreign_);
+
+    EXPECT_THAT(Needs(inOld.material), ElementsAre(0, 0, 0, 0, 0, 1, 0));
+    EXPECT_THAT(Needs(inOwn.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+    EXPECT_THAT(Needs(inOther.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_P(ZELUpgradeContainers, MoveTheMaterialBesideThePlatformsMaterial) {
+    const ZELTestDataMaterial old(Store(), old_);
+    SetList(old.density, "DensityData", {7850.0});
+    HangOn(platformMaterial_, old.material);
+
+    EXPECT_EQ(Upgrade(old.material), S_OK);
+
+    const auto moved = Hanging();
+    ASSERT_TRUE(moved);
+    EXPECT_NE(moved, old.material);
+    EXPECT_EQ(moved->GetType(), "ZELMaterialLT");
+    EXPECT_EQ(ZELContainerOf(moved), KORBaseUnknown_var(own_));
+    EXPECT_EQ(ZELContainerOf(old.material), nullptr) << "removed";
+    EXPECT_EQ(KORISpecObject_var::Adopt(moved->GetFather()), platformMaterial_);
+    const auto density = Component(moved, "ZELDensity");
+    EXPECT_NE(density, old.density);
+    EXPECT_EQ(ZELContainerOf(density), KORBaseUnknown_var(own_));
+    EXPECT_THAT(List(density, "DensityData"), Optional(ElementsAre(7850.0)));
+    EXPECT_THAT(Needs(moved), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_P(ZELUpgradeContainers, DoTheOtherStepsBeforeTheMaterialMoves) {
+    const auto material = Store().MakeIn(old_, "ZELMaterialLT");
+    HangOn(platformMaterial_, material);
+    EXPECT_THAT(Needs(material), ElementsAre(1, 1, 0, 1, 1, 1, 0));
+
+    EXPECT_EQ(Upgrade(material), S_OK);
+
+    const auto moved = Hanging();
+    ASSERT_TRUE(moved);
+    EXPECT_EQ(ZELContainerOf(Component(moved, "ZELUserMaterial")), KORBaseUnknown_var(own_));
+    const auto hyperelasticity = Component(moved, "ZELHyperelasticity");
+    EXPECT_EQ(ZELContainerOf(hyperelasticity), KORBaseUnknown_var(own_));
+    EXPECT_TRUE(GetFlag(hyperelasticity, "HyperelasticUnitUpgradeRequired"));
+    EXPECT_EQ(ZELContainerOf(Component(hyperelasticity, "HyperelasticModel_v2")), KORBaseUnknown_var(own_));
+}
+
+TEST_P(ZELUpgradeContainers, CarryTheTestDataOfTheMovedMaterial) {
+    ZELTestDataMaterial old(Store(), old_);
+    old.SwitchOn(true);
+    old.AddTestData(Store(), old_, {1.0, 2.0});
+    old.AddTestData(Store(), old_, {3.0});
+    HangOn(platformMaterial_, old.material);
+
+    EXPECT_EQ(Upgrade(old.material), S_OK);
+
+    const auto model = ZELModelOf(Hanging());
+    EXPECT_EQ(ZELTestDataOf(model), (ZELRows{{1.0, 2.0}, {3.0}}));
+    EXPECT_EQ(ZELTestDataContainers(model), std::vector(2, KORBaseUnknown_var(own_)));
+    EXPECT_EQ(ZELTestDataOf(old.model), ZELRows()) << "they are listed once";
+}
+
+TEST_P(ZELUpgradeContainers, CarryTestDataThatLieInAThirdContainer) {
+    ZELTestDataMaterial old(Store(), old_);
+    old.SwitchOn(true);
+    old.AddTestData(Store(), foreign_, {1.0, 2.0});
+    HangOn(platformMaterial_, old.material);
+    EXPECT_THAT(Needs(old.material), ElementsAre(0, 0, 0, 0, 0, 1, 0)) << "the old container decides";
+
+    EXPECT_EQ(Upgrade(old.material), S_OK);
+
+    const auto model = ZELModelOf(Hanging());
+    EXPECT_EQ(ZELTestDataOf(model), (ZELRows{{1.0, 2.0}}));
+    EXPECT_EQ(ZELTestDataContainers(model), std::vector(1, KORBaseUnknown_var(own_)));
+}
+
+TEST_P(ZELUpgradeContainers, UnlistTheTestDataOfAMovedMaterialThatIsSwitchedOff) {
+    ZELTestDataMaterial old(Store(), old_);
+    old.AddTestData(Store(), old_, {1.0, 2.0});
+    HangOn(platformMaterial_, old.material);
+
+    EXPECT_EQ(Upgrade(old.material), S_OK);
+
+    EXPECT_EQ(ZELTestDataOf(ZELModelOf(Hanging())), ZELRows());
+    EXPECT_EQ(ZELTestDataOf(old.model), (ZELRows{{1.0, 2.0}}));
+}
+
+TEST_P(ZELUpgradeContainers, LeaveAMaterialWhoseFatherLiesInTheOldContainer) {
+    const ZELTestDataMaterial old(Store(), old_);
+    HangOn(Store().MakePlatformMaterial(old_), old.material);
+
+    EXPECT_EQ(Upgrade(old.material), S_OK);
+
+    EXPECT_EQ(Hanging(), old.material);
+    EXPECT_EQ(ZELContainerOf(old.material), KORBaseUnknown_var(old_));
+}
+
+TEST_P(ZELUpgradeContainers, CannotMoveAMaterialThatHangsNowhere) {
+    const ZELTestDataMaterial old(Store(), old_);
+
+    EXPECT_EQ(Upgrade(old.material), E_FAIL);
+
+    EXPECT_EQ(ZELContainerOf(old.material), KORBaseUnknown_var(old_));
+    EXPECT_THAT(Needs(old.material), ElementsAre(0, 0, 0, 0, 0, 1, 0));
+}
+
+TEST_P(ZELUpgradeContainers, MoveTheMaterialWhenItIsFirstLookedAt) {
+    const ZELTestDataMaterial old(Store(), old_);
+    HangOn(platformMaterial_, old.material);
+
+    const ZELIMaterial_var extension = old.material;
+
+    EXPECT_NE(Hanging(), old.material);
+    EXPECT_EQ(KORISpecObject_var(extension), old.material) << "who holds it goes on over the old feature";
+}
+
+TEST_P(ZELUpgradeContainers, FindTestDataInAForeignContainer) {
+    ZELTestDataMaterial material(Store(), own_);
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0)) << "none";
+
+    material.AddTestData(Store(), own_, {1.0});
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0)) << "in its own";
+
+    material.AddTestData(Store(), foreign_, {2.0});
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0)) << "the first decides";
+
+    ZELTestDataMaterial other(Store(), own_);
+    other.AddTestData(Store(), foreign_, {1.0});
+    EXPECT_THAT(Needs(other.material), ElementsAre(0, 0, 0, 0, 0, 0, 1));
+}
+
+TEST_P(ZELUpgradeContainers, FetchTestDataInTheirOrder) {
+    ZELTestDataMaterial material(Store(), own_);
+    material.SwitchOn(true);
+    const auto first = material.AddTestData(Store(), foreign_, {1.0, 2.0});
+    material.AddTestData(Store(), foreign_, {3.0});
+
+    EXPECT_EQ(Upgrade(material.material), S_OK);
+
+    EXPECT_EQ(ZELTestDataOf(material.model), (ZELRows{{1.0, 2.0}, {3.0}}));
+    EXPECT_EQ(ZELTestDataContainers(material.model), std::vector(2, KORBaseUnknown_var(own_)));
+    EXPECT_EQ(ZELContainerOf(first), KORBaseUnknown_var(foreign_)) << "the originals stay where they are";
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_P(ZELUpgradeContainers, UnlistForeignTestDataOfAMaterialThatIsSwitchedOff) {
+    ZELTestDataMaterial material(Store(), own_);
+    material.AddTestData(Store(), foreign_, {1.0, 2.0});
+
+    EXPECT_EQ(Upgrade(material.material), S_OK);
+
+    EXPECT_THAT(Components(material.model, "HyperelasticMatModelData"), Optional(IsEmpty()));
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_P(ZELUpgradeContainers, KeepTheListWhenNotAllTestDataLieTogether) {
+    ZELTestDataMaterial material(Store(), own_);
+    material.SwitchOn(true);
+    material.AddTestData(Store(), foreign_, {1.0});
+    material.AddTestData(Store(), own_, {2.0});
+
+    EXPECT_EQ(Upgrade(material.material), E_FAIL);
+
+    EXPECT_EQ(ZELTestDataOf(material.model), (ZELRows{{1.0}, {2.0}}));
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 1));
+}
+
+ZEL_ON_BOTH_STORES(ZELUpgradeContainers);
+
+namespace {
+
+/// A material in the old container that hangs on one of the platform, over the map store.
+struct Moving {
+    Moving() {
+        data.SwitchOn(true);
+        data.AddTestData(store, store.AddContainer("VRBMatAppliCont"), {1.0});
+        EXPECT_EQ(platformMaterial->SetApplicativeFeature(kApplicativeName, data.material.Get()), S_OK);
+        store.Calls().ClearLog();
+    }
+    /// The upgrade, with one call of some kind failing after the query.
+    HRESULT Upgrade(ZELFault fault, int n, const char* kind) {
+        const KORISamUpgrade_var upgrade = data.material;
+        EXPECT_TRUE(upgrade->IsUpgradeNeeded());
+        store.Calls().Inject(fault, n, kind);
+        const HRESULT status = upgrade->Upgrade();
+        EXPECT_TRUE(store.Calls().FaultHit()) << kind;
+        return status;
+    }
+    bool Hangs() {
+        const ZELUnrecorded unrecorded;
+        return KORISpecObject_var::Adopt(platformMaterial->GetApplicativeFeature(kApplicativeName)) ==
+               data.material;
+    }
+    bool InOldContainer() { return ZELContainerOf(data.material) != nullptr; }
+
+    ZELMapStore store;
+    ZELTestDataMaterial data{store, store.AddContainer("VRBMatAppliCont")};
+    KORIMaterialFeature_var platformMaterial = store.MakePlatformMaterial(store.Container());
+};
+
+}  // namespace
+
+TEST(ZELUpgradeContainersCalls, CopyCarryDetachRemoveAndAttachInThatOrder) {
+    Moving moving;
+    const KORISamUpgrade_var upgrade = moving.data.material;
+    upgrade->IsUpgradeNeeded();
+    EXPECT_EQ(upgrade->Upgrade(), S_OK);
+
+    std::vector<std::string> steps;
+    for (const std::string& line : moving.store.Calls().Log()) {
+        for (const char* kind : {"Extract ", "Paste ", "Remove ", "RemoveAllValues ", "AppendComponent ",
+                                 "RemoveApplicativeFeature ", "SetApplicativeFeature "}) {
+            if (line.starts_with(kind)) steps.push_back(line);
+        }
+    }
+    EXPECT_THAT(steps, ElementsAre("Extract VRBMatAppliCont 1", "Paste Container 6",
+                                   "RemoveAllValues ZELHyperelasticMaterialModelLT.HyperelasticMatModelData",
+                                   "Extract VRBMatAppliCont 1", "Paste Container 1",
+                                   "AppendComponent ZELHyperelasticMaterialModelLT.HyperelasticMatModelData "
+                                   "ZELMaterialModelRowDataLT",
+                                   "RemoveAllValues ZELHyperelasticMaterialModelLT.HyperelasticMatModelData",
+                                   "RemoveApplicativeFeature ZELMaterialApplicative",
+                                   "Remove VRBMatAppliCont", "SetApplicativeFeature ZELMaterialApplicative"));
+}
+
+TEST(ZELUpgradeContainersCalls, LeaveTheMaterialWhenTheOldContainerIsGoneSinceTheQuery) {
+    Moving moving;
+
+    EXPECT_EQ(moving.Upgrade(ZELFault::Refuse, 1, "FindContainer"), S_OK);
+
+    EXPECT_TRUE(moving.Hangs());
+    EXPECT_TRUE(moving.InOldContainer());
+}
+
+TEST(ZELUpgradeContainersCalls, FailAndKeepTheMaterialWhereItCannotBeCopied) {
+    for (const ZELFault fault : {ZELFault::Refuse, ZELFault::SuccessWithNull}) {
+        for (const char* kind : {"GetFather", "Extract", "Paste"}) {
+            Moving moving;
+
+            EXPECT_EQ(moving.Upgrade(fault, 1, kind), E_FAIL) << kind;
+
+            EXPECT_TRUE(moving.Hangs()) << kind;
+            EXPECT_TRUE(moving.InOldContainer()) << kind;
+            EXPECT_EQ(ZELTestDataOf(moving.data.model), (ZELRows{{1.0}})) << kind;
+        }
+    }
+}
+
+TEST(ZELUpgradeContainersCalls, FailAndKeepTheMaterialWhereItsTestDataCannotBeCarried) {
+    for (const ZELFault fault : {ZELFault::Refuse, ZELFault::SuccessWithNull}) {
+        for (const char* kind : {"Extract", "Paste"}) {
+            Moving moving;
+
+            EXPECT_EQ(moving.Upgrade(fault, 2, kind), E_FAIL) << kind;
+
+            EXPECT_TRUE(moving.Hangs()) << kind;
+            EXPECT_TRUE(moving.InOldContainer()) << kind;
+            EXPECT_EQ(ZELTestDataOf(moving.data.model), (ZELRows{{1.0}}))
+                << "the copy's list was reset, not this";
+        }
+    }
+}
+
+TEST(ZELUpgradeContainersCalls, FailWhereTheExchangeOnThePlatformsMaterialFailsAndUndoNothing) {
+    {
+        Moving moving;
+        EXPECT_EQ(moving.Upgrade(ZELFault::Refuse, 1, "RemoveApplicativeFeature"), E_FAIL);
+        EXPECT_TRUE(moving.Hangs());
+        EXPECT_TRUE(moving.InOldContainer());
+    }
+    {
+        Moving moving;
+        EXPECT_EQ(moving.Upgrade(ZELFault::Refuse, 1, "Remove"), E_FAIL);
+        EXPECT_FALSE(moving.Hangs());
+        EXPECT_TRUE(moving.InOldContainer());
+    }
+    {
+        Moving moving;
+        EXPECT_EQ(moving.Upgrade(ZELFault::Refuse, 1, "SetApplicativeFeature"), E_FAIL);
+        EXPECT_FALSE(moving.Hangs());
+        EXPECT_FALSE(moving.InOldContainer());
+    }
+}
+
+TEST(ZELUpgradeContainersCalls, FailWhereTheFatherOrAContainerLacksAnInterface) {
+    const std::vector<std::pair<const char*, const char*>> lacking = {
+        {"Material", "KORIMaterialFeature"},
+        {"VRBMatAppliCont", "KORICutAndPastable"},
+        {"Container", "KORICutAndPastable"}};
+    for (const auto& [object, interfaceName] : lacking) {
+        Moving moving;
+        moving.store.Calls().RefuseInterface(object, interfaceName);
+        const KORISamUpgrade_var upgrade = moving.data.material;
+        EXPECT_TRUE(upgrade->IsUpgradeNeeded());
+
+        EXPECT_EQ(upgrade->Upgrade(), E_FAIL) << object;
+
+        EXPECT_TRUE(moving.Hangs()) << object;
+        EXPECT_TRUE(moving.InOldContainer()) << object;
+    }
+}
+
+TEST(ZELUpgradeContainersCalls, TakeAnOldContainerThatIsNoneForNone) {
+    Moving moving;
+    moving.store.Calls().RefuseInterface("VRBMatAppliCont", "KORIContainer");
+
+    EXPECT_FALSE(KORISamUpgrade_var(moving.data.material)->IsUpgradeNeeded());
+}
+
+TEST(ZELUpgradeContainersCalls, FindNothingOnAMaterialWithoutAttributeAccess) {
+    ZELMapStore store;
+    const auto material = store.Make("ZELMaterialLT");
+    store.Calls().RefuseInterface("ZELMaterialLT", "KORISpecAttrAccess");
+    const KORISamUpgrade_var upgrade = material;
+
+    EXPECT_FALSE(upgrade->IsUpgradeNeeded());
+    EXPECT_THAT(FlagsOf(upgrade), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST(ZELUpgradeContainersCalls, AskForNoUpgradeOfAMaterialThatIsNoLiveObject) {
+    ZELMapStore store;
+    const auto material = store.Make("ZELMaterialLT");
+    store.Calls().RefuseInterface("ZELMaterialLT", "KORILinkableObject");
+
+    EXPECT_FALSE(KORISamUpgrade_var(material)->IsUpgradeNeeded()) << "whatever is missing on it";
+}
+
+TEST(ZELUpgradeContainersCalls, KeepTheListWhereTestDataCannotBeFetched) {
+    for (const ZELFault fault : {ZELFault::Refuse, ZELFault::SuccessWithNull}) {
+        for (const char* kind : {"Extract", "Paste"}) {
+            ZELMapStore store;
+            ZELTestDataMaterial data(store, store.Container());
+            data.SwitchOn(true);
+            data.AddTestData(store, store.AddContainer("TestData"), {1.0});
+            const KORISamUpgrade_var upgrade = data.material;
+            EXPECT_TRUE(upgrade->IsUpgradeNeeded());
+            store.Calls().Inject(fault, 1, kind);
+
+            EXPECT_EQ(upgrade->Upgrade(), E_FAIL) << kind;
+
+            EXPECT_EQ(ZELTestDataOf(data.model), (ZELRows{{1.0}})) << kind;
+        }
+    }
+}
