@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Sets up, builds the program and shows real material cards: read, written through the behaviors into a
-# document, read back from the document and printed.
+# Sets up, builds the program and shows what it does: real material cards, read, written through the behaviors
+# into a document, read back from the document and printed; an older document upgraded; all cards in one document.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
@@ -12,9 +12,27 @@ echo "== Building zelmat (preset release)"
 cmake --preset release >/dev/null
 cmake --build --preset release --target zelmat
 
-# Structural steel with its temperature tables, concrete, a carbon-fibre laminate, rubber.
-for card in steel_s355 concrete_c30_37 cfrp_t300_5208_quasi_isotropic natural_rubber_treloar; do
+zelmat=build/release/bin/zelmat
+run() {
     echo
-    echo "== zelmat show samples/$card.json"
-    build/release/bin/zelmat show "samples/$card.json"
+    echo "== zelmat $*"
+    "$zelmat" "$@"
+}
+
+# Structural steel with its temperature tables, a Johnson-Cook metal, the gasket, a user's own routine.
+for card in steel_s355 copper_ofhc gasket_fibre_illustrative user_routine_illustrative; do
+    run show "samples/$card.json"
 done
+
+# Rubber: a material holds one of the card's fits, the first or the one that is asked for.
+run show samples/natural_rubber_treloar.json
+run show samples/natural_rubber_treloar.json --model MOONEY_RIVLIN --variant planar
+
+# A document of an older release; the upgraded one needs nothing more.
+upgraded=$(mktemp --suffix=.json)
+trap 'rm -f "$upgraded"' EXIT
+run upgrade samples/older/copper_and_rubber.json --output "$upgraded"
+run upgrade "$upgraded"
+
+# All materials in one document.
+run summary samples/*.json

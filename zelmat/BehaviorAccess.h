@@ -7,7 +7,7 @@
 #include "ZELMaterialModel/include/ZELMaterialElastic.h"
 #include "ZELMaterialModel/include/ZELMaterialSpecificHeat.h"
 #include "ZELMaterialModel/include/ZELMaterialThermalExpansion.h"
-#include "zelmat/MaterialCard.h"
+#include "zelmat/BehaviorAnswers.h"
 
 namespace zelmat {
 
@@ -67,10 +67,6 @@ struct SpecificHeatNames {
     static constexpr auto kTable = &Behavior::GetSpecificHeatDataArray;
 };
 
-/// Rows of the card as the table type of the behaviors, and back.
-ZELCftArrayZELCftArrayDouble ToPropertyTable(const std::vector<std::vector<double>>& rows);
-std::vector<std::vector<double>> FromPropertyTable(ZELCftArrayZELCftArrayDouble& table);
-
 /// Writes to and reads from a behavior that holds a single table.
 template <class Names>
 struct BehaviorAccess {
@@ -80,47 +76,46 @@ struct BehaviorAccess {
         behavior.SetReferenceTemperature(kelvin);
     };
 
-    /// Switches the behavior on and gives it the table. Flags come before the rows: a behavior decides by
-    /// them which columns it stores. Answers the first failure, else what the table's setter answered.
-    static HRESULT Write(ZELIMaterial& material, const CardTable& table) {
-        ZELGenHeapObjectProxy<Behavior> behavior(nullptr);
-        (material.*Names::kHandOut)(behavior);
-        if (!behavior.IsObject()) return E_FAIL;
+    /// Flags come before the rows: a behavior decides by them which columns it stores.
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data) {
+        BehaviorAnswers answers;
+        const auto behavior = HandOut(material, Names::kHandOut);
+        if (!behavior.IsObject()) return answers.NoBehavior();
+        Behavior& object = *behavior.GetProxyObject();
 
-        HRESULT status = (behavior.GetProxyObject()->*Names::kSetEnabled)(1);
-        if (SUCCEEDED(status)) status = behavior->SetTemperatureDependent(table.temperatureDependent ? 1 : 0);
+        const CardTable& table = data.tables.front();
+        answers.ToValue((object.*Names::kSetEnabled)(1));
+        answers.ToValue(object.SetTemperatureDependent(table.temperatureDependent ? 1 : 0));
         if constexpr (kHasReferenceTemperature) {
-            if (SUCCEEDED(status)) {
-                status = behavior->SetReferenceTemperature(table.referenceTemperature.value_or(0.0));
-            }
+            answers.ToValue(
+                object.SetReferenceTemperature(*data.values.Get<double>("reference_temperature")));
         }
-        if (FAILED(status)) return status;
-        return (behavior.GetProxyObject()->*Names::kSetTable)(ToPropertyTable(table.rows));
+        answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table.rows)));
+        return answers.All();
     }
 
-    static StoredTable Read(ZELIMaterial& material) {
-        StoredTable stored;
-        ZELGenHeapObjectProxy<Behavior> behavior(nullptr);
-        (material.*Names::kHandOut)(behavior);
+    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block) {
+        StoredBlock stored{.block = &block};
+        const auto behavior = HandOut(material, Names::kHandOut);
         if (!behavior.IsObject()) {
             stored.status = E_FAIL;
             return stored;
         }
         Behavior& object = *behavior.GetProxyObject();
+        stored.status = (object.*Names::kLoadEnabled)();
+        stored.enabled = (object.*Names::kEnabled)() != 0;
+        if (FAILED(stored.status) || !stored.enabled) return stored;
 
         // The table's columns depend on the temperature flag, which therefore is read before it.
-        HRESULT status = (object.*Names::kLoadEnabled)();
-        if (SUCCEEDED(status)) status = object.GetPropertyTemperatureDependent();
-        if (SUCCEEDED(status)) status = (object.*Names::kLoadTable)();
+        stored.status = object.GetPropertyTemperatureDependent();
+        if (SUCCEEDED(stored.status)) stored.status = (object.*Names::kLoadTable)();
         if constexpr (kHasReferenceTemperature) {
-            if (SUCCEEDED(status)) status = object.GetPropertyReferenceTemperature();
-            stored.referenceTemperature = object.GetReferenceTemperature();
+            if (SUCCEEDED(stored.status)) stored.status = object.GetPropertyReferenceTemperature();
+            stored.values.Set("reference_temperature", object.GetReferenceTemperature());
         }
-        stored.status = status;
-        stored.enabled = (object.*Names::kEnabled)() != 0;
-        stored.temperatureDependent = object.GetTemperatureDependent() != 0;
         auto table = (object.*Names::kTable)();
-        stored.rows = FromPropertyTable(table);
+        stored.AddTable(block.tables.front(), object.GetTemperatureDependent() != 0,
+                        FromPropertyTable(table));
         return stored;
     }
 };

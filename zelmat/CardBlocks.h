@@ -4,59 +4,73 @@
 #include <vector>
 
 #include "framework/KORStatus.h"
+#include "zelmat/CardTableKind.h"
 
 class ZELIMaterial;
 
 namespace zelmat {
 
+struct CardData;
 struct CardTable;
-struct StoredTable;
+struct StoredBlock;
 
-/// A quantity of a table, as the card and the report name it.
-struct CardColumn {
-    std::string name;   ///< on the card: "youngs_modulus"
-    std::string title;  ///< in the report: "Young's modulus"
-    std::string unit;   ///< SI, the unit both of the card and of the store; "-" for pure numbers
+/// What a setting's value is.
+enum class SettingKind {
+    FLAG,
+    COUNT,   ///< a whole number
+    NUMBER,  ///< in the setting's unit
+    TEXT,
+    UNREAD,  ///< anything; the program does not look at it
 };
 
-/// Whether a table carries a temperature column, which then is its last one.
-enum class TemperatureRule {
-    AS_FLAGGED,  ///< exactly when the table is temperature dependent
-    ALWAYS,      ///< also when it is not, as a plain fact about the rows
-    NEVER,
-};
-
-/// One shape that the rows of a block can have.
-struct CardTableForm {
-    std::string hardening;  ///< the block's `hardening` that selects this form; empty when it has none
-    std::vector<CardColumn> columns;
-    TemperatureRule temperature = TemperatureRule::AS_FLAGGED;
-
-    /// The columns of a table of this form, the temperature column included.
-    std::vector<CardColumn> ColumnsOf(bool temperatureDependent) const;
+/// A single value of a block, beside its tables.
+struct CardSetting {
+    std::string name;  ///< on the card; "yield_onset.method" is the key `method` inside `yield_onset`
+    std::string title;
+    std::string unit = {};
+    SettingKind kind = SettingKind::TEXT;
+    bool required = false;
+    bool stored = true;                     ///< false: a note, for the reader of the card
+    std::vector<std::string> choices = {};  ///< of a text; empty when any will do
+    int least = 0;                          ///< of a whole number
+    int most = 1'000'000;
 };
 
 /// What becomes of a block that a card may have.
 enum class CardUse {
-    SHOWN,            ///< goes through a behavior of the material
-    NOT_SHOWN_YET,    ///< the program does not handle it so far
+    BEHAVIOR,         ///< goes through a behavior of the material
     FOR_INFORMATION,  ///< no behavior uses it
+};
+
+/// What a behavior answered when it was given a table; or other values, when `table` is null.
+struct WriteStatus {
+    const CardTable* table = nullptr;
+    HRESULT status = S_OK;
 };
 
 /// All that tells one block of a card from the next. A new block is a new entry in CardBlocks.cpp.
 struct CardBlock {
     std::string name;
     std::string title;
-    CardUse use = CardUse::SHOWN;
-    /// Empty when the block is no single table; its contents are not read then.
-    std::vector<CardTableForm> forms = {};
-    /// The key `reference_temperature` (K) is required, and `kind` allowed.
-    bool referenceTemperature = false;
+    CardUse use = CardUse::BEHAVIOR;
+    bool alternatives = false;  ///< a list of blocks, of which a material takes one
+    std::vector<CardSetting> settings = {};
+    std::vector<CardTableKind> tables = {};
 
-    /// Writes a table through the block's behavior; null unless the block is shown.
-    HRESULT (*write)(ZELIMaterial& material, const CardTable& table) = nullptr;
-    /// Has the block's behavior read its data from the store again and answers them; null unless shown.
-    StoredTable (*read)(ZELIMaterial& material) = nullptr;
+    /// Switches the block's behavior on and gives it the data. Tells every answer that is not plain S_OK;
+    /// null unless there is a behavior.
+    std::vector<WriteStatus> (*write)(ZELIMaterial& material, const CardData& data) = nullptr;
+    /// Has the block's behavior read its data from the store again and answers them; no more than whether it
+    /// is switched on when it is off. Null unless there is a behavior.
+    StoredBlock (*read)(ZELIMaterial& material, const CardBlock& block) = nullptr;
+
+    const CardTableKind* FindTable(const std::string& table) const;  ///< null when there is none of that name
+
+    /// How findings name one of its tables: "gasket.loading", or just "density".
+    std::string TableName(const CardTableKind& table) const;
+
+    /// No more than its name is looked at.
+    bool IsUnread() const { return settings.empty() && tables.empty(); }
 };
 
 /// Every block a card may have, in the order of the report.
@@ -64,8 +78,5 @@ const std::vector<CardBlock>& CardBlocks();
 
 /// Null when there is no block of that name.
 const CardBlock* FindCardBlock(const std::string& name);
-
-/// The column that closes every table with temperatures.
-const CardColumn& TemperatureColumn();
 
 }  // namespace zelmat

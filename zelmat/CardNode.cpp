@@ -1,6 +1,9 @@
 #include "zelmat/CardNode.h"
 
+#include <algorithm>
 #include <utility>
+
+#include "zelmat/WordList.h"
 
 namespace zelmat {
 
@@ -46,6 +49,16 @@ bool CardNode::ExpectList() const {
     return json_->is_array();
 }
 
+bool CardNode::ExpectKeys(const std::vector<std::string>& known) const {
+    bool good = true;
+    for (const std::string& key : Keys()) {
+        if (std::find(known.begin(), known.end(), key) != known.end()) continue;
+        At(key).Report("unknown-key", Path() + " has no key " + Quoted(key), {"known: " + WordList(known)});
+        good = false;
+    }
+    return good;
+}
+
 std::optional<std::string> CardNode::Text() const {
     if (json_->is_string()) return json_->get<std::string>();
     ReportKind("a text");
@@ -62,6 +75,18 @@ std::optional<double> CardNode::Number() const {
     if (json_->is_number()) return json_->get<double>();
     Report("not-a-number", Path() + " is not a number",
            {"got " + Excerpt(), "expected a number without quotes"});
+    return std::nullopt;
+}
+
+std::optional<int> CardNode::Whole(int least, int most) const {
+    if (!json_->is_number_integer()) {
+        ReportKind("a whole number");
+        return std::nullopt;
+    }
+    const double value = json_->get<double>();
+    if (value >= least && value <= most) return static_cast<int>(value);
+    Report("out-of-range", Path() + " is " + Excerpt(),
+           {"expected " + std::to_string(least) + " to " + std::to_string(most)});
     return std::nullopt;
 }
 

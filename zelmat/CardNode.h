@@ -28,9 +28,12 @@ public:
 
     bool ExpectObject() const;  ///< reports when it is none
     bool ExpectList() const;    ///< reports when it is none
+    /// Reports every key of an object that is none of these.
+    bool ExpectKeys(const std::vector<std::string>& known) const;
     std::optional<std::string> Text() const;
     std::optional<bool> Flag() const;
     std::optional<double> Number() const;
+    std::optional<int> Whole(int least, int most) const;             ///< a whole number, the bounds included
     std::optional<std::vector<std::string>> Texts() const;           ///< a list of texts
     std::optional<std::vector<std::string>> OneOrMoreTexts() const;  ///< a text, or a list of texts
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "zelmat/NumberText.h"
 #include "zelmat/WordList.h"
 
 namespace zelmat {
@@ -12,137 +13,151 @@ bool Contains(const std::vector<std::string>& words, const std::string& word) {
     return std::find(words.begin(), words.end(), word) != words.end();
 }
 
-std::vector<std::string> Names(const std::vector<CardColumn>& columns) {
-    std::vector<std::string> names;
-    for (const CardColumn& column : columns) names.push_back(column.name);
-    return names;
+std::vector<CardColumn> Wanted(const CardTable& table) {
+    return table.form.ColumnsOf(table.temperatureDependent);
 }
 
-std::string Quoted(const std::string& text) {
-    return "\"" + text + "\"";
+bool IsWanted(const CardTable& table, const std::string& name) {
+    const auto wanted = Wanted(table);
+    return std::any_of(wanted.begin(), wanted.end(),
+                       [&](const CardColumn& column) { return column.name == name; });
+}
+
+std::string Expected(const CardTable& table) {
+    return "expected " + WordList(Wanted(table), [](const CardColumn& column) {
+               return column.whenAbsent ? column.name + " (or not)" : column.name;
+           });
 }
 
 }  // namespace
 
-std::optional<CardTable> CardTableReader::Read() {
-    if (!node_.ExpectObject()) return std::nullopt;
-    CardTable table;
-    table.block = &block_;
+std::vector<std::string> CardTableReader::Keys(const CardTableKind& kind) {
+    std::vector<std::string> keys = {"columns", "rows", "source"};
+    if (kind.flagged) keys.insert(keys.begin(), "temperature_dependent");
+    return keys;
+}
 
-    bool good = ReportUnknownKeys();
-    const auto flagNode = node_.Required("temperature_dependent");
-    const auto flag = flagNode ? flagNode->Flag() : std::nullopt;
-    table.temperatureDependent = flag.value_or(false);
-    table.form = ReadForm();
+std::optional<CardTable> CardTableReader::Read() const {
+    return kind_.list ? ReadList() : ReadColumns();
+}
+
+std::optional<CardTable> CardTableReader::ReadList() const {
+    if (!node_.ExpectList()) return std::nullopt;
+    CardTable table{.kind = &kind_, .form = *kind_.form(values_), .line = node_.Line()};
+    for (std::size_t i = 0; i < node_.Size(); ++i) {
+        const CardNode node = node_.At(i);
+        const auto value = node.Number();
+        if (!value) continue;
+        table.rows.push_back({*value});
+        table.lines.push_back(node.Line());
+    }
+    return table.rows.size() == node_.Size() ? std::optional(std::move(table)) : std::nullopt;
+}
+
+std::optional<CardTable> CardTableReader::ReadColumns() const {
+    if (!node_.ExpectObject()) return std::nullopt;
+    // The block's reader looks at the keys of the block itself, where other values stand beside the table.
+    bool good = kind_.name.empty() || node_.ExpectKeys(Keys(kind_));
+    CardTable table{.kind = &kind_};
+    const bool flagged = ReadFlag(table);
     const auto columnsNode = node_.Required("columns");
     const auto columns = columnsNode ? columnsNode->Texts() : std::nullopt;
+    const auto form = kind_.form(values_);
+    if (form) table.form = *form;
 
-    std::optional<std::vector<std::size_t>> order;
-    if (flag && table.form && columns) order = ReadOrder(*table.form, table.temperatureDependent, *columns);
+    std::optional<Order> order;
+    if (flagged && form && columns) order = ReadOrder(table, *columns);
     const auto rows = columns ? ReadRows(*columns) : std::nullopt;
-
-    if (block_.referenceTemperature) {
-        const auto reference = node_.Required("reference_temperature");
-        table.referenceTemperature = reference ? reference->Number() : std::nullopt;
-        if (!table.referenceTemperature) good = false;
-    }
-    if (node_.Has("source")) {
-        const auto source = node_.At("source").Text();
-        if (!source) good = false;
-        table.source = source.value_or("");
-    }
+    if (!ReadSource(table)) good = false;
     if (!good || !order || !rows) return std::nullopt;
 
-    table.line = node_.At("rows").Line();
-    for (const auto& row : *rows) {
+    const std::vector<CardColumn> wanted = Wanted(table);
+    const CardNode rowsNode = node_.At("rows");
+    table.line = rowsNode.Line();
+    for (std::size_t i = 0; i < rows->size(); ++i) {
+        table.lines.push_back(rowsNode.At(i).Line());
         auto& values = table.rows.emplace_back();
-        for (const std::size_t position : *order) values.push_back(row[position]);
+        for (std::size_t column = 0; column < wanted.size(); ++column) {
+            const auto& place = (*order)[column];
+            values.push_back(place ? (*rows)[i][*place] : *wanted[column].whenAbsent);
+        }
     }
-    return table;
+    return ReportSurplusRows(table) ? std::nullopt : std::optional(std::move(table));
 }
 
-bool CardTableReader::ReportUnknownKeys() const {
-    std::vector<std::string> known = {"temperature_dependent", "columns", "rows", "source"};
-    if (block_.forms.size() > 1) known.push_back("hardening");
-    if (block_.referenceTemperature) known.insert(known.end(), {"reference_temperature", "kind"});
-
-    bool good = true;
-    for (const std::string& key : node_.Keys()) {
-        if (Contains(known, key)) continue;
-        node_.At(key).Report("unknown-key", block_.name + " has no key " + Quoted(key),
-                             {"known: " + WordList(known)});
-        good = false;
-    }
-    return good;
+bool CardTableReader::ReadFlag(CardTable& table) const {
+    if (!kind_.flagged) return true;
+    const auto node = node_.Required("temperature_dependent");
+    const auto flag = node ? node->Flag() : std::nullopt;
+    table.temperatureDependent = flag.value_or(false);
+    return flag.has_value();
 }
 
-const CardTableForm* CardTableReader::ReadForm() const {
-    if (block_.forms.size() == 1) return &block_.forms.front();
-    const auto node = node_.Required("hardening");
-    const auto hardening = node ? node->Text() : std::nullopt;
-    if (!hardening) return nullptr;
-    for (const CardTableForm& form : block_.forms) {
-        if (form.hardening == *hardening) return &form;
-    }
-    node->Report("unknown-hardening", "there is no hardening " + Quoted(*hardening),
-                 {"expected one of: " +
-                  WordList(block_.forms, [](const CardTableForm& form) { return form.hardening; })});
-    return nullptr;
+bool CardTableReader::ReadSource(CardTable& table) const {
+    if (!node_.Has("source")) return true;
+    const auto source = node_.At("source").Text();
+    table.source = source.value_or("");
+    return source.has_value();
 }
 
-std::optional<std::vector<std::size_t>> CardTableReader::ReadOrder(
-    const CardTableForm& form, bool temperatureDependent, const std::vector<std::string>& given) const {
-    const std::vector<CardColumn> wanted = form.ColumnsOf(temperatureDependent);
-    const std::string expected = "expected " + WordList(Names(wanted));
+std::optional<CardTableReader::Order> CardTableReader::ReadOrder(
+    const CardTable& table, const std::vector<std::string>& given) const {
     bool good = true;
     for (std::size_t i = 0; i < given.size(); ++i) {
         const CardNode node = node_.At("columns").At(i);
-        const std::string& name = given[i];
-        if (std::find(given.begin(), given.end(), name) - given.begin() != static_cast<std::ptrdiff_t>(i)) {
-            node.Report("repeated-column", block_.name + " has the column " + Quoted(name) + " twice");
-        } else if (Contains(Names(wanted), name)) {
-            continue;
-        } else if (name == TemperatureColumn().name) {
-            node.Report(
-                "temperature-column",
-                form.temperature == TemperatureRule::NEVER
-                    ? block_.name + " with " + form.hardening + " hardening takes no temperature column"
-                    : block_.name + " is not temperature dependent but has a temperature column",
-                {expected});
-        } else {
-            node.Report("unknown-column", block_.name + " has no column " + Quoted(name), {expected});
+        const auto first = std::find(given.begin(), given.end(), given[i]);
+        if (first - given.begin() != static_cast<std::ptrdiff_t>(i)) {
+            node.Report("repeated-column", node_.Path() + " has the column " + Quoted(given[i]) + " twice");
+            good = false;
+        } else if (!ReportColumn(table, node, given[i])) {
+            good = false;
         }
-        good = false;
     }
     // A misspelt column is missing under its right name too: that would be telling the same mistake twice.
-    if (!good || !ReportMissing(form, wanted, given)) return std::nullopt;
+    if (!good || !ReportMissing(table, given)) return std::nullopt;
 
-    std::vector<std::size_t> order;
-    for (const CardColumn& column : wanted) {
-        order.push_back(
-            static_cast<std::size_t>(std::find(given.begin(), given.end(), column.name) - given.begin()));
+    Order order;
+    for (const CardColumn& column : Wanted(table)) {
+        const auto found = std::find(given.begin(), given.end(), column.name);
+        order.push_back(found == given.end()
+                            ? std::nullopt
+                            : std::optional(static_cast<std::size_t>(found - given.begin())));
     }
     return order;
 }
 
-bool CardTableReader::ReportMissing(const CardTableForm& form, const std::vector<CardColumn>& wanted,
-                                    const std::vector<std::string>& given) const {
+/// False when the table has no such column.
+bool CardTableReader::ReportColumn(const CardTable& table, const CardNode& column,
+                                   const std::string& name) const {
+    if (IsWanted(table, name)) return true;
+    if (name != TemperatureColumn().name) {
+        column.Report("unknown-column", Subject(table) + " has no column " + Quoted(name), {Expected(table)});
+    } else if (table.form.temperature == TemperatureRule::NEVER) {
+        column.Report("temperature-column", Subject(table) + " takes no temperature column",
+                      {Expected(table)});
+    } else {
+        column.Report("temperature-column",
+                      node_.Path() + " is not temperature dependent but has a temperature column",
+                      {Expected(table)});
+    }
+    return false;
+}
+
+bool CardTableReader::ReportMissing(const CardTable& table, const std::vector<std::string>& given) const {
     bool good = true;
-    for (const CardColumn& column : wanted) {
-        if (Contains(given, column.name)) continue;
-        const CardNode columns = node_.At("columns");
-        const std::string expected = "expected " + WordList(Names(wanted));
+    const CardNode columns = node_.At("columns");
+    for (const CardColumn& column : Wanted(table)) {
+        if (column.whenAbsent || Contains(given, column.name)) continue;
         if (column.name != TemperatureColumn().name) {
-            columns.Report("missing-column", block_.name + " lacks the column " + Quoted(column.name),
-                           {expected});
-        } else if (form.temperature == TemperatureRule::ALWAYS) {
-            columns.Report("temperature-column",
-                           block_.name + " with " + form.hardening + " hardening needs a temperature column",
-                           {expected});
+            columns.Report("missing-column", Subject(table) + " lacks the column " + Quoted(column.name),
+                           {Expected(table)});
+        } else if (table.form.temperature == TemperatureRule::ALWAYS) {
+            columns.Report("temperature-column", Subject(table) + " needs a temperature column",
+                           {Expected(table)});
         } else {
             columns.Report("temperature-column",
-                           block_.name + " is temperature dependent but has no temperature column",
-                           {expected});
+                           node_.Path() + " is temperature dependent but has no temperature column",
+                           {Expected(table)});
         }
         good = false;
     }
@@ -154,8 +169,7 @@ std::optional<CardTableReader::Rows> CardTableReader::ReadRows(
     const auto node = node_.Required("rows");
     if (!node || !node->ExpectList()) return std::nullopt;
     if (node->Size() == 0) {
-        node->Report("empty-rows", block_.name + " has no rows",
-                     {"leave the block out if it is not defined"});
+        node->Report("empty-rows", node_.Path() + " has no rows", {"leave it out if it is not defined"});
         return std::nullopt;
     }
     Rows rows;
@@ -176,8 +190,8 @@ std::optional<std::vector<double>> CardTableReader::ReadRow(const CardNode& row,
     if (!row.ExpectList()) return std::nullopt;
     if (row.Size() != columns.size()) {
         row.Report("ragged-row",
-                   "row " + std::to_string(number) + " of " + block_.name + " has " +
-                       std::to_string(row.Size()) + (row.Size() == 1 ? " value" : " values"),
+                   "row " + std::to_string(number) + " of " + node_.Path() + " has " +
+                       CountText(row.Size(), "value"),
                    {"expected " + std::to_string(columns.size()) + ": " + WordList(columns)});
         return std::nullopt;
     }
@@ -187,6 +201,19 @@ std::optional<std::vector<double>> CardTableReader::ReadRow(const CardNode& row,
         if (value) values.push_back(*value);
     }
     return values.size() == columns.size() ? std::optional(std::move(values)) : std::nullopt;
+}
+
+bool CardTableReader::ReportSurplusRows(const CardTable& table) const {
+    if (!table.form.singleRow || table.rows.size() == 1) return false;
+    node_.At("rows")
+        .At(std::size_t{1})
+        .Report("surplus-rows", Subject(table) + " takes one row",
+                {"got " + std::to_string(table.rows.size()), "the others would be lost"});
+    return true;
+}
+
+std::string CardTableReader::Subject(const CardTable& table) const {
+    return table.form.with.empty() ? node_.Path() : node_.Path() + " with " + table.form.with;
 }
 
 }  // namespace zelmat

@@ -7,30 +7,42 @@
 
 namespace zelmat {
 
-/// Reads the table of one block. Reports every mistake in it, and answers nothing if there is one.
+/// Reads one table of a block. Reports every mistake in it, and answers nothing if there is one.
 class CardTableReader {
 public:
-    CardTableReader(const CardNode& node, const CardBlock& block) : node_(node), block_(block) {}
+    /// `values`: the block's, which say what form the table has.
+    CardTableReader(const CardNode& node, const CardTableKind& kind, const CardValues& values)
+        : node_(node), kind_(kind), values_(values) {}
 
-    std::optional<CardTable> Read();
+    /// The keys that a table of this kind takes.
+    static std::vector<std::string> Keys(const CardTableKind& kind);
+
+    std::optional<CardTable> Read() const;
 
 private:
     using Rows = std::vector<std::vector<double>>;
+    using Order = std::vector<std::optional<std::size_t>>;
 
-    bool ReportUnknownKeys() const;
-    const CardTableForm* ReadForm() const;
+    std::optional<CardTable> ReadList() const;
+    std::optional<CardTable> ReadColumns() const;
+    bool ReadFlag(CardTable& table) const;
+    bool ReadSource(CardTable& table) const;
 
-    /// Where in the card's columns each wanted column stands.
-    std::optional<std::vector<std::size_t>> ReadOrder(const CardTableForm& form, bool temperatureDependent,
-                                                      const std::vector<std::string>& given) const;
-    bool ReportMissing(const CardTableForm& form, const std::vector<CardColumn>& wanted,
-                       const std::vector<std::string>& given) const;
+    /// Where in the card's columns each wanted column stands; nowhere when it may be left out and is.
+    std::optional<Order> ReadOrder(const CardTable& table, const std::vector<std::string>& given) const;
+    bool ReportColumn(const CardTable& table, const CardNode& column, const std::string& name) const;
+    bool ReportMissing(const CardTable& table, const std::vector<std::string>& given) const;
     std::optional<Rows> ReadRows(const std::vector<std::string>& columns) const;
     std::optional<std::vector<double>> ReadRow(const CardNode& row, std::size_t number,
                                                const std::vector<std::string>& columns) const;
+    bool ReportSurplusRows(const CardTable& table) const;
+
+    /// How messages name the table: "plastic with isotropic hardening".
+    std::string Subject(const CardTable& table) const;
 
     CardNode node_;
-    const CardBlock& block_;
+    const CardTableKind& kind_;
+    const CardValues& values_;
 };
 
 }  // namespace zelmat

@@ -38,11 +38,13 @@ std::vector<Finding> Findings::ByLine() const {
 }
 
 bool Findings::HasErrors() const {
-    return Holds(all_, FindingKind::ERROR) || Holds(all_, FindingKind::UNREADABLE);
+    return std::any_of(all_.begin(), all_.end(),
+                       [](const Finding& finding) { return finding.kind != FindingKind::WARNING; });
 }
 
 ExitCode Findings::Exit() const {
     if (Holds(all_, FindingKind::UNREADABLE)) return EXIT_UNREADABLE;
+    if (Holds(all_, FindingKind::USAGE)) return EXIT_USAGE;
     return all_.empty() ? EXIT_CLEAN : EXIT_FINDINGS;
 }
 

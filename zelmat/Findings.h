@@ -17,6 +17,7 @@ enum ExitCode : int {
 enum class FindingKind {
     WARNING,     ///< the data went in, though not as given
     ERROR,       ///< the data are refused
+    USAGE,       ///< the command line asks for what the file does not have; shown as an error
     UNREADABLE,  ///< a file could not be read or written; shown as an error
 };
 

@@ -1,23 +1,34 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "zelmat/CardBlocks.h"
+#include "zelmat/CardValues.h"
 
 namespace zelmat {
 
-/// The table of one block, as the card gives it: checked for form, not for physical sense.
+/// One table, as the card gives it: checked for form, not for physical sense.
 struct CardTable {
-    const CardBlock* block = nullptr;
-    const CardTableForm* form = nullptr;
+    const CardTableKind* kind = nullptr;
+    CardTableForm form = {};
     bool temperatureDependent = false;
-    /// SI; the columns in the order of form->ColumnsOf(temperatureDependent).
-    std::vector<std::vector<double>> rows;
-    std::optional<double> referenceTemperature;  ///< K
-    std::string source;                          ///< where the values were published; may be empty
-    int line = 0;                                ///< of the rows
+    /// SI; the columns in the order of form.ColumnsOf(temperatureDependent).
+    std::vector<std::vector<double>> rows = {};
+    std::vector<int> lines = {};  ///< of each row
+    std::string source = {};      ///< where the values were published; may be empty
+    int line = 0;                 ///< of the rows as a whole
+};
+
+/// What a card gives for one block.
+struct CardData {
+    const CardBlock* block = nullptr;
+    CardValues values = {};
+    std::vector<CardTable> tables = {};  ///< in the order of the block's kinds; those the card has
+    int line = 0;
+
+    const CardTable* Table(const CardTableKind* kind) const;  ///< null when the card does not have it
+    const CardTable* Table(const std::string& name) const;
 };
 
 /// A material card: the published properties of one material. Plain data, made by MaterialCardReader.
@@ -26,19 +37,31 @@ struct MaterialCard {
     std::string name;
     std::string description;
     std::vector<std::string> sources;
-    bool illustrative = false;               ///< the values are made up
-    std::vector<CardTable> tables;           ///< of the blocks that are shown, in the order of CardBlocks()
-    std::vector<const CardBlock*> notShown;  ///< the card's other blocks, in that order too
+    bool illustrative = false;          ///< the values are made up
+    std::vector<CardData> data;         ///< for behaviors, in the order of CardBlocks()
+    std::vector<CardData> fits;         ///< alternative hyperelastic models; a material takes one
+    std::vector<CardData> information;  ///< for no behavior
 };
 
-/// The data of one behavior, as the store has them.
+/// One table, as the store has it.
 struct StoredTable {
+    const CardTableKind* kind = nullptr;
+    bool temperatureDependent = false;
+    std::vector<CardColumn> columns = {};
+    std::vector<std::vector<double>> rows = {};  ///< as wide as the columns
+};
+
+/// The data of one block's behavior, as the store has them.
+struct StoredBlock {
     const CardBlock* block = nullptr;
     HRESULT status = S_OK;  ///< the first read that failed; what follows is incomplete then
     bool enabled = false;
-    bool temperatureDependent = false;
-    std::vector<std::vector<double>> rows;       ///< as wide as the block's columns
-    std::optional<double> referenceTemperature;  ///< K
+    CardValues values = {};
+    std::vector<StoredTable> tables = {};  ///< those with rows
+    const CardData* given = nullptr;       ///< what the card gave for it, if anything
+
+    void AddTable(const CardTableKind& kind, bool temperatureDependent,
+                  std::vector<std::vector<double>> rows);
 };
 
 }  // namespace zelmat

@@ -4,7 +4,7 @@
 #include <array>
 #include <utility>
 
-#include "zelmat/CardTableReader.h"
+#include "zelmat/CardBlockReader.h"
 #include "zelmat/WordList.h"
 
 namespace zelmat {
@@ -85,13 +85,27 @@ void MaterialCardReader::ReadUnits(const CardNode& units) const {
 void MaterialCardReader::ReadBlocks(const CardNode& root, MaterialCard& card) const {
     for (const CardBlock& block : CardBlocks()) {
         if (!root.Has(block.name)) continue;
-        std::optional<CardTable> table;
-        if (!block.forms.empty()) table = CardTableReader(root.At(block.name), block).Read();
-        if (block.use != CardUse::SHOWN) {
-            card.notShown.push_back(&block);
-        } else if (table) {
-            card.tables.push_back(std::move(*table));
+        const CardNode node = root.At(block.name);
+        if (block.alternatives) {
+            ReadAlternatives(node, block, card);
+            continue;
         }
+        auto data = block.IsUnread() ? CardData{.block = &block} : CardBlockReader(node, block).Read();
+        if (!data) continue;
+        auto& list = block.use == CardUse::BEHAVIOR ? card.data : card.information;
+        list.push_back(std::move(*data));
+    }
+}
+
+void MaterialCardReader::ReadAlternatives(const CardNode& node, const CardBlock& block,
+                                          MaterialCard& card) const {
+    if (!node.ExpectList()) return;
+    if (node.Size() == 0) {
+        node.Report("empty-list", block.name + " is an empty list", {"leave it out if it is not defined"});
+    }
+    for (std::size_t i = 0; i < node.Size(); ++i) {
+        auto data = CardBlockReader(node.At(i), block).Read();
+        if (data) card.fits.push_back(std::move(*data));
     }
 }
 

@@ -21,6 +21,7 @@ private:
     void ReadHead(const CardNode& root, MaterialCard& card) const;
     void ReadUnits(const CardNode& units) const;
     void ReadBlocks(const CardNode& root, MaterialCard& card) const;
+    void ReadAlternatives(const CardNode& node, const CardBlock& block, MaterialCard& card) const;
     void ReportUnknownBlocks(const CardNode& root) const;
 
     Findings& findings_;

@@ -1,101 +1,56 @@
 #include "zelmat/MaterialHost.h"
 
-#include <array>
-#include <filesystem>
-#include <utility>
-
+#include "ZELMaterialModel/include/ZELIMaterialPropertiesFact.h"
+#include "ZELMaterialModel/include/ZELMaterial.h"
+#include "framework/KORInstantiateComponent.h"
 #include "interfaces/KORIAlias.h"
-#include "interfaces/KORICatalog.h"
-#include "interfaces/KORISpecAttrAccess.h"
-#include "platform/document/KORMemoryDocument.h"
+#include "zelmat/DiagnosticLines.h"
+#include "zelmat/StatusText.h"
 
 namespace zelmat {
 
 namespace {
 
-constexpr const char* kCatalog = "ZELMaterialPropertiesCatalog.KORfct";
-constexpr const char* kClient = "ZELMAR";
-constexpr const char* kMaterialType = "ZELMaterialLT";
+constexpr const char* kPlatformMaterial = "KORMaterialLT";
+constexpr const char* kFactory = "ZELMaterialPropertiesFact";
 
-/// A behavior's own feature and where it hangs on the material.
-struct SubFeature {
-    const char* lateType;
-    const char* attribute;
-};
-
-constexpr std::array<SubFeature, 7> kSubFeatures = {{
-    {"ZELElasticLT", "ZELElastic"},
-    {"ZELPlasticLT", "ZELPlastic"},
-    {"ZELDensityLT", "ZELDensity"},
-    {"ZELThermalExpansionLT", "ZELThermalExpansion"},
-    {"ZELConductivityLT", "ZELConductivity"},
-    {"ZELSpecificHeatLT", "ZELSpecificHeat"},
-    {"MRVUserMaterialLT", "ZELUserMaterial"},
-}};
-
-/// A new feature of a late type, named after it; null when the catalog lacks the type.
-KORISpecObject_var Instantiate(KORICatalog& catalog, const char* lateType, KORIContainer* container) {
+/// Has the module make the analysis data of a platform material and hangs them on it. Null when one of the
+/// two fails, with the status of that.
+KORISpecObject_var NewAnalysisData(KORIMaterialFeature* material, HRESULT& status) {
     void* found = nullptr;
-    if (FAILED(catalog.RetrieveStartUp(lateType, "KORISpecObject", &found))) return nullptr;
-    const auto startUp = KORISpecObject_var::Adopt(static_cast<KORISpecObject*>(found));
-    return KORISpecObject_var::Adopt(startUp->Instantiate(lateType, container));
-}
-
-/// False when the material has no attribute of that name.
-bool Attach(KORISpecObject* material, const char* attribute, KORISpecObject* subFeature) {
-    const KORISpecAttrAccess_var access = KORISpecAttrAccess_var::Of(material);
-    KORISpecAttrKey* key = access->GetAttrKey(attribute);
-    if (!key) return false;
-    const auto component = KORBaseUnknown_var::Of(subFeature);
-    access->SetComponent(key, component.Get(), 0);
-    key->Release();
-    return true;
+    status = KORInstantiateComponent(kFactory, IID_ZELIMaterialPropertiesFact, &found);
+    if (FAILED(status)) return nullptr;
+    const auto factory =
+        ZELIMaterialPropertiesFact_var::Adopt(static_cast<ZELIMaterialPropertiesFact*>(found));
+    KORISpecObject* created = nullptr;
+    status = factory->CreateZELMaterialProperty(material, created);
+    auto root = KORISpecObject_var::Adopt(created);
+    if (SUCCEEDED(status)) {
+        status = material->SetApplicativeFeature(ZELMaterial::GetApplicativeSpecName(), root.Get());
+    }
+    return SUCCEEDED(status) ? root : nullptr;
 }
 
 }  // namespace
 
-/// Let go of from the last to the first.
-struct MaterialHost::Ground {
-    explicit Ground(std::string catalogFolder) : catalogs(std::move(catalogFolder)), platform(catalogs) {}
-
-    std::string catalogs;
-    KORPlatform platform;
-    KORServicesScope services{platform.Services()};
-    KORVar<KORMemoryDocument> document = KORMemoryDocument::New(platform);
-};
-
-MaterialHost::MaterialHost(const std::string& catalogs) : ground_(std::make_unique<Ground>(catalogs)) {}
-
-MaterialHost::~MaterialHost() = default;
-
 KORISpecObject_var MaterialHost::NewMaterial(const MaterialCard& card, Findings& findings) {
-    const std::string path = (std::filesystem::path(ground_->catalogs) / kCatalog).string();
-    const auto refuse = [&](int line, const std::string& text) {
-        findings.Add({FindingKind::UNREADABLE, {path, line}, "bad-catalog", text, {}});
-        return KORISpecObject_var();
-    };
-
-    // Read here first, to have the reason and its place; the container then finds the catalog already read.
-    KORJsonError error;
-    if (!KORCatalogFile::Open(path, error)) return refuse(error.line, error.message);
-
-    const auto own = KORBaseUnknown_var::Adopt(ground_->document->GetFeatContainer());
-    const KORIContainer_var container = own;
-    KORICatalog_var catalog;
-    if (FAILED(AccessCatalog(kCatalog, kClient, container.Get(), catalog)))
-        return refuse(0, "cannot be opened");
-
-    KORISpecObject_var material = Instantiate(*catalog, kMaterialType, container.Get());
-    if (!material) return refuse(0, std::string("has no late type ") + kMaterialType);
-    for (const SubFeature& part : kSubFeatures) {
-        const KORISpecObject_var feature = Instantiate(*catalog, part.lateType, container.Get());
-        if (!feature) return refuse(0, std::string("has no late type ") + part.lateType);
-        if (!Attach(material.Get(), part.attribute, feature.Get())) {
-            return refuse(0, std::string(kMaterialType) + " has no attribute " + part.attribute);
-        }
+    const DiagnosticLines diagnostics(findings, card.file, card.name);
+    // Opened here first, to have the reason and its place; the factory then finds the catalog already read.
+    if (!platform_.OpenCatalog(findings)) return nullptr;
+    const KORVar<KORFeature> feature =
+        platform_.Document().NewPlatformFeature(kPlatformMaterial, card.name.c_str());
+    KORIAlias_var::Of(feature.Get())->SetAlias(card.name.c_str());
+    const auto material = KORIMaterialFeature_var::Of(feature.Get());
+    HRESULT status = S_OK;
+    KORISpecObject_var data = NewAnalysisData(material.Get(), status);
+    if (!data) {
+        findings.Add({FindingKind::UNREADABLE,
+                      {platform_.CatalogPath(), 0},
+                      "bad-catalog",
+                      "the analysis data of " + card.name + " cannot be made from it",
+                      {StatusText(status)}});
     }
-    KORIAlias_var::Of(material.Get())->SetAlias(card.name.c_str());
-    return material;
+    return data;
 }
 
 }  // namespace zelmat

@@ -1,31 +1,28 @@
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "interfaces/KORISpecObject.h"
-#include "zelmat/Findings.h"
+#include "zelmat/HostPlatform.h"
 #include "zelmat/MaterialCard.h"
 
 namespace zelmat {
 
-/// The platform under the module: a document in memory, in which materials are made. The only place of the
-/// program that knows both the platform and which late types the module brings.
+/// A document in memory in which materials are made: materials of the platform, with the analysis data that
+/// the module's factory makes for each.
 class MaterialHost {
 public:
     /// `catalogs`: the folder of the feature catalogs.
-    explicit MaterialHost(const std::string& catalogs);
-    ~MaterialHost();  ///< closes the document
-    MaterialHost(const MaterialHost&) = delete;
-    MaterialHost& operator=(const MaterialHost&) = delete;
+    explicit MaterialHost(const std::string& catalogs) : platform_(catalogs) {}
 
-    /// A new material feature with a sub-feature for each behavior, named as on the card. Null, and a
-    /// finding, when the catalog cannot be opened or lacks one of the types.
+    /// A new material of the platform, named as on the card, with analysis data hung on it; answers the
+    /// latter. Null, and a finding, when that cannot be made.
     KORISpecObject_var NewMaterial(const MaterialCard& card, Findings& findings);
 
+    std::size_t FeatureCount() { return platform_.Document().FeatureCount(); }  ///< in the document
+
 private:
-    struct Ground;
-    std::unique_ptr<Ground> ground_;
+    HostPlatform platform_;
 };
 
 }  // namespace zelmat

@@ -6,10 +6,10 @@
 
 namespace zelmat {
 
-std::vector<StoredTable> ReadMaterial(KORISpecObject* material, const std::string& file,
+std::vector<StoredBlock> ReadMaterial(KORISpecObject* material, const std::string& file,
                                       const std::string& name, Findings& findings) {
     const DiagnosticLines diagnostics(findings, file, name);
-    std::vector<StoredTable> tables;
+    std::vector<StoredBlock> stored;
     const auto behaviors = ZELIMaterial_var::Of(material);
     if (!behaviors) {
         findings.Add({FindingKind::ERROR,
@@ -17,22 +17,20 @@ std::vector<StoredTable> ReadMaterial(KORISpecObject* material, const std::strin
                       "no-material-interface",
                       name + " offers no material properties to read",
                       {}});
-        return tables;
+        return stored;
     }
     for (const CardBlock& block : CardBlocks()) {
         if (!block.read) continue;
-        StoredTable table = block.read(*behaviors);
-        table.block = &block;
-        if (FAILED(table.status)) {
+        stored.push_back(block.read(*behaviors, block));
+        if (FAILED(stored.back().status)) {
             findings.Add({FindingKind::ERROR,
                           {file, 0},
                           "not-read",
                           block.name + " of " + name + " could not be read back",
-                          {StatusText(table.status)}});
+                          {StatusText(stored.back().status)}});
         }
-        if (table.enabled) tables.push_back(std::move(table));
     }
-    return tables;
+    return stored;
 }
 
 }  // namespace zelmat

@@ -8,4 +8,10 @@ namespace zelmat {
 /// never with a locale's comma.
 std::string NumberText(double number);
 
+/// The same with its unit: "293.15 K". "-" and the empty text are no unit.
+std::string WithUnit(double number, const std::string& unit);
+
+/// "1 row", "2 rows"
+std::string CountText(std::size_t count, const std::string& noun);
+
 }  // namespace zelmat

@@ -4,24 +4,21 @@
 
 #include "zelmat/CallTrace.h"
 #include "zelmat/MaterialCardReader.h"
-#include "zelmat/MaterialHost.h"
-#include "zelmat/MaterialReader.h"
-#include "zelmat/MaterialWriter.h"
 #include "zelmat/ShowReport.h"
 
 namespace zelmat {
 
 namespace {
 
-/// The card's material as a document gives it back, after one pass that writes and one that reads. Between
-/// the two no reference is held, so that the second pass starts from the document alone.
-std::vector<StoredTable> WriteAndReadBack(const std::string& catalogs, const MaterialCard& card,
-                                          Findings& findings) {
-    MaterialHost host(catalogs);
-    const KORISpecObject_var material = host.NewMaterial(card, findings);
-    if (!material) return {};
-    WriteMaterial(material.Get(), card, findings);
-    return ReadMaterial(material.Get(), card.file, card.name, findings);
+std::vector<const CardData*> FitsToShow(const ShowCommand& command, const MaterialCard& card,
+                                        Findings& findings) {
+    std::vector<const CardData*> fits;
+    if (command.allFits) {
+        for (const CardData& fit : card.fits) fits.push_back(&fit);
+    } else if (const CardData* fit = ChooseFit(card, command.fit, findings)) {
+        fits.push_back(fit);
+    }
+    return fits;
 }
 
 }  // namespace
@@ -31,15 +28,22 @@ ExitCode ShowCommand::Run(std::ostream& out, std::ostream& err) const {
     std::optional<CallTrace> calls;
     if (trace) calls.emplace(err);
 
-    const auto material = MaterialCardReader(findings).Read(card);
-    std::vector<StoredTable> tables;
-    if (material) tables = WriteAndReadBack(catalogs, *material, findings);
+    const auto read = MaterialCardReader(findings).Read(card);
+    std::optional<StoredMaterial> material;
+    if (read) {
+        const auto fits = FitsToShow(*this, *read, findings);
+        material = StoredMaterial{.card = &*read};
+        if (!findings.HasErrors()) {
+            MaterialHost host(catalogs);
+            material = StoreMaterial(host, *read, fits, findings);
+        }
+    }
 
     if (json) {
-        PrintMaterialJson(out, material ? &*material : nullptr, tables, findings);
+        PrintMaterialJson(out, material ? &*material : nullptr, findings);
         return findings.Exit();
     }
-    if (material && !findings.HasErrors()) PrintMaterial(out, *material, tables);
+    if (material && !findings.HasErrors()) PrintMaterial(out, *material);
     for (const Finding& finding : findings.All()) err << FindingLine(finding) << '\n';
     return findings.Exit();
 }

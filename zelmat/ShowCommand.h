@@ -3,7 +3,7 @@
 #include <ostream>
 #include <string>
 
-#include "zelmat/Findings.h"
+#include "zelmat/FitChoice.h"
 
 namespace zelmat {
 
@@ -12,6 +12,8 @@ namespace zelmat {
 struct ShowCommand {
     std::string card;      ///< path of the card
     std::string catalogs;  ///< folder of the feature catalogs
+    FitChoice fit;         ///< of several hyperelastic fits
+    bool allFits = false;  ///< show each in turn
     bool json = false;     ///< one JSON object on standard output, findings included
     bool trace = false;    ///< every interface call on standard error
 

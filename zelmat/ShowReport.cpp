@@ -1,7 +1,9 @@
 #include "zelmat/ShowReport.h"
 
-#include <nlohmann/json.hpp>
+#include <algorithm>
 
+#include "zelmat/FitChoice.h"
+#include "zelmat/JsonReport.h"
 #include "zelmat/NumberText.h"
 #include "zelmat/TablePrinter.h"
 #include "zelmat/WordList.h"
@@ -10,103 +12,120 @@ namespace zelmat {
 
 namespace {
 
-using nlohmann::ordered_json;
-
-/// A stored table's columns, by the store's own flag: the card's need not be the store's.
-std::vector<CardColumn> ColumnsOf(const StoredTable& table) {
-    return table.block->forms.front().ColumnsOf(table.temperatureDependent);
+std::string ValueText(const CardSetting& setting, const CardValue& value) {
+    struct ToText {
+        const std::string& unit;
+        std::string operator()(bool flag) const { return flag ? "yes" : "no"; }
+        std::string operator()(int count) const { return std::to_string(count); }
+        std::string operator()(double number) const { return WithUnit(number, unit); }
+        std::string operator()(const std::string& text) const { return text; }
+    };
+    return std::visit(ToText{setting.unit}, value);
 }
 
-std::string Caption(const StoredTable& table) {
-    std::string caption = table.block->title + ", ";
-    caption += table.temperatureDependent ? "temperature dependent" : "not temperature dependent";
-    if (table.referenceTemperature) caption += ", from " + NumberText(*table.referenceTemperature) + " K";
-    return caption;
-}
-
-std::string SourceOf(const MaterialCard& card, const CardBlock* block) {
-    for (const CardTable& table : card.tables) {
-        if (table.block == block) return table.source;
+/// The values beside the tables: those that are stored, or the notes that only the card has.
+void PrintValues(std::ostream& out, const CardBlock& block, const CardValues& values, bool stored) {
+    for (const CardSetting& setting : block.settings) {
+        const CardValue* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
+        if (!value) continue;
+        out << "  " << setting.title << (stored ? ": " : ", on the card: ") << ValueText(setting, *value)
+            << '\n';
     }
-    return {};
 }
 
-void PrintTable(std::ostream& out, const MaterialCard& card, const StoredTable& table) {
+void PrintTable(std::ostream& out, const StoredTable& table) {
     std::vector<std::string> headers;
-    for (const CardColumn& column : ColumnsOf(table))
-        headers.push_back(column.title + " [" + column.unit + "]");
+    for (const CardColumn& column : table.columns) {
+        headers.push_back(column.unit.empty() ? column.title : column.title + " [" + column.unit + "]");
+    }
     TablePrinter printer(headers);
     for (const auto& row : table.rows) {
         std::vector<std::string> cells;
         for (const double value : row) cells.push_back(NumberText(value));
         printer.AddRow(std::move(cells));
     }
-    out << '\n' << Caption(table) << '\n';
     printer.Print(out);
-    if (const std::string source = SourceOf(card, table.block); !source.empty()) {
-        out << "  source: " << source << '\n';
+}
+
+void PrintSource(std::ostream& out, const StoredBlock& block, const StoredTable& table) {
+    const CardTable* given = block.given ? block.given->Table(table.kind) : nullptr;
+    if (given && !given->source.empty()) out << "  source: " << given->source << '\n';
+}
+
+const char* FlagWords(const StoredTable& table) {
+    if (!table.kind->flagged) return "";
+    return table.temperatureDependent ? ", temperature dependent" : ", not temperature dependent";
+}
+
+void PrintBlock(std::ostream& out, const StoredBlock& block) {
+    const bool ownTable = block.block->FindTable("") != nullptr;
+    out << '\n' << block.block->title;
+    if (ownTable && !block.tables.empty()) out << FlagWords(block.tables.front());
+    out << '\n';
+    PrintValues(out, *block.block, block.values, true);
+    for (const StoredTable& table : block.tables) {
+        if (!ownTable) out << "  " << table.kind->title << FlagWords(table) << '\n';
+        PrintTable(out, table);
+        PrintSource(out, block, table);
     }
+    if (block.given) PrintValues(out, *block.block, block.given->values, false);
 }
 
-std::vector<std::string> NotShown(const MaterialCard& card, CardUse use) {
-    std::vector<std::string> names;
-    for (const CardBlock* block : card.notShown) {
-        if (block->use == use) names.push_back(block->name);
+/// Which of several fits the material holds. Every fit that is shown tells its name itself.
+void PrintFits(std::ostream& out, const StoredMaterial& material) {
+    std::vector<const CardData*> shown;
+    for (const StoredBlock& block : material.blocks) {
+        if (block.given && block.block->alternatives) shown.push_back(block.given);
     }
-    return names;
-}
-
-void PrintNote(std::ostream& out, const char* note, const std::vector<std::string>& names) {
-    if (!names.empty()) out << '\n' << note << ": " << WordList(names) << '\n';
-}
-
-ordered_json ToJson(const StoredTable& table) {
-    ordered_json columns = ordered_json::array();
-    for (const CardColumn& column : ColumnsOf(table)) {
-        columns.push_back({{"name", column.name}, {"unit", column.unit}});
+    const auto& fits = material.card->fits;
+    if (fits.size() < 2 || shown.empty()) return;
+    if (shown.size() > 1) {
+        out << '\n'
+            << "hyperelastic fits on the card: " << fits.size()
+            << ", each stored and read back in turn; a material holds one\n";
+        return;
     }
-    ordered_json json = {{"block", table.block->name},
-                         {"temperature_dependent", table.temperatureDependent},
-                         {"columns", std::move(columns)},
-                         {"rows", table.rows}};
-    if (table.referenceTemperature) json["reference_temperature"] = *table.referenceTemperature;
-    return json;
+    out << '\n'
+        << "hyperelastic fits on the card: " << fits.size() << ", stored: " << FitName(*shown.front())
+        << '\n';
+    for (const CardData& fit : fits) {
+        if (&fit != shown.front()) out << "  not stored: " << FitName(fit) << '\n';
+    }
+    out << "  choose with --model and --variant, or show each with --all-models\n";
 }
 
-ordered_json ToJson(const Finding& finding) {
-    return {{"kind", KindWord(finding.kind)}, {"file", finding.place.file}, {"line", finding.place.line},
-            {"code", finding.code},           {"text", finding.text},       {"details", finding.details}};
+std::string InformationText(const CardData& data) {
+    const std::string tables = WordList(data.tables, [](const CardTable& table) {
+        return table.kind->name + " " + CountText(table.rows.size(), "row");
+    });
+    return tables.empty() ? data.block->name : data.block->name + " (" + tables + ")";
 }
 
-ordered_json ToJson(const MaterialCard& card, const std::vector<StoredTable>& tables) {
-    ordered_json json = {{"name", card.name},
-                         {"description", card.description},
-                         {"source", card.sources},
-                         {"illustrative", card.illustrative},
-                         {"tables", ordered_json::array()},
-                         {"not_shown_yet", NotShown(card, CardUse::NOT_SHOWN_YET)},
-                         {"for_information", NotShown(card, CardUse::FOR_INFORMATION)}};
-    for (const StoredTable& table : tables) json["tables"].push_back(ToJson(table));
-    return json;
+void PrintNote(std::ostream& out, const char* note, const std::string& words) {
+    if (!words.empty()) out << note << ": " << words << '\n';
 }
 
 }  // namespace
 
-void PrintMaterial(std::ostream& out, const MaterialCard& card, const std::vector<StoredTable>& tables) {
+void PrintMaterial(std::ostream& out, const StoredMaterial& material) {
+    const MaterialCard& card = *material.card;
     out << card.name << '\n';
     if (!card.description.empty()) out << card.description << '\n';
     for (const std::string& source : card.sources) out << "source: " << source << '\n';
     if (card.illustrative) out << "illustrative: the values are made up\n";
-    for (const StoredTable& table : tables) PrintTable(out, card, table);
-    PrintNote(out, "not shown yet", NotShown(card, CardUse::NOT_SHOWN_YET));
-    PrintNote(out, "for information only, used by no behavior", NotShown(card, CardUse::FOR_INFORMATION));
+    out << '\n';
+    PrintNote(out, "switched on", WordList(material.Names(true)));
+    PrintNote(out, "switched off", WordList(material.Names(false)));
+    for (const StoredBlock* block : material.SwitchedOn()) PrintBlock(out, *block);
+    PrintFits(out, material);
+    if (!card.information.empty()) out << '\n';
+    PrintNote(out, "for information only, used by no behavior", WordList(card.information, InformationText));
 }
 
-void PrintMaterialJson(std::ostream& out, const MaterialCard* card, const std::vector<StoredTable>& tables,
-                       const Findings& findings) {
-    ordered_json json = {{"material", nullptr}, {"findings", ordered_json::array()}};
-    if (card) json["material"] = ToJson(*card, tables);
-    for (const Finding& finding : findings.All()) json["findings"].push_back(ToJson(finding));
+void PrintMaterialJson(std::ostream& out, const StoredMaterial* material, const Findings& findings) {
+    nlohmann::ordered_json json = {{"material", nullptr}};
+    if (material) json["material"] = ToJson(*material);
+    json["findings"] = ToJson(findings);
     out << json.dump(2) << '\n';
 }
 

@@ -1,19 +1,18 @@
 #pragma once
 
 #include <ostream>
-#include <vector>
 
 #include "zelmat/Findings.h"
-#include "zelmat/MaterialCard.h"
+#include "zelmat/StoredMaterial.h"
 
 namespace zelmat {
 
-/// A material for reading on a terminal: where it comes from, then one aligned table per behavior.
-void PrintMaterial(std::ostream& out, const MaterialCard& card, const std::vector<StoredTable>& tables);
+/// A material for reading on a terminal: where it comes from, which behaviors are switched on, then one
+/// section per behavior with its values and aligned tables.
+void PrintMaterial(std::ostream& out, const StoredMaterial& material);
 
-/// The same for scripts, as one JSON object, with the findings in it. `card` is null when it could not be
-/// read.
-void PrintMaterialJson(std::ostream& out, const MaterialCard* card, const std::vector<StoredTable>& tables,
-                       const Findings& findings);
+/// The same for scripts, as one JSON object, with the findings in it. `material` is null when its card could
+/// not be read.
+void PrintMaterialJson(std::ostream& out, const StoredMaterial* material, const Findings& findings);
 
 }  // namespace zelmat

@@ -8,10 +8,13 @@
 namespace zelmat {
 
 /// A table as an analyst reads it: one header line that says each column's quantity and unit, below it the
-/// rows, every column flush right.
+/// rows. Numbers stand flush right, so do their headers; columns of words can be set flush left.
 class TablePrinter {
 public:
-    explicit TablePrinter(std::vector<std::string> headers) : headers_(std::move(headers)) {}
+    explicit TablePrinter(std::vector<std::string> headers)
+        : left_(headers.size(), false), headers_(std::move(headers)) {}
+
+    void SetLeft(std::size_t column) { left_[column] = true; }
 
     /// As many cells as there are headers.
     void AddRow(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
@@ -19,6 +22,10 @@ public:
     void Print(std::ostream& out) const;
 
 private:
+    void PrintCells(std::ostream& out, const std::vector<std::string>& cells,
+                    const std::vector<std::size_t>& widths) const;
+
+    std::vector<bool> left_;
     std::vector<std::string> headers_;
     std::vector<std::vector<std::string>> rows_;
 };

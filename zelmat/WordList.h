@@ -20,4 +20,8 @@ inline std::string WordList(const std::vector<std::string>& words) {
     return WordList(words, [](const std::string& word) { return word; });
 }
 
+inline std::string Quoted(const std::string& text) {
+    return "\"" + text + "\"";
+}
+
 }  // namespace zelmat

@@ -5,6 +5,9 @@
 
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
+
+#include "tests/zelmat/CatalogFolder.h"
 
 CardFile::CardFile(const std::string& text)
     : folder_(testing::TempDir() + "zelmat-card-" + std::to_string(getpid())), path_(folder_ + "/card.json") {
@@ -37,4 +40,21 @@ zelmat::MaterialCard CardOf(const std::string& text) {
     const auto card = zelmat::MaterialCardReader(findings).Read(file.Path());
     for (const auto& finding : findings.All()) ADD_FAILURE() << zelmat::FindingLine(finding);
     return card.value_or(zelmat::MaterialCard());
+}
+
+StoredCard::StoredCard(const std::string& text) : card(CardOf(text)) {
+    card.file = "card.json";
+    zelmat::Findings found;
+    zelmat::MaterialHost host(CatalogFolderOfTheModule());
+    std::vector<const zelmat::CardData*> fits;
+    if (!card.fits.empty()) fits.push_back(&card.fits.front());
+    material = zelmat::StoreMaterial(host, card, fits, found);
+    for (const auto& finding : found.All()) findings.push_back(zelmat::FindingLine(finding));
+}
+
+const zelmat::StoredBlock& StoredCard::Block(const std::string& name) const {
+    for (const auto& block : material.blocks) {
+        if (block.block->name == name) return block;
+    }
+    throw std::out_of_range(name + " was not stored");
 }

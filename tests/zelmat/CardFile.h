@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "zelmat/MaterialCardReader.h"
+#include "zelmat/StoredMaterial.h"
 
 /// A card written to a file of its own for as long as a test needs it.
 class CardFile {
@@ -25,6 +26,17 @@ private:
 
 /// What reading the card finds, one line each.
 std::vector<std::string> FindingsOf(const std::string& text);
+
+/// What storing and reading back a card in a document of its own finds and gives, with the card's first fit.
+struct StoredCard {
+    explicit StoredCard(const std::string& text);
+
+    const zelmat::StoredBlock& Block(const std::string& name) const;
+
+    zelmat::MaterialCard card;
+    std::vector<std::string> findings;  ///< one line each, of the file card.json
+    zelmat::StoredMaterial material;
+};
 
 /// What reading a card without mistakes gives.
 zelmat::MaterialCard CardOf(const std::string& text);

@@ -119,11 +119,10 @@ TEST(CardTableReader, NamesAnUnknownHardening) {
 }
 
 TEST(CardTableReader, RefusesATableWithoutRows) {
-    EXPECT_THAT(
-        FindingsOfDensity(R"({"temperature_dependent": false, "columns": ["density"],
+    EXPECT_THAT(FindingsOfDensity(R"({"temperature_dependent": false, "columns": ["density"],
 "rows": []})"),
-        ElementsAre("card.json:3: error[empty-rows]: density has no rows (leave the block out if it is not "
-                    "defined)"));
+                ElementsAre("card.json:3: error[empty-rows]: density has no rows (leave it out if it is not "
+                            "defined)"));
 }
 
 TEST(CardTableReader, NamesEveryRaggedRow) {
@@ -172,6 +171,29 @@ TEST(CardTableReader, WantsTheReferenceTemperatureOfThermalExpansionAsANumber) {
 "columns": ["thermal_expansion"], "rows": [[1.2e-5]], "reference_temperature": "20 degC"}})"),
         ElementsAre("card.json:2: error[not-a-number]: thermal_expansion.reference_temperature is not a "
                     "number (got \"20 degC\", expected a number without quotes)"));
+}
+
+TEST(CardTableReader, TakesOneRowOnlyForJohnsonCook) {
+    EXPECT_THAT(
+        FindingsOf(R"({"name": "x", "plastic": {"temperature_dependent": false, "hardening": "johnson-cook",
+"columns": ["A", "B", "n", "m", "melting_temperature", "transition_temperature"],
+"rows": [[9e7, 2.92e8, 0.31, 1.09, 1356, 298],
+[1, 2, 3, 4, 5, 6]]}})"),
+        ElementsAre(
+            "card.json:4: error[surplus-rows]: plastic with johnson-cook hardening takes one row (got "
+            "2, the others would be lost)"));
+}
+
+TEST(CardTableReader, NamesATableInsideABlockByBoth) {
+    EXPECT_THAT(FindingsOf(R"({"name": "x", "gasket": {"loading": {"temperature_dependent": false,
+"columns": ["pressure", "closure", "temperature"],
+"rows": [[0, 0, 293.15],
+[1e6, 1e-5]],
+"colour": "grey"}}})"),
+                ElementsAre("card.json:4: error[ragged-row]: row 2 of gasket.loading has 2 values (expected "
+                            "3: pressure, closure, temperature)",
+                            "card.json:5: error[unknown-key]: gasket.loading has no key \"colour\" (known: "
+                            "temperature_dependent, columns, rows, source)"));
 }
 
 }  // namespace

@@ -7,6 +7,11 @@
 #include <fstream>
 #include <iterator>
 
+std::string CatalogFolderOfTheModule() {
+    const std::string catalog = ZELMAT_CATALOG;
+    return catalog.substr(0, catalog.rfind('/'));
+}
+
 CatalogFolder::CatalogFolder(const std::string& text, const std::string& replacement)
     : path_(testing::TempDir() + "zelmat-catalogs-" + std::to_string(getpid())) {
     std::ifstream original(ZELMAT_CATALOG, std::ios::binary);

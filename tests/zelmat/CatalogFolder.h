@@ -2,6 +2,9 @@
 
 #include <string>
 
+/// The folder with the module's catalog as it is.
+std::string CatalogFolderOfTheModule();
+
 /// A folder with a copy of the module's catalog in which one text is replaced by another, for as long as a
 /// test needs it.
 class CatalogFolder {

@@ -38,8 +38,18 @@ TEST(Findings, DecideTheExitCodeByTheWorst) {
     EXPECT_EQ(findings.Exit(), 1);
     EXPECT_TRUE(findings.HasErrors());
 
+    findings.Add({FindingKind::USAGE, {"a", 0}, "o", "", {}});
+    EXPECT_EQ(findings.Exit(), 2);
+
     findings.Add({FindingKind::UNREADABLE, {"a", 0}, "u", "", {}});
     EXPECT_EQ(findings.Exit(), 3);
+}
+
+TEST(Findings, CountAnImpossibleWishAsAnError) {
+    Findings findings;
+    findings.Add({FindingKind::USAGE, {"a", 7}, "no-such-model", "none", {}});
+    EXPECT_TRUE(findings.HasErrors());
+    EXPECT_EQ(FindingLine(findings.All()[0]), "a:7: error[no-such-model]: none");
 }
 
 TEST(Findings, CountAnUnreadableFileAsAnError) {

@@ -24,54 +24,76 @@ TEST(MaterialCardReader, ReadsEveryTableOfACard) {
     EXPECT_EQ(card.description, "Plain steel.");
     EXPECT_THAT(card.sources, ElementsAre("EN 1993-1-1:2005", "EN 10025-2"));
     EXPECT_FALSE(card.illustrative);
-    EXPECT_THAT(card.notShown, IsEmpty());
+    EXPECT_THAT(card.fits, IsEmpty());
+    EXPECT_THAT(card.information, IsEmpty());
 
-    ASSERT_EQ(card.tables.size(), 2u);
-    EXPECT_EQ(card.tables[0].block->name, "elastic");
-    EXPECT_TRUE(card.tables[0].temperatureDependent);
-    EXPECT_THAT(card.tables[0].rows,
-                ElementsAre(ElementsAre(210e9, 0.3, 293.15), ElementsAre(189e9, 0.3, 473.15)));
-    EXPECT_EQ(card.tables[0].source, "3.2.6");
-    EXPECT_EQ(card.tables[0].line, 6);
+    ASSERT_EQ(card.data.size(), 2u);
+    EXPECT_EQ(card.data[0].block->name, "elastic");
+    EXPECT_EQ(card.data[0].line, 5);
+    const zelmat::CardTable& elastic = card.data[0].tables.front();
+    EXPECT_TRUE(elastic.temperatureDependent);
+    EXPECT_THAT(elastic.rows, ElementsAre(ElementsAre(210e9, 0.3, 293.15), ElementsAre(189e9, 0.3, 473.15)));
+    EXPECT_EQ(elastic.source, "3.2.6");
+    EXPECT_EQ(elastic.line, 6);
+    EXPECT_THAT(elastic.lines, ElementsAre(6, 7));
 
-    EXPECT_EQ(card.tables[1].block->name, "density");
-    EXPECT_FALSE(card.tables[1].temperatureDependent);
-    EXPECT_THAT(card.tables[1].rows, ElementsAre(ElementsAre(7850.0)));
-    EXPECT_EQ(card.tables[1].referenceTemperature, std::nullopt);
+    EXPECT_EQ(card.data[1].block->name, "density");
+    const zelmat::CardTable& density = card.data[1].tables.front();
+    EXPECT_FALSE(density.temperatureDependent);
+    EXPECT_THAT(density.rows, ElementsAre(ElementsAre(7850.0)));
 }
 
 TEST(MaterialCardReader, GoesByTheNamesOfTheColumnsNotTheirOrder) {
     const auto card = CardOf(R"({"name": "x", "elastic": {"temperature_dependent": true,
         "columns": ["temperature", "poissons_ratio", "youngs_modulus"], "rows": [[293.15, 0.3, 210e9]]}})");
 
-    ASSERT_EQ(card.tables.size(), 1u);
-    EXPECT_THAT(card.tables[0].rows, ElementsAre(ElementsAre(210e9, 0.3, 293.15)));
+    ASSERT_EQ(card.data.size(), 1u);
+    EXPECT_THAT(card.data[0].tables[0].rows, ElementsAre(ElementsAre(210e9, 0.3, 293.15)));
 }
 
 TEST(MaterialCardReader, ReadsTheReferenceTemperatureOfThermalExpansion) {
     const auto card = CardOf(R"({"name": "x", "thermal_expansion": {"temperature_dependent": false,
         "columns": ["thermal_expansion"], "rows": [[1.2e-5]], "reference_temperature": 293.15, "kind": "mean"}})");
 
-    ASSERT_EQ(card.tables.size(), 1u);
-    EXPECT_EQ(card.tables[0].referenceTemperature, 293.15);
+    ASSERT_EQ(card.data.size(), 1u);
+    EXPECT_EQ(card.data[0].values.Get<double>("reference_temperature"), 293.15);
+    EXPECT_EQ(card.data[0].values.Get<std::string>("kind"), "mean");
 }
 
 TEST(MaterialCardReader, TakesASingleTextAsTheSource) {
     EXPECT_THAT(CardOf(R"({"name": "x", "source": "Handbook"})").sources, ElementsAre("Handbook"));
 }
 
-TEST(MaterialCardReader, KeepsTheBlocksThatAreNotShownApart) {
-    const auto card = CardOf(R"({"name": "x", "illustrative": true, "gasket": {}, "hyperelastic": [],
-        "strength": {"f_ck": 3e7}, "test_data": {},
-        "plastic": {"temperature_dependent": false, "hardening": "johnson-cook",
-                    "columns": ["A", "B", "n", "m", "melting_temperature", "transition_temperature"],
-                    "rows": [[1e8, 2e8, 0.3, 1, 1700, 298]]}})");
+TEST(MaterialCardReader, KeepsWhatNoBehaviorUsesApart) {
+    const auto card = CardOf(R"({"name": "x", "illustrative": true, "strength": {"f_ck": 3e7},
+        "test_data": {"note": "room temperature",
+            "uniaxial": {"columns": ["nominal_stress", "stretch"], "rows": [[25500, 1.02], [134400, 1.125]]}}})");
 
-    std::vector<std::string> names;
-    for (const auto* block : card.notShown) names.push_back(block->name);
-    EXPECT_THAT(names, ElementsAre("plastic", "hyperelastic", "gasket", "test_data", "strength"));
-    EXPECT_THAT(card.tables, IsEmpty());
     EXPECT_TRUE(card.illustrative);
+    EXPECT_THAT(card.data, IsEmpty());
+    ASSERT_EQ(card.information.size(), 2u);
+    EXPECT_EQ(card.information[0].block->name, "test_data");
+    ASSERT_EQ(card.information[0].tables.size(), 1u);
+    EXPECT_EQ(card.information[0].tables[0].kind->name, "uniaxial");
+    EXPECT_THAT(card.information[0].tables[0].rows,
+                ElementsAre(ElementsAre(1.02, 25500.0), ElementsAre(1.125, 134400.0)));
+    EXPECT_EQ(card.information[1].block->name, "strength");
+}
+
+TEST(MaterialCardReader, KeepsTheHyperelasticFitsInTheirOrder) {
+    const auto card = CardOf(R"({"name": "x", "hyperelastic": [
+        {"model": "NEO_HOOKE", "order": 1, "temperature_dependent": false, "columns": ["C10"], "rows": [[195000]]},
+        {"model": "OGDEN", "order": 2, "temperature_dependent": true, "variant": "cold",
+         "columns": ["temperature", "alpha_1", "mu_1", "mu_2", "alpha_2", "D2"],
+         "rows": [[293.15, 1.3, 630000, 1200, 5, 2e-9]]}]})");
+
+    EXPECT_THAT(card.data, IsEmpty());
+    ASSERT_EQ(card.fits.size(), 2u);
+    EXPECT_EQ(card.fits[0].values.Get<std::string>("model"), "NEO_HOOKE");
+    EXPECT_THAT(card.fits[0].tables[0].rows, ElementsAre(ElementsAre(195000.0, 0.0)));
+    EXPECT_EQ(card.fits[1].values.Get<int>("order"), 2);
+    EXPECT_THAT(card.fits[1].tables[0].rows,
+                ElementsAre(ElementsAre(630000.0, 1.3, 1200.0, 5.0, 0.0, 2e-9, 293.15)));
 }
 
 TEST(MaterialCardReader, WantsATemperatureInEveryPlasticCurve) {
@@ -177,8 +199,9 @@ TEST(MaterialCardReader, NamesAnUnknownBlock) {
     EXPECT_THAT(
         FindingsOf("{\"name\": \"x\",\n\"elastc\": {}}"),
         ElementsAre("card.json:2: error[unknown-block]: there is no block \"elastc\" (known: elastic, "
-                    "plastic, density, thermal_expansion, conductivity, specific_heat, hyperelastic, "
-                    "gasket, test_data, strength)"));
+                    "plastic, density, thermal_expansion, conductivity, specific_heat, "
+                    "user_material, hyperelastic, gasket, gasket_membrane, gasket_transverse_shear, "
+                    "test_data, strength)"));
 }
 
 TEST(MaterialCardReader, TellsAllMistakesInTheOrderOfTheLines) {

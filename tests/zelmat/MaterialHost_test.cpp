@@ -1,5 +1,9 @@
+#include "zelmat/MaterialHost.h"
+
 #include <gmock/gmock.h>
 
+#include "interfaces/KORIAlias.h"
+#include "interfaces/KORIMaterialFeature.h"
 #include "tests/zelmat/CatalogFolder.h"
 #include "tests/zelmat/Program.h"
 
@@ -39,7 +43,9 @@ TEST(MaterialHost, ReportsALateTypeThatTheCatalogLacks) {
     const ProgramRun run = ShowOver(catalogs);
 
     EXPECT_EQ(run.exitCode, 3);
-    EXPECT_EQ(run.err, CatalogIn(catalogs) + ": error[bad-catalog]: has no late type ZELDensityLT\n");
+    EXPECT_EQ(run.err, CatalogIn(catalogs) +
+                           ": error[bad-catalog]: the analysis data of Two tables cannot be made "
+                           "from it (status 0x80004005)\n");
 }
 
 TEST(MaterialHost, ReportsAMaterialTypeThatTheCatalogLacks) {
@@ -47,7 +53,9 @@ TEST(MaterialHost, ReportsAMaterialTypeThatTheCatalogLacks) {
     const ProgramRun run = ShowOver(catalogs);
 
     EXPECT_EQ(run.exitCode, 3);
-    EXPECT_EQ(run.err, CatalogIn(catalogs) + ": error[bad-catalog]: has no late type ZELMaterialLT\n");
+    EXPECT_EQ(run.err, CatalogIn(catalogs) +
+                           ": error[bad-catalog]: the analysis data of Two tables cannot be made "
+                           "from it (status 0x80004005)\n");
 }
 
 TEST(MaterialHost, ReportsAnAttributeThatTheMaterialLacks) {
@@ -55,8 +63,29 @@ TEST(MaterialHost, ReportsAnAttributeThatTheMaterialLacks) {
     const ProgramRun run = ShowOver(catalogs);
 
     EXPECT_EQ(run.exitCode, 3);
-    EXPECT_EQ(run.err,
-              CatalogIn(catalogs) + ": error[bad-catalog]: ZELMaterialLT has no attribute ZELDensity\n");
+    EXPECT_EQ(run.err, CatalogIn(catalogs) +
+                           ": error[bad-catalog]: the analysis data of Two tables cannot be made "
+                           "from it (status 0x80004005)\n");
+}
+
+TEST(MaterialHost, HangsTheFactorysDataOnAMaterialOfThePlatform) {
+    zelmat::MaterialCard card;
+    card.name = "S235";
+    zelmat::Findings findings;
+    zelmat::MaterialHost host(CatalogFolderOfTheModule());
+
+    const KORISpecObject_var data = host.NewMaterial(card, findings);
+
+    ASSERT_TRUE(data);
+    EXPECT_THAT(findings.All(), testing::IsEmpty());
+    const auto father = KORISpecObject_var::Adopt(data->GetFather());
+    ASSERT_TRUE(father);
+    EXPECT_EQ(KORIAlias_var(father)->GetAlias(), "S235");
+    const auto material = KORIMaterialFeature_var(father);
+    EXPECT_EQ(KORISpecObject_var::Adopt(material->GetApplicativeFeature("ZELMaterialApplicative")), data);
+    // Of the platform: the material and the entry on it. Of the factory: the root and its 13 features. Of the
+    // first query for the material interface: hyperelasticity and its model, which is replaced once.
+    EXPECT_EQ(host.FeatureCount(), 19u);
 }
 
 }  // namespace

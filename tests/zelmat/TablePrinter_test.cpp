@@ -39,4 +39,17 @@ TEST(TablePrinter, CountsCharactersNotBytes) {
               "  12345678\n");
 }
 
+TEST(TablePrinter, SetsColumnsOfWordsFlushLeftAndEndsNoLineInBlanks) {
+    zelmat::TablePrinter table({"material", "rows", "notes"});
+    table.SetLeft(0);
+    table.SetLeft(2);
+    table.AddRow({"steel", "12", "a note"});
+    table.AddRow({"natural rubber", "1", ""});
+
+    EXPECT_EQ(Printed(table),
+              "  material        rows  notes\n"
+              "  steel             12  a note\n"
+              "  natural rubber     1\n");
+}
+
 }  // namespace

@@ -1,4 +1,6 @@
-#include "zelmat/BehaviorAccess.h"
+#include "zelmat/BehaviorAnswers.h"
+
+#include <algorithm>
 
 namespace zelmat {
 
@@ -21,6 +23,16 @@ std::vector<std::vector<double>> FromPropertyTable(ZELCftArrayZELCftArrayDouble&
         for (int column = 0; column < row.size(); ++column) values.push_back(row[column]);
     }
     return rows;
+}
+
+void BehaviorAnswers::ToValue(HRESULT status) {
+    const bool told = std::any_of(all_.begin(), all_.end(),
+                                  [](const WriteStatus& answer) { return answer.table == nullptr; });
+    if (FAILED(status) && !told) all_.push_back({nullptr, status});
+}
+
+void BehaviorAnswers::ToTable(const CardTable& table, HRESULT status) {
+    if (status != S_OK) all_.push_back({&table, status});
 }
 
 }  // namespace zelmat

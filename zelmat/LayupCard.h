@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace zelmat {
+
+/// A material that plies are made of, with its published constants. They are for reference: a layup keeps a
+/// link to the material and none of its numbers.
+struct PlyMaterial {
+    std::string name;
+    std::vector<std::pair<std::string, double>> constants;  ///< "E1", "nu12", ... as on the card
+    std::string source;
+};
+
+/// One layer of a card.
+struct CardLayer {
+    int line = 0;                         ///< where it stands on the card; 0 when it stands on none
+    std::optional<std::string> material;  ///< the name of a ply material
+    double thickness = 0.0;               ///< m
+    double angle = 0.0;                   ///< deg, from the laminate's x axis, counter-clockwise
+};
+
+/// A layup card as it was read.
+struct LayupCard {
+    std::string file;
+    int layersLine = 0;  ///< where the list of the layers stands
+    std::string name;
+    std::string description;
+    std::vector<std::string> sources;
+    std::vector<PlyMaterial> materials;
+    std::vector<CardLayer> layers;  ///< the bottom one first
+};
+
+/// The unit of a ply material's constant; empty when there is no such constant.
+std::string PlyConstantUnit(const std::string& constant);
+std::vector<std::string> PlyConstants();  ///< all there are
+
+}  // namespace zelmat
