@@ -11,21 +11,17 @@ zel_test(test_module_layups
         src/ZELLayupRegistration_test.cpp
     LINKS module_src module_store ZELShared test_support)
 
-# The module over another analysis-case factory: the shared utilities without their own one, so that a test can stand in
-# for it under its name.
-add_library(test_shared_without_case OBJECT
-    "${PROJECT_SOURCE_DIR}/ZELShared/ZELAnalysisDocUtils.cpp"
-    "${PROJECT_SOURCE_DIR}/ZELShared/ZELCftArrayZELCftArrayDouble.cpp"
-    "${PROJECT_SOURCE_DIR}/ZELShared/ZELCftArraydouble.cpp"
-    "${PROJECT_SOURCE_DIR}/ZELShared/ZELDlgUnit.cpp"
-    "${PROJECT_SOURCE_DIR}/ZELShared/ZELGenComparator.cpp"
-    "${PROJECT_SOURCE_DIR}/ZELShared/ZELNameUtil.cpp")
-target_link_libraries(test_shared_without_case PRIVATE framework interfaces zel_build_flags)
-
+# The module over other shared utilities: their tables alone, with stand-ins for the analysis-case factory, the document
+# helpers and the unique names, which answer what the real ones never do.
 zel_test(test_module_analysis_case
     FILES
+        ZELAnalysisServices.cpp
+        src/ZELAnalysisStatuses_test.cpp
         src/ZELPropertiesSet_test.cpp
+        "${PROJECT_SOURCE_DIR}/ZELShared/ZELCftArrayZELCftArrayDouble.cpp"
+        "${PROJECT_SOURCE_DIR}/ZELShared/ZELCftArraydouble.cpp"
+        "${PROJECT_SOURCE_DIR}/ZELShared/ZELDlgUnit.cpp"
+        "${PROJECT_SOURCE_DIR}/ZELShared/ZELGenComparator.cpp"
         $<TARGET_OBJECTS:module_src>
         $<TARGET_OBJECTS:module_store>
-        $<TARGET_OBJECTS:test_shared_without_case>
     LINKS test_support)

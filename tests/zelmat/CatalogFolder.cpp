@@ -12,8 +12,9 @@ std::string CatalogFolderOfTheModule() {
     return catalog.substr(0, catalog.rfind('/'));
 }
 
-CatalogFolder::CatalogFolder(const std::string& text, const std::string& replacement)
-    : path_(testing::TempDir() + "zelmat-catalogs-" + std::to_string(getpid())) {
+CatalogFolder::CatalogFolder(const std::string& text, const std::string& replacement) {
+    static int made = 0;  // a catalog file is parsed once per process: each folder has a name of its own
+    path_ = testing::TempDir() + "zelmat-catalogs-" + std::to_string(getpid()) + "-" + std::to_string(++made);
     std::ifstream original(ZELMAT_CATALOG, std::ios::binary);
     std::string catalog{std::istreambuf_iterator<char>(original), {}};
     const auto found = catalog.find(text);

@@ -22,7 +22,8 @@ std::vector<std::string> Mistakes(const std::string& text) {
 
 /// A card of one layer; its keys start on line 2, the layer stands on line 4.
 std::string CardWith(const std::string& more, const std::string& layer) {
-    return "{\n\"name\": \"x\",\n\"layers\": [\n" + layer + "],\n\"ply_materials\": {\"M\": {}}" + more + "\n}\n";
+    return "{\n\"name\": \"x\",\n\"layers\": [\n" + layer + "],\n\"ply_materials\": {\"M\": {}}" + more +
+           "\n}\n";
 }
 
 constexpr const char* kLayer = R"({"material": "M", "thickness": 0.001, "angle_deg": 0})";
@@ -57,10 +58,9 @@ TEST(LayupCardReader, ReadsEveryKey) {
     EXPECT_THAT(card->sources, ElementsAre("made up"));
     ASSERT_EQ(card->materials.size(), 2u);
     EXPECT_EQ(card->materials[0].name, "Carbon");
-    EXPECT_THAT(card->materials[0].constants,
-                ElementsAre(std::pair<std::string, double>("E1", 1.81e11),
-                            std::pair<std::string, double>("nu12", 0.28),
-                            std::pair<std::string, double>("density", 1600.0)));
+    EXPECT_THAT(card->materials[0].constants, ElementsAre(std::pair<std::string, double>("E1", 1.81e11),
+                                                          std::pair<std::string, double>("nu12", 0.28),
+                                                          std::pair<std::string, double>("density", 1600.0)));
     EXPECT_EQ(card->materials[0].source, "a handbook");
     ASSERT_EQ(card->layers.size(), 2u);
     EXPECT_EQ(card->layersLine, 11);
@@ -120,9 +120,8 @@ TEST(LayupCardReader, ReportsUnitsThatAreNotItsOwn) {
 TEST(LayupCardReader, ReportsLayersThatAreNone) {
     EXPECT_THAT(Mistakes("{\"name\": \"x\",\n\"layers\": {}}"),
                 ElementsAre("card.json:2: error[wrong-type]: layers is not a list (got {})"));
-    EXPECT_THAT(
-        Mistakes(CardWith("", "0")),
-        ElementsAre("card.json:4: error[wrong-type]: layers[0] is not an object in braces (got 0)"));
+    EXPECT_THAT(Mistakes(CardWith("", "0")),
+                ElementsAre("card.json:4: error[wrong-type]: layers[0] is not an object in braces (got 0)"));
     EXPECT_THAT(Mistakes(CardWith("", R"({"material": 1, "thickness": "1", "angle_deg": null})")),
                 ElementsAre("card.json:4: error[wrong-type]: layers[0].material is not a text (got 1)",
                             "card.json:4: error[not-a-number]: layers[0].thickness is not a number (got "

@@ -2,8 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <filesystem>
-
 #include "tests/zelmat/CatalogFolder.h"
 
 namespace {
@@ -13,10 +11,6 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using zelmat::LayupHost;
 using zelmat::StoredLayer;
-
-std::string Catalogs() {
-    return std::filesystem::path(ZELMAT_CATALOG).parent_path().string();
-}
 
 zelmat::LayupCard TwoPlies() {
     zelmat::LayupCard card;
@@ -30,7 +24,7 @@ zelmat::LayupCard TwoPlies() {
 
 TEST(LayupHost, GivesBackWhatItWasGiven) {
     zelmat::Findings findings;
-    LayupHost host(Catalogs());
+    LayupHost host(CatalogFolderOfTheModule());
 
     ASSERT_TRUE(host.Make(TwoPlies(), findings));
     const auto stored = host.Read();
@@ -49,7 +43,7 @@ TEST(LayupHost, TellsALayupThatCannotBeUsed) {
     zelmat::Findings findings;
     zelmat::LayupCard card = TwoPlies();
     card.layers[1].material.reset();
-    LayupHost host(Catalogs());
+    LayupHost host(CatalogFolderOfTheModule());
 
     ASSERT_TRUE(host.Make(card, findings));
     const auto stored = host.Read();
@@ -62,7 +56,7 @@ TEST(LayupHost, TellsALayupThatCannotBeUsed) {
 
 TEST(LayupHost, KnowsWhetherACompositeSectionUsesTheLayup) {
     zelmat::Findings findings;
-    LayupHost host(Catalogs());
+    LayupHost host(CatalogFolderOfTheModule());
     ASSERT_TRUE(host.Make(TwoPlies(), findings));
 
     EXPECT_TRUE(host.AddSection(0));
@@ -72,7 +66,7 @@ TEST(LayupHost, KnowsWhetherACompositeSectionUsesTheLayup) {
 }
 
 TEST(LayupHost, HasNothingToReadAndNoPlaceForASectionBeforeALayupIsMade) {
-    LayupHost host(Catalogs());
+    LayupHost host(CatalogFolderOfTheModule());
 
     EXPECT_FALSE(host.AddSection(1));
     EXPECT_EQ(host.Read(), std::nullopt);
@@ -82,7 +76,7 @@ TEST(LayupHost, TakesTenThousandLayers) {
     zelmat::Findings findings;
     zelmat::LayupCard card = TwoPlies();
     card.layers.assign(10000, card.layers[1]);
-    LayupHost host(Catalogs());
+    LayupHost host(CatalogFolderOfTheModule());
 
     ASSERT_TRUE(host.Make(card, findings));
     const auto stored = host.Read();

@@ -34,8 +34,9 @@ TEST(StoredLayup, IsOfOnePlyWhenMaterialAndThicknessAgree) {
 }
 
 TEST(StoredLayup, IsWrittenAsANotationOfItsAngles) {
-    EXPECT_EQ(Layup({{"A", 0.001, 0.0}, {"A", 0.001, 90.0}, {"A", 0.001, 90.0}, {"A", 0.001, 0.0}}).Notation(),
-              "[0/90]s");
+    EXPECT_EQ(
+        Layup({{"A", 0.001, 0.0}, {"A", 0.001, 90.0}, {"A", 0.001, 90.0}, {"A", 0.001, 0.0}}).Notation(),
+        "[0/90]s");
 }
 
 TEST(StoredLayup, CountsItsLayers) {

@@ -3,6 +3,7 @@
 #include "ZELShared/TIEZELIKqcAnalysisCaseFact.h"
 #include "framework/KORDictionary.h"
 #include "framework/TIEKORICreateInstance.h"
+#include "tests/ZELMaterialModel/ZELAnalysisServices.h"
 #include "tests/ZELMaterialModel/ZELFactory.h"
 #include "tests/ZELMaterialModel/ZELLayups.h"
 #include "tests/support/ZELMapStore.h"
@@ -27,8 +28,7 @@ Case* current = nullptr;
 class CaseFact final : public KORBaseUnknown {
     KORDeclareClass
 
-    HRESULT
-    CreatePropertySet(KORDocument* document) {
+    HRESULT CreatePropertySet(KORDocument* document) {
         current->documents.push_back(document);
         const auto analysis = KORIAnalysisDocument_var::Of(document);
         if (!current->makesSets || !analysis) return current->status;
@@ -48,8 +48,7 @@ KORBaseUnknown* CaseFact::CreateItself() {
 class CaseFactInst final : public KORBaseUnknown {
     KORDeclareClass
 
-    HRESULT
-    CreateInstance(void** out) {
+    HRESULT CreateInstance(void** out) {
         KORBaseUnknown* made = current->makesInstances ? new CaseFact : nullptr;
         if (made) current->factories.push_back(made);
         *out = made;
@@ -90,6 +89,7 @@ protected:
 
     ZELMapStore store_;
     KORISpecObject_var model_ = store_.AddAnalysisModel();
+    ZELAnalysisServices services_;
     KORISpecObject_var layup_;
 };
 
