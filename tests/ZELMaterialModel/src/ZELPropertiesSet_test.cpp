@@ -17,6 +17,7 @@ namespace {
 /// What the analysis-case factory of a test does, and what has been asked of it.
 struct Case {
     bool makesInstances = true;
+    bool answersNull = false;  ///< the instances, with success, when asked for their interface
     bool makesSets = true;
     HRESULT status = S_OK;
     std::vector<KORDocument*> documents;
@@ -28,6 +29,11 @@ Case* current = nullptr;
 class CaseFact final : public KORBaseUnknown {
     KORDeclareClass
 
+    HRESULT QueryInterface(KORIID iid, void** out) override {
+        if (!current->answersNull) return KORBaseUnknown::QueryInterface(iid, out);
+        *out = nullptr;
+        return S_OK;
+    }
     HRESULT CreatePropertySet(KORDocument* document) {
         current->documents.push_back(document);
         const auto analysis = KORIAnalysisDocument_var::Of(document);
@@ -109,6 +115,10 @@ TEST_F(ZELPropertiesSet, CannotBeMadeWhenTheFactoryIsNoneOrLacksItsInterface) {
 
     const CaseInterface interface;
     module->makesInstances = false;
+    EXPECT_EQ(CreateSet(), E_FAIL);
+
+    module->makesInstances = true;
+    module->answersNull = true;
     EXPECT_EQ(CreateSet(), E_FAIL);
 
     EXPECT_THAT(module->documents, IsEmpty());
