@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "zelmat/NumberText.h"
+#include "zelmat/UnreadableFile.h"
 #include "zelmat/WordList.h"
 
 namespace zelmat {
@@ -33,14 +34,7 @@ std::optional<LayupCard> LayupCardReader::Read(const std::string& path) {
     KORJsonError error;
     const auto file = KORJsonFile::Read(path, error);
     if (!file) {
-        const bool broken = error.line > 0;
-        std::vector<std::string> details;
-        if (broken) details.push_back("column " + std::to_string(error.column));
-        findings_.Add({FindingKind::UNREADABLE,
-                       {path, error.line},
-                       broken ? "broken-json" : "unreadable",
-                       error.message,
-                       std::move(details)});
+        findings_.Add(UnreadableFile(path, error, "broken-json"));
         return std::nullopt;
     }
 

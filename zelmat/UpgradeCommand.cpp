@@ -6,6 +6,7 @@
 #include "zelmat/DiagnosticLines.h"
 #include "zelmat/HostPlatform.h"
 #include "zelmat/JsonReport.h"
+#include "zelmat/UnreadableFile.h"
 #include "zelmat/UpgradeReport.h"
 #include "zelmat/WholeFile.h"
 
@@ -16,14 +17,7 @@ namespace {
 bool ReadDocument(KORTextDocument& text, const std::string& path, Findings& findings) {
     KORJsonError error;
     if (text.Read(path, error)) return true;
-    const bool broken = error.line > 0;
-    std::vector<std::string> details;
-    if (error.column > 0) details.push_back("column " + std::to_string(error.column));
-    findings.Add({FindingKind::UNREADABLE,
-                  {path, error.line},
-                  broken ? "broken-document" : "unreadable",
-                  error.message,
-                  std::move(details)});
+    findings.Add(UnreadableFile(path, error, "broken-document"));
     return false;
 }
 

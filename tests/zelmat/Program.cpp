@@ -39,5 +39,5 @@ ProgramRun RunZelmat(const std::vector<std::string>& arguments) {
 }
 
 std::string Sample(const std::string& name) {
-    return std::string(ZELMAT_SAMPLES) + "/" + name;
+    return (std::filesystem::path(ZELMAT_SAMPLES) / name).string();
 }

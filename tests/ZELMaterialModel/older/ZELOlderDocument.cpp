@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <ostream>
@@ -34,7 +35,7 @@ std::vector<ZELTold> ZELToldOf(const KORUpgradeReport& report) {
 }
 
 std::string ZELOlderText(const std::string& name) {
-    std::ifstream file(std::string(ZEL_OLDER_DOCUMENTS) + "/" + name + ".json", std::ios::binary);
+    std::ifstream file(std::filesystem::path(ZEL_OLDER_DOCUMENTS) / (name + ".json"), std::ios::binary);
     EXPECT_TRUE(file) << name;
     return {std::istreambuf_iterator<char>(file), {}};
 }
