@@ -24,7 +24,7 @@ public:
 protected:
     void* OwnInterface(KORIID iid) override {
         void* found = nullptr;
-        ((iid == I::Iid() ? (found = static_cast<I*>(this), true) : false) || ...);
+        static_cast<void>(((iid == I::Iid() && (found = static_cast<I*>(this))) || ...));
         return found;
     }
 };

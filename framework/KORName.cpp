@@ -18,7 +18,7 @@ public:
         const std::size_t hash = Hash(text);
         std::size_t place = PlaceOf(text, hash);
         if (places_[place].name) return places_[place].name;
-        if (2 * (count_ + 1) > places_.size()) {
+        if (count_ >= places_.size() / 2) {
             Grow();
             place = PlaceOf(text, hash);
         }

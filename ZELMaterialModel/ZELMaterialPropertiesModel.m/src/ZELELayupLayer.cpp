@@ -70,7 +70,7 @@ HRESULT ZELELayupLayer::GetMaterialData(ZELIMaterial_var& data) {
     // The first look-up has the material built, and upgraded if it is old, which may put another feature in
     // its place; the second finds the one that is there then.
     const KORUnicodeString name = ZELMaterial::GetApplicativeSpecName();
-    ZELIMaterial_var(KORBaseUnknown_var::Adopt(holder->FindApplicative(name)));
+    static_cast<void>(ZELIMaterial_var(KORBaseUnknown_var::Adopt(holder->FindApplicative(name))));
     const auto applicative = KORBaseUnknown_var::Adopt(holder->FindApplicative(name));
     const ZELIMaterial_var found(applicative);
     if (!found) return E_FAIL;

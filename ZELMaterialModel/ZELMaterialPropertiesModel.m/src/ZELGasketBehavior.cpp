@@ -17,7 +17,7 @@ KORISpecAttrAccess_var ZELGasketBehavior::OpenMaterial() const {
         KORDiagnosticLine("No material SpecObject !");
         return nullptr;
     }
-    const auto access = KORISpecAttrAccess_var::Of(material_);
+    auto access = KORISpecAttrAccess_var::Of(material_);
     if (!access) KORDiagnosticLine("Accessing ZELMaterial failed !");
     return access;
 }
