@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELFeatureCopy.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELHyperelasticUnits.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModule.h"
@@ -14,7 +15,6 @@
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "framework/KORDictionary.h"
 #include "interfaces/KORIApplicativeContainers.h"
-#include "interfaces/KORICutAndPastable.h"
 #include "interfaces/KORILinkableObject.h"
 #include "interfaces/KORIMaterialFeature.h"
 #include "interfaces/TIEKORISamUpgrade.h"
@@ -38,10 +38,6 @@ const KORFillDictionary entry(ZELEMRVMaterialUpgrade::MetaObject(), KORISamUpgra
 KORISpecObject_var ComponentOf(KORISpecObject* feature, const KORUnicodeString& name) {
     const auto access = KORISpecAttrAccess_var::Of(feature);
     return access ? KORISpecObject_var::Adopt(access->GetSpecObject(name.c_str(), 0)) : KORISpecObject_var();
-}
-
-KORBaseUnknown_var ContainerOf(KORISpecObject* feature) {
-    return KORBaseUnknown_var::Adopt(feature->GetFeatContainer());
 }
 
 /// The document's old container; empty when it has none.
@@ -82,7 +78,7 @@ bool ZELEMRVMaterialUpgrade::IsUpgradeNeeded() {
 
     const KORILinkableObject_var linkable(material);
     if (!linkable) return false;
-    const KORBaseUnknown_var own = ContainerOf(material.Get());
+    const KORBaseUnknown_var own = ZELContainerOf(material);
     const KORBaseUnknown_var old = OldContainerOf(linkable->GetDocument());
     needs_.inOldApplicativeContainer = old && own == old;
     KORBaseUnknown_var testData;
@@ -115,7 +111,7 @@ HRESULT ZELEMRVMaterialUpgrade::Upgrade() {
     Work work;
     work.material = KORISpecObject_var::Of(this);
     if (!work.material) return E_FAIL;
-    work.container = KORIContainer_var(ContainerOf(work.material.Get()));
+    work.container = KORIContainer_var(ZELContainerOf(work.material));
     if (!work.container) return E_FAIL;
     HRESULT status = ZELOpenModuleCatalog(work.container.Get(), work.catalog);
     if (FAILED(status)) return status;
@@ -255,24 +251,20 @@ HRESULT ZELEMRVMaterialUpgrade::ConvertHyperelasticUnits(const Work& work) {
 HRESULT ZELEMRVMaterialUpgrade::LeaveOldContainer(const Work& work) {
     const KORILinkableObject_var linkable(work.material);
     const KORBaseUnknown_var old = linkable ? OldContainerOf(linkable->GetDocument()) : KORBaseUnknown_var();
-    const KORBaseUnknown_var own = ContainerOf(work.material.Get());
+    const KORBaseUnknown_var own = ZELContainerOf(work.material);
     if (!old || !(own == old)) return S_OK;
     const auto parent = KORISpecObject_var::Adopt(work.material->GetFather());
     const KORIMaterialFeature_var platformMaterial(parent);
     if (!platformMaterial) return E_FAIL;
-    const KORBaseUnknown_var target = ContainerOf(parent.Get());
+    const KORBaseUnknown_var target = ZELContainerOf(parent);
     if (target == own) return S_OK;
 
     const KORICutAndPastable_var source(own);
     const KORICutAndPastable_var destination(target);
     KORListValKORISpecObject_var wanted;
-    KORListValKORISpecObject_var extracted;
-    KORListValKORISpecObject_var copies;
     wanted.Append(work.material);
-    if (!source || !destination || FAILED(source->Extract(wanted, extracted)) ||
-        FAILED(destination->Paste(extracted, copies)) || copies.Size() == 0 || !copies[1]) {
-        return E_FAIL;
-    }
+    const KORListValKORISpecObject_var copies = ZELCopyInto(source, destination, wanted);
+    if (copies.Size() == 0 || !copies[1]) return E_FAIL;
     const KORISpecObject_var moved = copies[1];
     const HRESULT status = ZELCarryTestData(work.material.Get(), moved.Get());
     if (FAILED(status)) return status;

@@ -2,10 +2,10 @@
 
 #include <memory>
 
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELFeatureCopy.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/store/ZELKeyOnce.h"
 #include "ZELMaterialModel/include/ZELHyperelastic.h"
-#include "interfaces/KORICutAndPastable.h"
 
 namespace {
 
@@ -42,22 +42,11 @@ private:
     KORISpecAttrKey* key_ = nullptr;
 };
 
-KORBaseUnknown_var ContainerOf(const KORISpecObject_var& feature) {
-    return feature ? KORBaseUnknown_var::Adopt(feature->GetFeatContainer()) : KORBaseUnknown_var();
-}
-
 /// Copies of the features, in their order, in the container of `to`; none when they cannot be copied.
 KORListValKORISpecObject_var CopyBeside(KORISpecObject* to, const KORListValKORISpecObject_var& features) {
-    const KORICutAndPastable_var source(ContainerOf(features[1]));
-    const KORICutAndPastable_var target(ContainerOf(to));
-    KORListValKORISpecObject_var extracted;
-    KORListValKORISpecObject_var copies;
-    if (!source || !target || FAILED(source->Extract(features, extracted)) ||
-        FAILED(target->Paste(extracted, copies))) {
-        return {};
-    }
-    while (copies.Size() > features.Size()) copies.RemovePosition(copies.Size());  // what was taken along
-    return copies;
+    const KORICutAndPastable_var source(ZELContainerOf(features[1]));
+    const KORICutAndPastable_var target(ZELContainerOf(to));
+    return ZELCopyInto(source, target, features);
 }
 
 bool SameObject(KORISpecObject* a, KORISpecObject* b) {
@@ -71,7 +60,7 @@ HRESULT ZELFindTestDataContainer(KORISpecObject* material, KORBaseUnknown_var& c
     if (!list.IsThere()) return E_FAIL;
     const KORListValKORISpecObject_var entries = list.Entries();
     if (entries.Size() == 0) return E_FAIL;
-    container = ContainerOf(entries[1]);
+    container = ZELContainerOf(entries[1]);
     return container ? S_OK : E_FAIL;
 }
 
