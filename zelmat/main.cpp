@@ -3,10 +3,10 @@
 #include <filesystem>
 #include <iostream>
 
-#include "zelmat/LayupCommand.h"
-#include "zelmat/ShowCommand.h"
-#include "zelmat/SummaryCommand.h"
-#include "zelmat/UpgradeCommand.h"
+#include "zelmat/commands/LayupCommand.h"
+#include "zelmat/commands/ShowCommand.h"
+#include "zelmat/commands/SummaryCommand.h"
+#include "zelmat/commands/UpgradeCommand.h"
 
 namespace {
 

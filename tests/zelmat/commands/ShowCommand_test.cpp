@@ -1,0 +1,347 @@
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/zelmat/support/Program.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+TEST(ShowCommand, PrintsWhatTheDocumentHolds) {
+    const ProgramRun run = RunZelmat({"show", "two_tables.json"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out,
+              "Two tables\n"
+              "A small card with every shape of table that is shown.\n"
+              "source: made up for tests\n"
+              "\n"
+              "switched on: elastic, thermal_expansion\n"
+              "switched off: plastic, density, conductivity, specific_heat, user_material, hyperelastic, "
+              "gasket, gasket_membrane, gasket_transverse_shear\n"
+              "\n"
+              "Elastic, temperature dependent\n"
+              "  Young's modulus [Pa]  Poisson's ratio [-]  temperature [K]\n"
+              "               2.1e+11                  0.3           293.15\n"
+              "              1.89e+11                 0.31           473.15\n"
+              "  source: a handbook\n"
+              "\n"
+              "Thermal expansion, not temperature dependent\n"
+              "  reference temperature: 293.15 K\n"
+              "  thermal expansion [1/K]\n"
+              "                  1.2e-05\n");
+}
+
+TEST(ShowCommand, ShowsTheWarningOfACutElasticTable) {
+    const ProgramRun run = RunZelmat({"show", "cut_elastic.json"});
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err,
+              "cut_elastic.json:6: warning[table-cut]: elastic is not temperature dependent: only the first "
+              "row was "
+              "kept (3 rows given, 1 kept, make it temperature dependent or give one row)\n");
+    EXPECT_EQ(run.out,
+              "Cut elastic\n"
+              "\n"
+              "switched on: elastic\n"
+              "switched off: plastic, density, thermal_expansion, conductivity, specific_heat, "
+              "user_material, hyperelastic, gasket, gasket_membrane, gasket_transverse_shear\n"
+              "\n"
+              "Elastic, not temperature dependent\n"
+              "  Young's modulus [Pa]  Poisson's ratio [-]\n"
+              "               2.1e+11                  0.3\n");
+}
+
+TEST(ShowCommand, KeepsEveryRowOfTheOtherTables) {
+    const ProgramRun run = RunZelmat({"show", "long_conductivity.json"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out,
+              "Long conductivity\n"
+              "\n"
+              "switched on: conductivity\n"
+              "switched off: elastic, plastic, density, thermal_expansion, specific_heat, user_material, "
+              "hyperelastic, gasket, gasket_membrane, gasket_transverse_shear\n"
+              "\n"
+              "Conductivity, not temperature dependent\n"
+              "  conductivity [W/(m K)]\n"
+              "                      50\n"
+              "                      40\n"
+              "                      30\n");
+}
+
+TEST(ShowCommand, PrintsNothingOfACardWithAMistake) {
+    const ProgramRun run = RunZelmat({"show", "ragged.json"});
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err,
+              "ragged.json:8: error[ragged-row]: row 2 of density has 1 value (expected 2: density, "
+              "temperature)\n");
+}
+
+TEST(ShowCommand, EndsWithThreeWhenTheCardCannotBeRead) {
+    const ProgramRun broken = RunZelmat({"show", "broken.json"});
+    EXPECT_EQ(broken.exitCode, 3);
+    EXPECT_EQ(broken.out, "");
+    EXPECT_THAT(broken.err, StartsWith("broken.json:4: error[broken-json]: "));
+
+    const ProgramRun missing = RunZelmat({"show", "missing.json"});
+    EXPECT_EQ(missing.exitCode, 3);
+    EXPECT_EQ(missing.out, "");
+    EXPECT_EQ(missing.err, "missing.json: error[unreadable]: cannot be read: No such file or directory\n");
+}
+
+TEST(ShowCommand, PrintsOneJsonObjectForScripts) {
+    const ProgramRun run = RunZelmat({"show", "--json", "cut_elastic.json"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "");
+
+    const auto json = nlohmann::json::parse(run.out);
+    EXPECT_EQ(json["material"]["name"], "Cut elastic");
+    EXPECT_EQ(json["material"]["behaviors"][0]["name"], "elastic");
+    EXPECT_EQ(json["material"]["behaviors"][0]["tables"][0]["rows"], nlohmann::json::parse("[[210e9, 0.3]]"));
+    EXPECT_EQ(json["findings"][0]["code"], "table-cut");
+    EXPECT_EQ(json["findings"][0]["line"], 6);
+}
+
+TEST(ShowCommand, PutsTheMistakesOfARefusedCardIntoTheJson) {
+    const ProgramRun run = RunZelmat({"show", "--json", "ragged.json"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, "");
+
+    const auto json = nlohmann::json::parse(run.out);
+    EXPECT_TRUE(json["material"].is_null());
+    EXPECT_EQ(json["findings"][0]["code"], "ragged-row");
+    EXPECT_EQ(json["findings"][0]["line"], 8);
+}
+
+TEST(ShowCommand, TracesEveryInterfaceCallOnStandardError) {
+    const ProgramRun traced = RunZelmat({"show", "--trace", "two_tables.json"});
+    EXPECT_EQ(traced.exitCode, 0);
+    EXPECT_THAT(traced.err, HasSubstr("trace: ZELIMaterial.GetElasticProperties on ZELMaterial\n"));
+    EXPECT_THAT(traced.err, HasSubstr("trace: ZELIMaterial.GetThermalExpansionProperties on ZELMaterial\n"));
+    EXPECT_EQ(traced.out, RunZelmat({"show", "two_tables.json"}).out);
+    EXPECT_THAT(RunZelmat({"show", "two_tables.json"}).err, Not(HasSubstr("trace:")));
+}
+
+TEST(Program, EndsWithTwoForAWrongCommandLine) {
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+             {}, {"show"}, {"shwo", "two_tables.json"}, {"show", "two_tables.json", "--loud"}}) {
+        const ProgramRun run = RunZelmat(arguments);
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, Not(testing::IsEmpty()));
+    }
+}
+
+TEST(Program, ExplainsItselfWhenAsked) {
+    const ProgramRun run = RunZelmat({"--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.out, HasSubstr("show"));
+    EXPECT_THAT(
+        run.out,
+        HasSubstr("Exit codes: 0 clean, 1 findings, 2 wrong command line, 3 could not read or write."));
+    EXPECT_EQ(run.err, "");
+
+    const ProgramRun show = RunZelmat({"show", "--help"});
+    EXPECT_EQ(show.exitCode, 0);
+    EXPECT_THAT(show.out, HasSubstr("--json"));
+    EXPECT_THAT(show.out, HasSubstr("--trace"));
+}
+
+/// The cards in samples/, and a line of what each shows.
+struct SampleCard {
+    const char* file;
+    const char* note;
+
+    friend std::ostream& operator<<(std::ostream& out, const SampleCard& card) { return out << card.file; }
+};
+
+class Samples : public testing::TestWithParam<SampleCard> {};
+
+TEST_P(Samples, AreShownWithoutFindings) {
+    const ProgramRun run = RunZelmat({"show", Sample(GetParam().file)});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_THAT(run.out, HasSubstr(GetParam().note));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Samples,
+    testing::Values(
+        SampleCard{"aluminium_2024_t351.json", "\nswitched on: elastic, plastic, density, specific_heat\n"},
+        SampleCard{
+            "aluminium_6061_t6.json",
+            "\nswitched on: elastic, plastic, density, thermal_expansion, conductivity, specific_heat\n"},
+        SampleCard{"cfrp_t300_5208_quasi_isotropic.json", "\nswitched on: elastic, density\n"},
+        SampleCard{"concrete_c30_37.json",
+                   "\nswitched on: elastic, density, thermal_expansion, conductivity, specific_heat\n"},
+        SampleCard{"copper_ofhc.json",
+                   "\nswitched on: elastic, plastic, density, conductivity, specific_heat\n"},
+        SampleCard{"foam_rohacell71.json", "\nswitched on: elastic, density\n"},
+        SampleCard{"gasket_fibre_illustrative.json", "\nswitched on: density, gasket\n"},
+        SampleCard{"natural_rubber_treloar.json",
+                   "\nswitched on: density, thermal_expansion, conductivity, specific_heat, hyperelastic\n"},
+        SampleCard{"silicone_rtv141.json", "\nswitched on: hyperelastic\n"},
+        SampleCard{
+            "stainless_304.json",
+            "\nswitched on: elastic, plastic, density, thermal_expansion, conductivity, specific_heat\n"},
+        SampleCard{"steel_4340.json",
+                   "\nswitched on: elastic, plastic, density, conductivity, specific_heat\n"},
+        SampleCard{"steel_s235_kinematic.json",
+                   "\nswitched on: elastic, plastic, density, thermal_expansion\n"},
+        SampleCard{
+            "steel_s355.json",
+            "\nswitched on: elastic, plastic, density, thermal_expansion, conductivity, specific_heat\n"},
+        SampleCard{
+            "titanium_ti6al4v.json",
+            "\nswitched on: elastic, plastic, density, thermal_expansion, conductivity, specific_heat\n"},
+        SampleCard{"user_routine_illustrative.json", "\nswitched on: density, user_material\n"}),
+    [](const testing::TestParamInfo<SampleCard>& sample) {
+        const std::string file = sample.param.file;
+        return file.substr(0, file.find('.'));
+    });
+
+TEST(SteelS355, IsShownWithItsTemperatureTables) {
+    const ProgramRun run = RunZelmat({"show", Sample("steel_s355.json")});
+
+    EXPECT_THAT(run.out, StartsWith("Structural steel S355\n"));
+    EXPECT_THAT(run.out, HasSubstr("\nElastic, temperature dependent\n"
+                                   "  Young's modulus [Pa]  Poisson's ratio [-]  temperature [K]\n"
+                                   "               2.1e+11                  0.3           293.15\n"));
+    EXPECT_THAT(run.out, HasSubstr("             4.725e+09                  0.3          1373.15\n"));
+    EXPECT_THAT(run.out, HasSubstr("\nDensity, not temperature dependent\n"
+                                   "  density [kg/m3]\n"
+                                   "             7850\n"));
+    EXPECT_THAT(run.out, HasSubstr("\nThermal expansion, temperature dependent\n"
+                                   "  reference temperature: 293.15 K\n"
+                                   "  thermal expansion [1/K]  temperature [K]\n"
+                                   "                1.248e-05           373.15\n"));
+    EXPECT_THAT(run.out, HasSubstr("\nSpecific heat, temperature dependent\n"));
+    EXPECT_THAT(run.out, HasSubstr("                      5000          1008.15\n"));
+}
+
+/// The cells of the table that follows a caption, row by row; blanks between them.
+std::string TableAfter(const std::string& out, const std::string& caption, std::size_t lines) {
+    std::size_t at = out.find("\n" + caption + "\n");
+    if (at == std::string::npos) return "no " + caption;
+    at += caption.size() + 2;
+    std::size_t end = at;
+    for (std::size_t line = 0; line < lines; ++line) end = out.find('\n', end) + 1;
+    return out.substr(at, end - at);
+}
+
+TEST(SteelS355, IsShownWithItsHardeningCurves) {
+    const ProgramRun run = RunZelmat({"show", Sample("steel_s355.json")});
+
+    EXPECT_EQ(TableAfter(run.out, "Plastic, temperature dependent", 4),
+              "  hardening: isotropic\n"
+              "  yield stress [Pa]  plastic strain [-]  temperature [K]\n"
+              "           3.55e+08                   0           293.15\n"
+              "           3.55e+08             0.14831           293.15\n");
+}
+
+TEST(JohnsonCookMetals, AreShownWithTheirParameters) {
+    EXPECT_EQ(TableAfter(RunZelmat({"show", Sample("copper_ofhc.json")}).out,
+                         "Plastic, not temperature dependent", 3),
+              "  hardening: johnson-cook\n"
+              "  A [Pa]    B [Pa]  n [-]  m [-]  melting temperature [K]  transition temperature [K]\n"
+              "   9e+07  2.92e+08   0.31   1.09                     1356                         298\n");
+    EXPECT_EQ(TableAfter(RunZelmat({"show", Sample("steel_4340.json")}).out,
+                         "Plastic, not temperature dependent", 3),
+              "  hardening: johnson-cook\n"
+              "    A [Pa]   B [Pa]  n [-]  m [-]  melting temperature [K]  transition temperature [K]\n"
+              "  7.92e+08  5.1e+08   0.26   1.03                     1793                         298\n");
+}
+
+TEST(NaturalRubber, IsStoredWithItsFirstFitAndSaysSo) {
+    const ProgramRun run = RunZelmat({"show", Sample("natural_rubber_treloar.json")});
+
+    EXPECT_EQ(TableAfter(run.out, "Hyperelastic, not temperature dependent", 4),
+              "  model: OGDEN\n"
+              "  order: 3\n"
+              "  mu_1 [Pa]  alpha_1 [-]  mu_2 [Pa]  alpha_2 [-]  mu_3 [Pa]  alpha_3 [-]  D1 [1/Pa]  D2 "
+              "[1/Pa]  D3 [1/Pa]\n"
+              "     630000          1.3       1200            5     -10000           -2          0         "
+              " 0          0\n");
+    EXPECT_THAT(run.out, HasSubstr("\nhyperelastic fits on the card: 10, stored: OGDEN\n"));
+    EXPECT_THAT(run.out, HasSubstr("test_data (uniaxial 24 rows, equibiaxial 16 rows, planar 13 rows)\n"));
+}
+
+TEST(NaturalRubber, IsStoredWithTheFitThatIsAskedFor) {
+    const ProgramRun run = RunZelmat(
+        {"show", Sample("natural_rubber_treloar.json"), "--model", "MOONEY_RIVLIN", "--variant", "planar"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(TableAfter(run.out, "Hyperelastic, not temperature dependent", 4),
+              "  model: MOONEY_RIVLIN\n"
+              "  order: 1\n"
+              "  C10 [Pa]  C01 [Pa]  D1 [1/Pa]\n"
+              "    234800    -65000          0\n");
+}
+
+TEST(NaturalRubber, IsRefusedWithAModelThatTheCardDoesNotHave) {
+    const ProgramRun run = RunZelmat({"show", Sample("natural_rubber_treloar.json"), "--model", "NEO_HOOK"});
+
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.err, HasSubstr("natural_rubber_treloar.json:89: error[no-such-model]: "));
+}
+
+TEST(NaturalRubber, ShowsEachOfItsFitsInTurn) {
+    const ProgramRun run =
+        RunZelmat({"show", Sample("natural_rubber_treloar.json"), "--all-models", "--json"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    const auto json = nlohmann::json::parse(run.out);
+    std::vector<std::string> models;
+    for (const auto& behavior : json["material"]["behaviors"]) {
+        if (behavior["name"] == "hyperelastic") models.push_back(behavior["values"]["model"]["value"]);
+    }
+    EXPECT_THAT(models, testing::ElementsAre("OGDEN", "NEO_HOOKE", "MOONEY_RIVLIN", "MOONEY_RIVLIN",
+                                             "MOONEY_RIVLIN", "ARRUDA_BOYCE", "YEOH", "REDUCED_POLYNOMIAL",
+                                             "POLYNOMIAL", "VAN_DER_WAALS"));
+    EXPECT_THAT(
+        RunZelmat({"show", Sample("natural_rubber_treloar.json"), "--all-models"}).out,
+        HasSubstr("\nhyperelastic fits on the card: 10, each stored and read back in turn; a material "
+                  "holds one\n"));
+}
+
+TEST(NaturalRubber, TakesNoChoiceTogetherWithAllModels) {
+    EXPECT_EQ(RunZelmat({"show", Sample("natural_rubber_treloar.json"), "--all-models", "--model", "OGDEN"})
+                  .exitCode,
+              2);
+}
+
+TEST(ShowCommand, ShowsATableThatBreaksARuleButWasStored) {
+    const ProgramRun run = RunZelmat({"show", "first_strain.json"});
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err,
+              "first_strain.json:8: warning[first-plastic-strain]: row 1 of plastic: plastic strain is 0.002 "
+              "(has to be 0, the table was stored all the same)\n");
+    EXPECT_EQ(TableAfter(run.out, "Plastic, not temperature dependent", 3),
+              "  hardening: isotropic\n"
+              "  yield stress [Pa]  plastic strain [-]  temperature [K]\n"
+              "           2.35e+08               0.002           293.15\n");
+}
+
+TEST(ShowCommand, PrintsNothingWhenATableWasNotStored) {
+    const ProgramRun run = RunZelmat({"show", "shear_stiffness.json"});
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err,
+              "shear_stiffness.json:8: error[shear-stiffness]: row 2 of gasket_transverse_shear: shear "
+              "stiffness is -4e+11 Pa/m (has to be above 0, nothing of the table was stored)\n");
+}
+
+}  // namespace

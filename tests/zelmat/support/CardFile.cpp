@@ -1,0 +1,60 @@
+#include "tests/zelmat/support/CardFile.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+
+#include "tests/zelmat/support/CatalogFolder.h"
+
+CardFile::CardFile(const std::string& text)
+    : folder_(testing::TempDir() + "zelmat-card-" + std::to_string(getpid())), path_(folder_ + "/card.json") {
+    std::filesystem::create_directories(folder_);
+    std::ofstream(path_) << text;
+}
+
+CardFile::~CardFile() {
+    std::filesystem::remove_all(folder_);
+}
+
+std::string CardFile::Shorten(std::string line) const {
+    if (line.starts_with(folder_)) line.erase(0, folder_.size() + 1);
+    return line;
+}
+
+std::vector<std::string> FindingsOf(const std::string& text) {
+    const CardFile file(text);
+    zelmat::Findings findings;
+    const auto card = zelmat::MaterialCardReader(findings).Read(file.Path());
+    EXPECT_EQ(card.has_value(), findings.All().empty());
+    std::vector<std::string> lines;
+    for (const auto& finding : findings.All()) lines.push_back(file.Shorten(zelmat::FindingLine(finding)));
+    return lines;
+}
+
+zelmat::MaterialCard CardOf(const std::string& text) {
+    const CardFile file(text);
+    zelmat::Findings findings;
+    const auto card = zelmat::MaterialCardReader(findings).Read(file.Path());
+    for (const auto& finding : findings.All()) ADD_FAILURE() << zelmat::FindingLine(finding);
+    return card.value_or(zelmat::MaterialCard());
+}
+
+StoredCard::StoredCard(const std::string& text) : card(CardOf(text)) {
+    card.file = "card.json";
+    zelmat::Findings found;
+    zelmat::MaterialHost host(CatalogFolderOfTheModule());
+    std::vector<const zelmat::CardData*> fits;
+    if (!card.fits.empty()) fits.push_back(&card.fits.front());
+    material = zelmat::StoreMaterial(host, card, fits, found);
+    for (const auto& finding : found.All()) findings.push_back(zelmat::FindingLine(finding));
+}
+
+const zelmat::StoredBlock& StoredCard::Block(const std::string& name) const {
+    for (const auto& block : material.blocks) {
+        if (block.block->name == name) return block;
+    }
+    throw std::out_of_range(name + " was not stored");
+}

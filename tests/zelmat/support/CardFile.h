@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "zelmat/cards/MaterialCardReader.h"
+#include "zelmat/materials/StoredMaterial.h"
+
+/// A card written to a file of its own for as long as a test needs it.
+class CardFile {
+public:
+    explicit CardFile(const std::string& text);
+    ~CardFile();
+    CardFile(const CardFile&) = delete;
+    CardFile& operator=(const CardFile&) = delete;
+
+    const std::string& Path() const { return path_; }
+
+    /// A finding's line with "card.json" for the file's path.
+    std::string Shorten(std::string line) const;
+
+private:
+    std::string folder_;
+    std::string path_;
+};
+
+/// What reading the card finds, one line each.
+std::vector<std::string> FindingsOf(const std::string& text);
+
+/// What storing and reading back a card in a document of its own finds and gives, with the card's first fit.
+struct StoredCard {
+    explicit StoredCard(const std::string& text);
+
+    const zelmat::StoredBlock& Block(const std::string& name) const;
+
+    zelmat::MaterialCard card;
+    std::vector<std::string> findings;  ///< one line each, of the file card.json
+    zelmat::StoredMaterial material;
+};
+
+/// What reading a card without mistakes gives.
+zelmat::MaterialCard CardOf(const std::string& text);

@@ -1,0 +1,43 @@
+#include "zelmat/cards/FitChoice.h"
+
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+bool Matches(const CardData& fit, const FitChoice& choice) {
+    if (!choice.model.empty() && *fit.values.Get<std::string>("model") != choice.model) return false;
+    const std::string variant = fit.values.Get<std::string>("variant").value_or("");
+    return variant.find(choice.variant) != std::string::npos;
+}
+
+std::string Wanted(const FitChoice& choice) {
+    if (choice.variant.empty()) return choice.model;
+    const std::string variant = "variant " + Quoted(choice.variant);
+    return choice.model.empty() ? variant : choice.model + " of " + variant;
+}
+
+}  // namespace
+
+const CardData* ChooseFit(const MaterialCard& card, const FitChoice& choice, Findings& findings) {
+    for (const CardData& fit : card.fits) {
+        if (Matches(fit, choice)) return &fit;
+    }
+    if (!choice.IsMade()) return nullptr;
+    const int line = card.fits.empty() ? 0 : card.fits.front().line;
+    findings.Add({FindingKind::USAGE,
+                  {card.file, line},
+                  "no-such-model",
+                  card.name + " has no hyperelastic fit " + Wanted(choice),
+                  {card.fits.empty() ? "the card has none" : "has: " + WordList(card.fits, FitName)}});
+    return nullptr;
+}
+
+std::string FitName(const CardData& fit) {
+    const auto variant = fit.values.Get<std::string>("variant");
+    const std::string model = *fit.values.Get<std::string>("model");
+    return variant ? model + " (" + *variant + ")" : model;
+}
+
+}  // namespace zelmat

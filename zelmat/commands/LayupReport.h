@@ -1,0 +1,22 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "zelmat/findings/Findings.h"
+#include "zelmat/layups/LayupCard.h"
+#include "zelmat/layups/StoredLayup.h"
+
+namespace zelmat {
+
+/// What a layup that cannot be used lacks, as findings: which layer, and what. None for a valid one.
+void ReportValidity(const LayupCard& card, const StoredLayup& stored, Findings& findings);
+
+/// The layup as an analyst reads it: its layers from the bottom up with the z of their faces, whether it is
+/// valid and used, and the constants of its materials. Lengths in mm.
+void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& stored);
+
+/// The same for programs. Numbers are SI, each with its unit beside it.
+nlohmann::ordered_json ToJson(const LayupCard& card, const StoredLayup& stored);
+
+}  // namespace zelmat

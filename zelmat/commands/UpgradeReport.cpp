@@ -1,0 +1,125 @@
+#include "zelmat/commands/UpgradeReport.h"
+
+#include <algorithm>
+
+#include "ZELMaterialModel/include/ZELMaterial.h"
+#include "zelmat/materials/StatusText.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+constexpr const char* kMaterialType = "ZELMaterialLT";
+
+/// A feature as the report names it: late type and number.
+std::string FeatureText(const UpgradeReport& report, std::uint32_t number) {
+    const auto type = report.lateTypes.find(number);
+    return (type == report.lateTypes.end() ? "feature" : type->second) + " " + std::to_string(number);
+}
+
+/// "Container" is where a feature lies: one that was not there before has just been made.
+std::string ChangeText(const UpgradeReport& report, const KORUpgradeChange& change) {
+    if (std::string_view(change.attribute) != "Container") return change.attribute;
+    return change.feature > report.lastBefore ? "created" : "moved or removed";
+}
+
+/// The changes of one feature each, in the order in which the features were first changed.
+struct FeatureChanges {
+    std::uint32_t feature;
+    std::string lateType;
+    std::vector<std::string> what;
+};
+
+std::vector<FeatureChanges> ByFeature(const UpgradeReport& report, const KORUpgradedFeature& material) {
+    std::vector<FeatureChanges> features;
+    std::unordered_map<std::uint32_t, std::size_t> places;
+    for (const KORUpgradeChange& change : material.changes) {
+        const auto [place, added] = places.emplace(change.feature, features.size());
+        if (added) features.push_back({change.feature, change.lateType.c_str(), {}});
+        auto& what = features[place->second].what;
+        std::string text = ChangeText(report, change);
+        if (std::find(what.begin(), what.end(), text) == what.end()) what.push_back(std::move(text));
+    }
+    return features;
+}
+
+void PrintMaterial(std::ostream& out, const UpgradeReport& report, const KORUpgradedFeature& material) {
+    out << '\n' << material.name.c_str() << '\n';
+    for (const FeatureChanges& changed : ByFeature(report, material)) {
+        out << "  " << changed.lateType << ' ' << changed.feature << ": " << WordList(changed.what) << '\n';
+    }
+    out << "  upgrade: " << (SUCCEEDED(material.status) ? "done" : "failed, " + StatusText(material.status))
+        << '\n'
+        << "  still needed: " << (material.stillNeeded ? "yes" : "no") << '\n';
+    if (material.replacement != 0) {
+        out << "  replaced by: " << FeatureText(report, material.replacement) << '\n';
+    }
+    if (!material.unlisted.empty()) {
+        out << "  in the document, but no longer listed anywhere: "
+            << WordList(material.unlisted, [&](std::uint32_t number) { return FeatureText(report, number); })
+            << '\n';
+    }
+}
+
+}  // namespace
+
+UpgradeReport UpgradeMaterials(KORMemoryDocument& document) {
+    UpgradeReport report;
+    document.ForEachFeature(nullptr, [&](const KORFeature& feature) {
+        report.lastBefore = std::max(report.lastBefore, feature.Number());
+    });
+    report.run = KORRunUpgrade(document, kMaterialType, ZELMaterial::GetApplicativeSpecName());
+    document.ForEachFeature(nullptr, [&](const KORFeature& feature) {
+        report.lateTypes.emplace(feature.Number(), feature.Layout().NameText().c_str());
+    });
+    return report;
+}
+
+void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings) {
+    for (const KORUpgradedFeature& material : report.run.upgraded) {
+        const std::string name = material.name.c_str();
+        if (FAILED(material.status)) {
+            findings.Add({FindingKind::ERROR,
+                          {file, 0},
+                          "upgrade-failed",
+                          "the upgrade of " + name + " failed",
+                          {StatusText(material.status), "what it did before stays done"}});
+        }
+        if (material.stillNeeded) {
+            findings.Add({FindingKind::WARNING,
+                          {file, 0},
+                          "upgrade-needed",
+                          name + " still needs an upgrade",
+                          {"run it again once the cause is away"}});
+        }
+    }
+}
+
+void PrintUpgrade(std::ostream& out, const UpgradeReport& report) {
+    out << "materials: " << report.run.asked << ", upgraded: " << report.run.upgraded.size() << '\n';
+    for (const KORUpgradedFeature& material : report.run.upgraded) PrintMaterial(out, report, material);
+}
+
+nlohmann::ordered_json ToJson(const UpgradeReport& report) {
+    using nlohmann::ordered_json;
+    ordered_json json = {{"materials", report.run.asked}, {"upgraded", ordered_json::array()}};
+    for (const KORUpgradedFeature& material : report.run.upgraded) {
+        ordered_json told = {{"name", material.name.c_str()},
+                             {"feature", material.feature},
+                             {"replacement", nullptr},
+                             {"status", material.status},
+                             {"still_needed", material.stillNeeded},
+                             {"changes", ordered_json::array()},
+                             {"no_longer_listed", material.unlisted}};
+        if (material.replacement != 0) told["replacement"] = material.replacement;
+        for (const FeatureChanges& changed : ByFeature(report, material)) {
+            told["changes"].push_back(
+                {{"feature", changed.feature}, {"late_type", changed.lateType}, {"what", changed.what}});
+        }
+        json["upgraded"].push_back(std::move(told));
+    }
+    return json;
+}
+
+}  // namespace zelmat

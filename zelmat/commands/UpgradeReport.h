@@ -1,0 +1,30 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+#include <unordered_map>
+
+#include "platform/document/KORUpgradeRun.h"
+#include "zelmat/findings/Findings.h"
+
+namespace zelmat {
+
+/// What an upgrade run did to a document, ready to be told.
+struct UpgradeReport {
+    KORUpgradeReport run;
+    std::uint32_t lastBefore = 0;  ///< the highest feature number there was before the run
+    /// Late types by feature number, of the features that lie in the document after the run.
+    std::unordered_map<std::uint32_t, std::string> lateTypes = {};
+};
+
+/// Runs the upgrade of the document's materials.
+UpgradeReport UpgradeMaterials(KORMemoryDocument& document);
+
+/// A finding for each material whose upgrade failed or that needs one still.
+void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings);
+
+void PrintUpgrade(std::ostream& out, const UpgradeReport& report);
+nlohmann::ordered_json ToJson(const UpgradeReport& report);
+
+}  // namespace zelmat

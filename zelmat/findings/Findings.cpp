@@ -1,0 +1,51 @@
+#include "zelmat/findings/Findings.h"
+
+#include <algorithm>
+
+namespace zelmat {
+
+namespace {
+
+bool Holds(const std::vector<Finding>& findings, FindingKind kind) {
+    return std::any_of(findings.begin(), findings.end(),
+                       [kind](const Finding& finding) { return finding.kind == kind; });
+}
+
+}  // namespace
+
+const char* KindWord(FindingKind kind) {
+    return kind == FindingKind::WARNING ? "warning" : "error";
+}
+
+std::string FindingLine(const Finding& finding) {
+    std::string line = finding.place.file;
+    if (finding.place.line > 0) line += ":" + std::to_string(finding.place.line);
+    line += std::string(": ") + KindWord(finding.kind) + "[" + finding.code + "]: " + finding.text;
+    const char* separator = " (";
+    for (const std::string& detail : finding.details) {
+        line += separator + detail;
+        separator = ", ";
+    }
+    if (!finding.details.empty()) line += ")";
+    return line;
+}
+
+std::vector<Finding> Findings::ByLine() const {
+    std::vector<Finding> sorted = all_;
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const Finding& a, const Finding& b) { return a.place.line < b.place.line; });
+    return sorted;
+}
+
+bool Findings::HasErrors() const {
+    return std::any_of(all_.begin(), all_.end(),
+                       [](const Finding& finding) { return finding.kind != FindingKind::WARNING; });
+}
+
+ExitCode Findings::Exit() const {
+    if (Holds(all_, FindingKind::UNREADABLE)) return EXIT_UNREADABLE;
+    if (Holds(all_, FindingKind::USAGE)) return EXIT_USAGE;
+    return all_.empty() ? EXIT_CLEAN : EXIT_FINDINGS;
+}
+
+}  // namespace zelmat

@@ -1,0 +1,152 @@
+#include "zelmat/layups/LayupCardReader.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "zelmat/files/UnreadableFile.h"
+#include "zelmat/text/NumberText.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+constexpr std::array<std::pair<const char*, const char*>, 7> kUnits = {{
+    {"length", "m"},
+    {"angle", "deg"},
+    {"stress", "Pa"},
+    {"density", "kg/m3"},
+    {"A", "N/m"},
+    {"B", "N"},
+    {"D", "N m"},
+}};
+
+// "published" and "computed" hold stiffness matrices and moduli, for those who check an analysis against
+// them.
+const std::vector<std::string> kKeys = {"name",       "description",   "source", "units",
+                                        "convention", "ply_materials", "layers", "total_thickness",
+                                        "published",  "computed"};
+
+}  // namespace
+
+std::optional<LayupCard> LayupCardReader::Read(const std::string& path) {
+    KORJsonError error;
+    const auto file = KORJsonFile::Read(path, error);
+    if (!file) {
+        findings_.Add(UnreadableFile(path, error, "broken-json"));
+        return std::nullopt;
+    }
+
+    Findings mistakes;
+    LayupCard card;
+    card.file = path;
+    const JsonNode root(*file, mistakes);
+    if (root.ExpectObject()) ReadCard(root, card);
+    for (const Finding& mistake : mistakes.ByLine()) findings_.Add(mistake);
+    if (mistakes.HasErrors()) return std::nullopt;
+    return card;
+}
+
+void LayupCardReader::ReadCard(const JsonNode& root, LayupCard& card) const {
+    root.ExpectKeys(kKeys);
+    if (const auto name = root.Required("name")) card.name = name->Text().value_or("");
+    if (root.Has("description")) card.description = root.At("description").Text().value_or("");
+    if (root.Has("source")) {
+        card.sources = root.At("source").OneOrMoreTexts().value_or(std::vector<std::string>());
+    }
+    if (root.Has("units")) ReadUnits(root.At("units"));
+    if (root.Has("ply_materials")) ReadMaterials(root.At("ply_materials"), card);
+    if (const auto layers = root.Required("layers")) ReadLayers(*layers, card);
+    if (root.Has("total_thickness")) CheckTotal(root.At("total_thickness"), card);
+}
+
+void LayupCardReader::ReadUnits(const JsonNode& units) const {
+    if (!units.ExpectObject()) return;
+    for (const std::string& quantity : units.Keys()) {
+        const JsonNode node = units.At(quantity);
+        const auto known = std::find_if(kUnits.begin(), kUnits.end(),
+                                        [&](const auto& unit) { return unit.first == quantity; });
+        if (known == kUnits.end()) {
+            node.Report("unknown-unit", "there is no quantity " + Quoted(quantity),
+                        {"known: " + WordList(kUnits, [](const auto& unit) { return unit.first; })});
+            continue;
+        }
+        const auto given = node.Text();
+        if (given && *given != known->second) {
+            node.Report("wrong-unit", quantity + " is given in " + Quoted(*given),
+                        {std::string("expected ") + known->second, "convert the values"});
+        }
+    }
+}
+
+void LayupCardReader::ReadMaterials(const JsonNode& materials, LayupCard& card) const {
+    if (!materials.ExpectObject()) return;
+    for (const std::string& name : materials.Keys()) {
+        PlyMaterial& material = card.materials.emplace_back(PlyMaterial{name, {}, {}});
+        const JsonNode node = materials.At(name);
+        if (!node.ExpectObject()) continue;
+        std::vector<std::string> known = PlyConstants();
+        for (const std::string& constant : known) {
+            if (!node.Has(constant)) continue;
+            if (const auto value = node.At(constant).Number()) {
+                material.constants.emplace_back(constant, *value);
+            }
+        }
+        if (node.Has("source")) material.source = node.At("source").Text().value_or("");
+        known.emplace_back("source");
+        node.ExpectKeys(known);
+    }
+}
+
+void LayupCardReader::ReadLayers(const JsonNode& layers, LayupCard& card) const {
+    card.layersLine = layers.Line();
+    if (!layers.ExpectList()) return;
+    for (std::size_t i = 0; i < layers.Size(); ++i) {
+        if (auto layer = ReadLayer(layers.At(i), card)) card.layers.push_back(std::move(*layer));
+    }
+}
+
+std::optional<CardLayer> LayupCardReader::ReadLayer(const JsonNode& node, const LayupCard& card) const {
+    if (!node.ExpectObject()) return std::nullopt;
+    CardLayer layer{.line = node.Line(), .material = std::nullopt};
+    node.ExpectKeys({"material", "thickness", "angle_deg"});
+    if (node.Has("material")) {
+        layer.material = node.At("material").Text();
+        const bool known = std::any_of(card.materials.begin(), card.materials.end(),
+                                       [&](const auto& material) { return material.name == layer.material; });
+        if (layer.material && !known) {
+            node.At("material")
+                .Report("unknown-material", "there is no ply material " + Quoted(*layer.material),
+                        {"known: " +
+                         WordList(card.materials, [](const auto& material) { return material.name; })});
+        }
+    }
+    const auto thickness = node.Required("thickness");
+    if (const auto value = thickness ? thickness->Number() : std::nullopt) {
+        layer.thickness = *value;
+        if (!(*value > 0.0)) {
+            thickness->Report("out-of-range", thickness->Path() + " is " + WithUnit(*value, "m"),
+                              {"expected more than 0 m"});
+        }
+    }
+    const auto angle = node.Required("angle_deg");
+    if (const auto value = angle ? angle->Number() : std::nullopt) layer.angle = *value;
+    return layer;
+}
+
+void LayupCardReader::CheckTotal(const JsonNode& total, const LayupCard& card) const {
+    constexpr double kAgreement = 1e-9;  // relative
+    const auto given = total.Number();
+    double sum = 0.0;
+    for (const CardLayer& layer : card.layers) {
+        if (!(layer.thickness > 0.0)) return;  // reported already
+        sum += layer.thickness;
+    }
+    if (given && !(std::abs(*given - sum) <= kAgreement * sum)) {
+        total.Report("wrong-total", "total_thickness is " + WithUnit(*given, "m"),
+                     {"the layers add up to " + WithUnit(sum, "m")});
+    }
+}
+
+}  // namespace zelmat

@@ -1,0 +1,113 @@
+#include "zelmat/materials/HyperelasticForms.h"
+
+#include <array>
+
+namespace zelmat {
+
+namespace {
+
+using Columns = std::vector<CardColumn>;
+
+CardColumn Modulus(const std::string& name) {
+    return {name, name, "Pa"};
+}
+
+CardColumn Number(const std::string& name) {
+    return {name, name, "-"};
+}
+
+CardColumn Compressibility(const std::string& name) {
+    return {name, name, "1/Pa", 0.0};
+}
+
+void AddCompressibilities(Columns& columns, int count) {
+    for (int i = 1; i <= count; ++i) columns.push_back(Compressibility("D" + std::to_string(i)));
+}
+
+Columns ArrudaBoyce(int) {
+    return {Modulus("mu"), Number("lambda_m"), Compressibility("D")};
+}
+
+Columns MooneyRivlin(int) {
+    return {Modulus("C10"), Modulus("C01"), Compressibility("D1")};
+}
+
+Columns NeoHooke(int) {
+    return {Modulus("C10"), Compressibility("D1")};
+}
+
+Columns Ogden(int order) {
+    Columns columns;
+    for (int i = 1; i <= order; ++i) {
+        columns.push_back(Modulus("mu_" + std::to_string(i)));
+        columns.push_back(Number("alpha_" + std::to_string(i)));
+    }
+    AddCompressibilities(columns, order);
+    return columns;
+}
+
+/// C10, C01, C20, C11, C02, C30, ...: by the power of both invariants together, then by that of the second.
+Columns Polynomial(int order) {
+    Columns columns;
+    for (int power = 1; power <= order; ++power) {
+        for (int second = 0; second <= power; ++second) {
+            columns.push_back(Modulus("C" + std::to_string(power - second) + std::to_string(second)));
+        }
+    }
+    AddCompressibilities(columns, order);
+    return columns;
+}
+
+Columns ReducedPolynomial(int order) {
+    Columns columns;
+    for (int i = 1; i <= order; ++i) columns.push_back(Modulus("C" + std::to_string(i) + "0"));
+    AddCompressibilities(columns, order);
+    return columns;
+}
+
+Columns VanDerWaals(int) {
+    return {Modulus("mu"), Number("lambda_m"), Number("a"), Number("beta"), Compressibility("D")};
+}
+
+/// The reduced polynomial of order 3 under a name of its own.
+Columns Yeoh(int) {
+    return ReducedPolynomial(3);
+}
+
+struct Potential {
+    const char* model;
+    Columns (*columns)(int order);
+};
+
+constexpr std::array<Potential, 8> kPotentials = {{
+    {"ARRUDA_BOYCE", ArrudaBoyce},
+    {"MOONEY_RIVLIN", MooneyRivlin},
+    {"NEO_HOOKE", NeoHooke},
+    {"OGDEN", Ogden},
+    {"POLYNOMIAL", Polynomial},
+    {"REDUCED_POLYNOMIAL", ReducedPolynomial},
+    {"VAN_DER_WAALS", VanDerWaals},
+    {"YEOH", Yeoh},
+}};
+
+}  // namespace
+
+const std::vector<std::string>& HyperelasticModels() {
+    static const std::vector<std::string> models = [] {
+        std::vector<std::string> names;
+        for (const Potential& potential : kPotentials) names.push_back(potential.model);
+        return names;
+    }();
+    return models;
+}
+
+std::optional<CardTableForm> HyperelasticForm(const std::string& model, int order) {
+    for (const Potential& potential : kPotentials) {
+        if (model != potential.model) continue;
+        return CardTableForm{.columns = potential.columns(order),
+                             .with = model + " of order " + std::to_string(order)};
+    }
+    return std::nullopt;
+}
+
+}  // namespace zelmat
