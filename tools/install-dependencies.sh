@@ -4,7 +4,7 @@
 set -euo pipefail
 
 packages=(g++ cmake ninja-build ccache nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev
-    libbenchmark-dev gcovr clang-format)
+    libbenchmark-dev libudunits2-dev gcovr clang-format)
 
 missing=()
 for package in "${packages[@]}"; do

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zelmat {
+
+/// A text of a user between single quotes, as a message may show it: control characters and bytes that are
+/// not UTF-8 as \x1b, at most 60 bytes of it.
+std::string QuotedText(std::string_view text);
+
+}  // namespace zelmat
