@@ -1,8 +1,8 @@
 #include "zelmat/quantities/Measured.h"
 
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/QuotedText.h"
 #include "zelmat/quantities/ReadNumber.h"
-#include "zelmat/quantities/ShortestNumber.h"
 #include "zelmat/quantities/UnitConversion.h"
 
 namespace zelmat {
@@ -15,7 +15,7 @@ QuantityResult<double> Measured::Stored(const Quantity& quantity) const {
 }
 
 std::string Measured::Text() const {
-    const std::string digits = ShortestNumber(number);
+    const std::string digits = NumberText(number);
     return unit.Spelling() == "-" ? digits : digits + " " + unit.Spelling();
 }
 

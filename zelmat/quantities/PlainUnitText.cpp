@@ -72,11 +72,13 @@ std::optional<std::string> PlainUnitText(std::string_view text) {
 }
 
 std::string_view WithoutBlanksAround(std::string_view text) {
-    constexpr std::array<std::string_view, 5> kBlanks = {" ", "\t", "\u00a0", "\u202f", "\u2009"};
-    bool again = true;
-    while (again) {
+    constexpr std::string_view kBlanks = " \t";
+    constexpr std::array<std::string_view, 3> kNoBreaks = {"\u00a0", "\u202f", "\u2009"};
+    for (bool again = true; again;) {
+        text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+        text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
         again = false;
-        for (const std::string_view blank : kBlanks) {
+        for (const std::string_view blank : kNoBreaks) {
             if (text.starts_with(blank)) text.remove_prefix(blank.size()), again = true;
             if (text.ends_with(blank)) text.remove_suffix(blank.size()), again = true;
         }

@@ -14,13 +14,9 @@ constexpr bool kPoint = true;
 
 Quantity Make(std::string_view name, std::string_view title, std::initializer_list<std::string_view> units,
               std::string_view family = {}, bool isPoint = false) {
-    Quantity quantity{.name = name,
-                      .title = title,
-                      .family = family,
-                      .stored = *Unit::Read(*units.begin()),
-                      .isPoint = isPoint};
-    for (const std::string_view unit : units) quantity.units.push_back(*Unit::Read(unit));
-    return quantity;
+    std::vector<Unit> read;
+    for (const std::string_view unit : units) read.push_back(*Unit::Read(unit));
+    return {name, title, family, read.front(), read, isPoint};
 }
 
 /// The first unit is the one that documents hold.

@@ -13,14 +13,18 @@ namespace zelmat {
 /// What a number of the field measures, whatever its unit: a stress, a density, a thermal expansion. It is no
 /// column and no attribute: many of them hold a stress.
 struct Quantity {
-    std::string_view name;   ///< as in "--units stress=MPa"
-    std::string_view title;  ///< as in a message: "the stiffness per area"
-    std::string_view
-        family;   ///< the quantity whose chosen unit it shares unless it has one of its own, or empty
-    Unit stored;  ///< what documents hold it in
-    std::vector<Unit>
-        units;             ///< that would do, the usual ones first; any other of the dimension does as well
-    bool isPoint = false;  ///< a point of a scale, not a difference: "degC" converts with its offset
+    /// As in "--units stress=MPa".
+    std::string_view name;
+    /// As in a message: "stiffness per area".
+    std::string_view title;
+    /// The quantity whose chosen unit it shares unless it has one of its own; or empty.
+    std::string_view family;
+    /// What documents hold it in.
+    Unit stored;
+    /// That would do, the usual ones first; any other of the dimension does as well.
+    std::vector<Unit> units;
+    /// A point of a scale, not a difference: "degC" converts with its offset.
+    bool isPoint = false;
 };
 
 /// All of them, in the order in which they are listed.

@@ -74,7 +74,8 @@ QuantityResult<Unit> UnitReader::Read() {
 std::optional<UnitReader::Part> UnitReader::ReadProduct(int depth) {
     if (depth > kDeepest) return Refuse("has too many parentheses within parentheses");
     SkipBlanks();
-    Part product{.factors = 0};
+    Part product;
+    product.factors = 0;
     bool divided = false;
     while (true) {
         bool divides = false;
@@ -158,16 +159,16 @@ std::optional<UnitReader::Part> UnitReader::ReadNumber() {
     const std::string_view digits = std::string_view(plain_).substr(begin, at_ - begin);
     const bool sign = After(1) == '-' || After(1) == '+';
     int power = 0;
-    if (digits == "1" && (Here() == 'e' || Here() == 'E') && IsDigit(After(sign ? 2 : 1))) {
+    if (digits == "1" && (Here() == 'e' || Here() == 'E') && IsDigit(After(sign ? 2u : 1u))) {
         ++at_;
         if (!ReadInteger(power)) return std::nullopt;
     } else if (digits == "10" && (Here() == '^' || (Here() == '*' && After(1) == '*'))) {
-        at_ += Here() == '^' ? 1 : 2;
+        at_ += Here() == '^' ? 1u : 2u;
         if (!ReadInteger(power)) return std::nullopt;
     } else if (digits != "1" || IsLetter(Here())) {
         return Refuse("has a number that is neither 1 nor a power of ten such as 1e-6");
     }
-    return Part{.meaning = {.factor = UnitFactor{10.0L, 1.0L}.ToThe(power)}};
+    return Part{.meaning = {Dimension(), UnitFactor{10.0L, 1.0L}.ToThe(power)}};
 }
 
 bool UnitReader::ReadPower(Part& part) {

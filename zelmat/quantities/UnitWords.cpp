@@ -197,8 +197,13 @@ const AmbiguousWord* FindAmbiguousWord(std::string_view word) {
 }
 
 std::string NearUnitWord(std::string_view word) {
-    constexpr std::array<std::string_view, 5> kUsual = {"", "k", "M", "G", "m"};
-    for (const std::string_view prefix : kUsual) {
+    constexpr std::array<std::string_view, 14> kUsual = {"mm", "cm", "kg", "MPa", "GPa", "kPa", "kN",
+                                                         "MN", "kJ", "mJ", "mW",  "kW",  "ms",  "um"};
+    for (const std::string_view usual : kUsual) {
+        if (EqualButForCapitals(usual, word)) return std::string(usual);
+    }
+    constexpr std::array<std::string_view, 5> kUsualPrefixes = {"", "k", "M", "G", "m"};
+    for (const std::string_view prefix : kUsualPrefixes) {
         for (const Entry& entry : kEntries) {
             if (!prefix.empty() && entry.prefixes == Prefixes::NONE) continue;
             const std::string whole = std::string(prefix) + std::string(entry.word);

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <string>
 
-#include "zelmat/quantities/ShortestNumber.h"
+#include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
 namespace {
@@ -78,19 +78,19 @@ TEST(ReadNumber, LeavesWhatStandsBehind) {
     EXPECT_EQ(ReadLeadingNumber("1e5Pa")->number, 1e5);
 }
 
-TEST(ShortestNumber, ReadsBackAsTheSame) {
-    EXPECT_EQ(ShortestNumber(0.3), "0.3");
-    EXPECT_EQ(ShortestNumber(0.1 + 0.2), "0.30000000000000004");
-    EXPECT_EQ(ShortestNumber(2.1e11), "2.1e+11");
-    EXPECT_EQ(ShortestNumber(-0.0), "-0");
-    EXPECT_EQ(ShortestNumber(5e-324), "5e-324");
-    EXPECT_EQ(ShortestNumber(-2.2250738585072014e-308), "-2.2250738585072014e-308");
+TEST(NumberText, ReadsBackAsTheSame) {
+    EXPECT_EQ(NumberText(0.3), "0.3");
+    EXPECT_EQ(NumberText(0.1 + 0.2), "0.30000000000000004");
+    EXPECT_EQ(NumberText(2.1e11), "2.1e+11");
+    EXPECT_EQ(NumberText(-0.0), "-0");
+    EXPECT_EQ(NumberText(5e-324), "5e-324");
+    EXPECT_EQ(NumberText(-2.2250738585072014e-308), "-2.2250738585072014e-308");
 }
 
-TEST(ShortestNumber, HasAPointInEveryLocale) {
+TEST(NumberText, HasAPointInEveryLocale) {
     if (!std::setlocale(LC_ALL, "de_DE.UTF-8")) GTEST_SKIP() << "no locale with a decimal comma is installed";
 
-    EXPECT_EQ(ShortestNumber(0.5), "0.5");
+    EXPECT_EQ(NumberText(0.5), "0.5");
     EXPECT_EQ(Read("0.5"), 0.5);
     EXPECT_NE(Refusal("0,5"), "read");
 }

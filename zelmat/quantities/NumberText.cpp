@@ -1,11 +1,11 @@
-#include "zelmat/quantities/ShortestNumber.h"
+#include "zelmat/quantities/NumberText.h"
 
 #include <array>
 #include <charconv>
 
 namespace zelmat {
 
-std::string ShortestNumber(double number) {
+std::string NumberText(double number) {
     std::array<char, 32> text;  // the longest is "-2.2250738585072014e-308"
     const auto end = std::to_chars(text.data(), text.data() + text.size(), number).ptr;
     return {text.data(), end};

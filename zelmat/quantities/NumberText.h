@@ -6,6 +6,6 @@ namespace zelmat {
 
 /// A number in the fewest characters that read back as exactly the same double, with a decimal point in every
 /// locale: "0.3", "2.1e+11", "-0".
-std::string ShortestNumber(double number);
+std::string NumberText(double number);
 
 }  // namespace zelmat
