@@ -72,6 +72,7 @@ HRESULT KORBaseUnknown::AnswerQuery(KORIID iid, void** out) {
     }
     *out = nullptr;
     const KORFillDictionary* entry = KORFillDictionary::Find(DictionaryName(), iid);
+    if (!entry) entry = KORFillDictionary::Find(DictionaryRole(), iid);
     if (!entry) return E_NOINTERFACE;
     const KORMetaClass& record = entry->Implementation();
     KORBaseUnknown* implementation = this;

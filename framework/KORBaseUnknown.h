@@ -53,6 +53,10 @@ protected:
     /// extension made outside of a query extends nothing.
     virtual const KORName* DictionaryName() const;
 
+    /// A second name, under which the dictionary is asked for what it has not under the first: the role that
+    /// a feature plays whatever its late type. Null: none.
+    virtual const KORName* DictionaryRole() const { return nullptr; }
+
     /// Raised by whoever changes data behind its extensions' backs (undo): extensions bound under another
     /// generation count as dead for new queries.
     virtual std::uint32_t Generation() const { return 0; }

@@ -1,10 +1,14 @@
 #!/usr/bin/env bash
-# Holds every #include of the house against the libraries' declared dependencies.
+# Holds every #include of the house against the libraries' declared dependencies, and the platform to its silence on
+# the add-on.
 #   tools/check-layering.sh BUILD_DIR [ROOT]
 #
 # BUILD_DIR/layering.txt, written at configure time, has one line a library: "folder: allowed folders...". A
 # declared folder's files may include headers of the allowed folders only. A folder speaks for its sub-folders,
 # except where a deeper folder is declared: then the deepest one decides. Prints each forbidden arrow.
+#
+# The platform serves any add-on: what it has to know of one's late types stands in catalog files, and no text in
+# platform/ begins with a prefix of this one's names, ZEL or MRV.
 set -euo pipefail
 if (($# < 1 || $# > 2)); then
     echo "usage: tools/check-layering.sh BUILD_DIR [ROOT]" >&2
@@ -55,5 +59,11 @@ while IFS=: read -r file line include; do
 done < <(cd "$root" && find "${!allowed[@]}" -type f \( -name '*.h' -o -name '*.cpp' \) -print0 2>/dev/null |
     sort -zu | xargs -0 -r grep -HnE '^[[:space:]]*#[[:space:]]*include[[:space:]]*"' || true)
 
-echo "layering: $checked includes checked, $forbidden forbidden"
-((forbidden == 0))
+names=0
+while IFS= read -r place; do
+    echo "$place: a name of the add-on; catalog files say what its late types are"
+    names=$((names + 1))
+done < <(cd "$root" && grep -rnoE '["'"'"']\s*(ZEL|MRV)\w*' platform 2>/dev/null | sort || true)
+
+echo "layering: $checked includes checked, $forbidden forbidden, $names names of the add-on in platform"
+((forbidden == 0 && names == 0))

@@ -3,8 +3,8 @@
 #include "framework/KORBaseUnknown.h"
 #include "interfaces/KORISpecObject.h"
 
-/// Implements KORISamAnalysisModel and KORISamAnalysisScan on "KORAnalysisModelLT". It holds nothing: the
-/// model's children lie in its attributes.
+/// Implements KORISamAnalysisModel and KORISamAnalysisScan on the late types whose role is "model". It holds
+/// nothing: the model's children lie in its attributes.
 class KORAnalysisModelExtension final : public KORBaseUnknown {
     KORDeclareClass
 

@@ -1,25 +1,17 @@
 #include "platform/analysis/KORAnalysisSetExtension.h"
 
-#include "framework/KORDictionary.h"
 #include "interfaces/KORDocument.h"
 #include "interfaces/KORIAnalysisDocument.h"
-#include "interfaces/TIEKORISamAnalysisSet.h"
+#include "interfaces/KORISamAnalysisModel.h"
 #include "platform/analysis/KORChildren.h"
 #include "platform/analysis/KORPlatformModule.h"
+#include "platform/store/KORRoles.h"
 
-KORImplementClass(KORAnalysisSetExtension, KORClassKind::CodeExtension, "ZELZelmarPropertySetLT",
-                  kKORPlatformModule)
+KORImplementClass(KORAnalysisSetExtension, KORClassKind::CodeExtension, kKORSetRole, kKORPlatformModule)
 
 KORBaseUnknown* KORAnalysisSetExtension::CreateItself() {
     return new KORAnalysisSetExtension;
 }
-
-namespace {
-
-const KORFillDictionary set(KORAnalysisSetExtension::MetaObject(), KORISamAnalysisSet::MetaObject(),
-                            KORCreateTie<TIEKORISamAnalysisSet<KORAnalysisSetExtension>>, nullptr, 1);
-
-}  // namespace
 
 void KORAnalysisSetExtension::AddChild(const KORISpecObject_var& child) {
     const auto own = KORVar<KORFeature>::Of(this);

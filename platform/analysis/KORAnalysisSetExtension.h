@@ -3,8 +3,8 @@
 #include "framework/KORBaseUnknown.h"
 #include "interfaces/KORISpecObject.h"
 
-/// Implements KORISamAnalysisSet on "ZELZelmarPropertySetLT". It holds nothing: the set's children lie in its
-/// attributes.
+/// Implements KORISamAnalysisSet on the late types whose role is "set". It holds nothing: the set's children
+/// lie in its attributes.
 class KORAnalysisSetExtension final : public KORBaseUnknown {
     KORDeclareClass
 

@@ -1,9 +1,5 @@
 #include "platform/analysis/KORMaterialExtension.h"
 
-#include "framework/KORDictionary.h"
-#include "interfaces/TIEKORIApplicativeHolder.h"
-#include "interfaces/TIEKORIMaterialFeature.h"
-#include "interfaces/TIEKORIMaterialSupport.h"
 #include "platform/analysis/KORPlatformModule.h"
 #include "platform/catalog/KORPlatformCatalog.h"
 #include "platform/store/KORIFeatureContainer.h"
@@ -16,23 +12,16 @@ KORBaseUnknown* KORMaterialExtension::CreateItself() {
 
 namespace {
 
-const KORFillDictionary feature(KORMaterialExtension::MetaObject(), KORIMaterialFeature::MetaObject(),
-                                KORCreateTie<TIEKORIMaterialFeature<KORMaterialExtension>>, nullptr, 1);
-const KORFillDictionary support(KORMaterialExtension::MetaObject(), KORIMaterialSupport::MetaObject(),
-                                KORCreateTie<TIEKORIMaterialSupport<KORMaterialExtension>>, nullptr, 1);
-const KORFillDictionary holder(KORMaterialExtension::MetaObject(), KORIApplicativeHolder::MetaObject(),
-                               KORCreateTie<TIEKORIApplicativeHolder<KORMaterialExtension>>, nullptr, 1);
-
 const KORName* const kList = KORName::Intern("ApplicativeData");
 const KORName* const kName = KORName::Intern("Name");
 const KORName* const kData = KORName::Intern("Data");
-const KORName* const kFather = KORName::Intern("Father");
 const KORName* const kEntryType = KORName::Intern("KORApplicativeDataLT");
 
 /// A feature whose type has no attribute for it hangs on the material all the same.
 void SetFather(KORISpecObject* hung, KORBaseUnknown* father) {
-    if (const auto access = KORISpecAttrAccess_var::Of(hung); access)
-        access->SetComponent(kFather, father, 0);
+    const auto feature = KORVar<KORFeature>::Of(hung);
+    const KORSlot slot = feature ? feature->Layout().FatherSlot() : KORSlot{0};
+    if (slot != 0) feature->Write(slot, KORValue::OfComponent(father));
 }
 
 }  // namespace

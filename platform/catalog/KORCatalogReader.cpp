@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "platform/store/KORRoles.h"
+
 namespace {
 
 constexpr int kFormat = 1;
@@ -18,6 +20,15 @@ constexpr struct {
     {"list of doubles", KORAttributeKind::ListOfDoubles},
     {"component", KORAttributeKind::Component},
     {"list of components", KORAttributeKind::ListOfComponents},
+};
+
+constexpr struct {
+    std::string_view name;
+    const char* role;
+} kRoles[] = {
+    {"model", kKORModelRole},
+    {"set", kKORSetRole},
+    {"entity", kKOREntityRole},
 };
 
 bool HasUnit(KORAttributeKind kind) {
@@ -47,8 +58,9 @@ std::vector<KORCatalogType> KORCatalogReader::Read() {
 
 KORCatalogType KORCatalogReader::ReadType(const Pointer& at) {
     KORCatalogType type;
-    if (!IsObjectOf(at, {"name", "since", "meaning", "attributes"})) return type;
+    if (!IsObjectOf(at, {"name", "role", "since", "meaning", "attributes"})) return type;
     const std::string name = Text(at, "name");
+    const KORName* role = Has(at, "role") ? ReadRole(at) : nullptr;
     type.since = Release(at);
     type.meaning = Text(at, "meaning");
     std::vector<KORAttribute> attributes;
@@ -57,7 +69,7 @@ KORCatalogType KORCatalogReader::ReadType(const Pointer& at) {
         type.attributes.push_back(ReadAttribute(at / "attributes" / index, attributes));
     }
     if (Error()) return type;
-    type.layout = std::make_shared<KORLayout>(KORName::Intern(name), std::move(attributes));
+    type.layout = std::make_shared<KORLayout>(KORName::Intern(name), std::move(attributes), role);
     CheckSuccessors(at, type);
     return type;
 }
@@ -65,7 +77,7 @@ KORCatalogType KORCatalogReader::ReadType(const Pointer& at) {
 KORCatalogAttribute KORCatalogReader::ReadAttribute(const Pointer& at,
                                                     std::vector<KORAttribute>& attributes) {
     KORCatalogAttribute read;
-    if (!IsObjectOf(at, {"name", "kind", "default", "unit", "since", "superseded_by", "meaning"}))
+    if (!IsObjectOf(at, {"name", "kind", "role", "default", "unit", "since", "superseded_by", "meaning"}))
         return read;
     const std::string name = Text(at, "name");
     read.since = Release(at);
@@ -84,8 +96,29 @@ KORCatalogAttribute KORCatalogReader::ReadAttribute(const Pointer& at,
     if (std::ranges::any_of(attributes, same)) {
         Fail(at, "the attribute " + Quoted(name) + " is declared twice");
     }
-    attributes.push_back({key, std::move(initial)});
+    const bool isFather = Has(at, "role") && IsFather(at, *kind);
+    if (isFather && std::ranges::any_of(attributes, &KORAttribute::isFather)) {
+        Fail(at / "role", "a late type has one father");
+    }
+    attributes.push_back({key, std::move(initial), isFather});
     return read;
+}
+
+const KORName* KORCatalogReader::ReadRole(const Pointer& at) {
+    const std::string text = Text(at, "role");
+    std::string known;
+    for (const auto& [name, role] : kRoles) {
+        if (text == name) return KORName::Intern(role);
+        known += (known.empty() ? "" : ", ") + Quoted(name);
+    }
+    Fail(at / "role", "the role " + Quoted(text) + " is unknown; expected one of " + known);
+    return nullptr;
+}
+
+bool KORCatalogReader::IsFather(const Pointer& at, KORAttributeKind kind) {
+    if (Text(at, "role") != "father") Fail(at / "role", "an attribute's one role is \"father\"");
+    if (kind != KORAttributeKind::Component) Fail(at / "role", "only a component can be the father");
+    return true;
 }
 
 std::optional<KORAttributeKind> KORCatalogReader::ReadKind(const Pointer& at) {

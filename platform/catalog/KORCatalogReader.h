@@ -18,6 +18,8 @@ public:
 private:
     KORCatalogType ReadType(const Pointer& at);
     KORCatalogAttribute ReadAttribute(const Pointer& at, std::vector<KORAttribute>& attributes);
+    const KORName* ReadRole(const Pointer& at);  ///< of a late type
+    bool IsFather(const Pointer& at, KORAttributeKind kind);
     std::optional<KORAttributeKind> ReadKind(const Pointer& at);
     KORValue ReadInitial(const Pointer& at, KORAttributeKind kind);
     void CheckSuccessors(const Pointer& at, const KORCatalogType& type);

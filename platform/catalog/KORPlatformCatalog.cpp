@@ -14,18 +14,9 @@ constexpr const char* kTypes = R"json({
        {"name": "Name", "kind": "string", "default": "", "since": 1, "meaning": "the name, one of its kind on the object"},
        {"name": "Data", "kind": "component", "since": 1, "meaning": "the application's feature"}
      ]},
-    {"name": "KORAnalysisModelLT", "since": 1, "meaning": "The analysis model of a document",
+    {"name": "KORAnalysisModelLT", "role": "model", "since": 1, "meaning": "The analysis model of a document",
      "attributes": [
        {"name": "Children", "kind": "list of components", "since": 1, "meaning": "its sets, and the entities that are in none"}
-     ]},
-    {"name": "ZELZelmarPropertySetLT", "since": 1, "meaning": "The property set of an analysis model: layups, sections",
-     "attributes": [
-       {"name": "Children", "kind": "list of components", "since": 1, "meaning": "what the set holds"}
-     ]},
-    {"name": "ZELShellSectionEnhLT", "since": 1, "meaning": "A shell section",
-     "attributes": [
-       {"name": "SectionType", "kind": "integer", "default": 0, "since": 1, "meaning": "0: homogeneous; 1: composite, made of the layup"},
-       {"name": "Layup", "kind": "component", "since": 1, "meaning": "ZELLayupLT"}
      ]}
   ]
 })json";

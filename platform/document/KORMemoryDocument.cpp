@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/catalog/KORPlatformCatalog.h"
+#include "platform/store/KORRoles.h"
 
 namespace {
 
@@ -11,7 +11,9 @@ constexpr const char* kAnalysisModelType = "KORAnalysisModelLT";
 }  // namespace
 
 KORMemoryDocument::KORMemoryDocument(KORPlatform& platform)
-    : platform_(platform), container_(KORVar<KORMemoryContainer>::Adopt(new KORMemoryContainer(*this))) {}
+    : platform_(platform),
+      container_(KORVar<KORMemoryContainer>::Adopt(new KORMemoryContainer(*this))),
+      catalogs_(std::make_shared<KORCatalogSet>(platform.SharedCatalogs())) {}
 
 KORVar<KORMemoryDocument> KORMemoryDocument::New(KORPlatform& platform) {
     return KORVar<KORMemoryDocument>::Adopt(new KORMemoryDocument(platform));
@@ -23,7 +25,7 @@ KORBaseUnknown* KORMemoryDocument::GetFeatContainer() {
 }
 
 KORVar<KORFeature> KORMemoryDocument::NewPlatformFeature(const char* lateType, const KORUnicodeString& name) {
-    const KORCatalogType* type = KORPlatformCatalog().Find(KORName::Find(lateType));
+    const KORCatalogType* type = platform_.SharedCatalogs()->Find(KORName::Find(lateType));
     return type && container_ ? container_->NewFeature(type->layout, name) : nullptr;
 }
 
@@ -72,8 +74,8 @@ KORFeature* KORMemoryDocument::FindAnalysisModel() {
     KORFeature* known = Features().Find(analysisModel_);
     if (known && known->LiesInContainer()) return known;
     KORFeature* found = nullptr;
-    ForEachFeature(KORName::Intern(kAnalysisModelType), [&found](KORFeature& model) {
-        if (!found) found = &model;
+    ForEachFeature(nullptr, [&found, role = KORName::Intern(kKORModelRole)](KORFeature& feature) {
+        if (!found && feature.Layout().Role() == role) found = &feature;
     });
     if (found) analysisModel_ = found->Number();
     return found;

@@ -26,7 +26,8 @@ public:
     KORDocument* Document() override { return this; }
     KORBaseUnknown* GetFeatContainer() override;
 
-    /// A new feature of a late type of the platform's own catalog; null for others, and once it is closed.
+    /// A new feature of a late type of the platform's own catalog or of those it shares; null for others, and
+    /// once it is closed.
     KORVar<KORFeature> NewPlatformFeature(const char* lateType, const KORUnicodeString& name);
 
     /// The applicative container of that name; a new one when the document has none. Null for an empty name,
@@ -87,6 +88,6 @@ private:
     KORVar<KORMemoryContainer> container_;  ///< null once it is closed
     std::vector<KORVar<KORMemoryContainer>> applicativeContainers_;
     std::vector<std::string> containerNames_;  ///< of the applicative containers, in their order
-    const std::shared_ptr<KORCatalogSet> catalogs_ = std::make_shared<KORCatalogSet>();
+    const std::shared_ptr<KORCatalogSet> catalogs_;
     std::uint32_t analysisModel_ = 0;  ///< its number, when it was last seen
 };

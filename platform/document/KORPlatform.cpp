@@ -6,7 +6,7 @@
 #include "platform/analysis/KORAnalysisExtensions.h"
 
 KORPlatform::KORPlatform(std::string catalogFolder) : catalogFolder_(std::move(catalogFolder)) {
-    KORLinkAnalysisExtensions();
+    KORAnalysisExtensions();
     services_.units = units_.Get();
 }
 
@@ -16,4 +16,10 @@ std::shared_ptr<const KORCatalogFile> KORPlatform::OpenCatalog(std::string_view 
     catalogError_ = catalog ? std::string() : error.Text();
     if (!catalog && reported_.insert(catalogError_).second) std::cerr << catalogError_ << std::endl;
     return catalog;
+}
+
+bool KORPlatform::ShareCatalog(std::string_view fileName) {
+    const auto catalog = OpenCatalog(fileName);
+    if (catalog) shared_->Add(fileName, catalog);
+    return catalog != nullptr;
 }

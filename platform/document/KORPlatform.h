@@ -7,7 +7,7 @@
 
 #include "framework/KORServices.h"
 #include "platform/analysis/KORUnitsService.h"
-#include "platform/catalog/KORCatalogFile.h"
+#include "platform/catalog/KORCatalogSet.h"
 
 /// The stand-alone platform as its host sets it up: where catalogs lie, and the services its free functions
 /// work on. The host makes it once, keeps it longer than every document, and makes its services the current
@@ -26,6 +26,11 @@ public:
     /// then CatalogError says so, and so does standard error, once per error.
     [[nodiscard]] std::shared_ptr<const KORCatalogFile> OpenCatalog(std::string_view fileName);
 
+    /// Makes the late types of a catalog known to every document of this platform, beside the platform's own
+    /// and without being opened by it. False, as when it is opened, when it cannot be.
+    [[nodiscard]] bool ShareCatalog(std::string_view fileName);
+    std::shared_ptr<const KORCatalogSet> SharedCatalogs() const { return shared_; }
+
     /// What was wrong with the catalog opened last, as "file:line: what was expected"; empty when nothing
     /// was.
     const std::string& CatalogError() const { return catalogError_; }
@@ -34,6 +39,7 @@ private:
     std::string catalogFolder_;
     KORVar<KORUnitsService> units_ = KORVar<KORUnitsService>::Adopt(new KORUnitsService);
     KORServices services_;
+    const std::shared_ptr<KORCatalogSet> shared_ = std::make_shared<KORCatalogSet>();
     std::string catalogError_;
     std::set<std::string> reported_;
 };

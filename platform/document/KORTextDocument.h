@@ -17,7 +17,8 @@ using KORKeptAttributes = std::unordered_map<std::uint32_t, std::map<std::string
 ///
 /// The text is JSON:
 ///   "format"         1
-///   "catalogs"       file names of the catalogs that declare the late types; the platform's own need none
+///   "catalogs"       file names of the catalogs that declare the late types; those of the platform's
+///                    own and of the shared catalogs need none
 ///   "pressure_unit"  symbol of the platform's current unit of pressure; left as it is when missing
 ///   "containers"     names of the applicative containers
 ///   "features"       objects of

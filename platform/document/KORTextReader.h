@@ -8,7 +8,7 @@
 class KORTextReader final : public KORJsonReader {
 public:
     KORTextReader(const KORJsonFile& file, KORMemoryDocument& document)
-        : KORJsonReader(file), document_(document) {}
+        : KORJsonReader(file), document_(document), catalogs_(document.Platform().SharedCatalogs()) {}
 
     void Read();
 

@@ -39,7 +39,7 @@ public:
 
     KORUnicodeString GetName() override;
     KORBaseUnknown* GetFeatContainer() override;
-    KORISpecObject* GetFather() override;  ///< what its attribute "Father" references, where it has one
+    KORISpecObject* GetFather() override;  ///< null where its type has no attribute for it
     KORISpecObject* Instantiate(const KORUnicodeString&, KORIContainer*) override { return nullptr; }
 
     void SetDouble(KORISpecAttrKey* key, double value, int index) override;
@@ -84,6 +84,7 @@ public:
 protected:
     void* OwnInterface(KORIID iid) override;
     const KORName* DictionaryName() const override { return Layout().Name(); }
+    const KORName* DictionaryRole() const override { return Layout().Role(); }
     std::uint32_t Generation() const override;
 
 private:

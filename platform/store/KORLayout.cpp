@@ -11,8 +11,12 @@ std::uint32_t NextOrdinal() {
 
 }  // namespace
 
-KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes)
-    : name_(name), nameText_(name->c_str()), attributes_(std::move(attributes)), ordinal_(NextOrdinal()) {
+KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes, const KORName* role)
+    : name_(name),
+      role_(role),
+      nameText_(name->c_str()),
+      attributes_(std::move(attributes)),
+      ordinal_(NextOrdinal()) {
     if (attributes_.empty()) return;
     const auto byNumber = [](const KORAttribute& a, const KORAttribute& b) {
         return a.name->Number() < b.name->Number();
@@ -22,10 +26,9 @@ KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes)
     places_.resize(last->name->Number() - firstNumber_ + 1);
     KORSlot slot = kFirstAttribute;
     for (const KORAttribute& attribute : attributes_) {
+        if (attribute.isFather) father_ = slot;
         places_[attribute.name->Number() - firstNumber_] = {slot++, attribute.initial.Kind()};
     }
-    const Place father = Find(KORName::Intern("Father"));
-    if (father.kind == KORAttributeKind::Component) father_ = father.slot;
 }
 
 const KORValue& KORLayout::Initial(KORSlot slot) const {

@@ -10,12 +10,13 @@ using KORSlot = std::uint16_t;
 /// One attribute of a late type.
 struct KORAttribute {
     const KORName* name;
-    KORValue initial;  ///< what a new feature starts with; it carries the attribute's kind
+    KORValue initial;       ///< what a new feature starts with; it carries the attribute's kind
+    bool isFather = false;  ///< the feature on which the type's features hang; a component
 };
 
-/// A late type as features see it: its name and which attribute lies in which slot. It knows no meaning, unit
-/// or release; that is the catalog's. It belongs to the catalog that was read and lives as long as a feature
-/// uses it.
+/// A late type as features see it: its name, its role, and which attribute lies in which slot. It knows no
+/// meaning, unit or release; that is the catalog's. It belongs to the catalog that was read and lives as long
+/// as a feature uses it.
 ///
 /// Every feature begins with the same three slots, which no key reaches: instance name, alias and container.
 class KORLayout {
@@ -32,10 +33,11 @@ public:
         KORAttributeKind kind = KORAttributeKind::Boolean;
     };
 
-    /// The attributes in slot order; no name twice.
-    KORLayout(const KORName* name, std::vector<KORAttribute> attributes);
+    /// The attributes in slot order; no name twice, and at most one father.
+    KORLayout(const KORName* name, std::vector<KORAttribute> attributes, const KORName* role = nullptr);
 
     const KORName* Name() const { return name_; }
+    const KORName* Role() const { return role_; }  ///< one of KORRoles.h; null: none
     const KORUnicodeString& NameText() const { return nameText_; }
     const std::vector<KORAttribute>& Attributes() const { return attributes_; }
     KORSlot SlotCount() const { return static_cast<KORSlot>(kFirstAttribute + attributes_.size()); }
@@ -48,8 +50,7 @@ public:
     const KORValue& Initial(KORSlot slot) const;  ///< of an attribute's slot
     const char* SlotName(KORSlot slot) const;     ///< the attribute's name; "Name", "Alias" and "Container"
 
-    /// The component attribute "Father", where the type has it: the feature on which its features hang. Slot
-    /// 0 when they hang on none.
+    /// The component attribute with the feature on which its features hang. Slot 0 when they hang on none.
     KORSlot FatherSlot() const { return father_; }
 
     /// Small and dense, one number per layout of the process: an index into tables.
@@ -57,6 +58,7 @@ public:
 
 private:
     const KORName* name_;
+    const KORName* role_;
     KORUnicodeString nameText_;
     std::vector<KORAttribute> attributes_;
     std::vector<Place> places_;  ///< by the key's number, from firstNumber_ on

@@ -6,11 +6,14 @@
 #include "framework/KORInstantiateComponent.h"
 #include "framework/KORModule.h"
 #include "platform/document/KORMemoryDocument.h"
+#include "tests/support/ZELCatalogText.h"
 
 namespace {
 
 class ZELAnalysisExtensions : public testing::Test {
 protected:
+    void SetUp() override { ASSERT_TRUE(platform.ShareCatalog(ZELSharedCatalog())); }
+
     ZELIKqcAnalysisCaseFact_var CaseFactory() {
         void* found = nullptr;
         EXPECT_EQ(S_OK,

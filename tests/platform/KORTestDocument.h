@@ -28,7 +28,7 @@ inline KORRawColldouble KORNumbers(std::initializer_list<double> values) {
 inline KORLayoutHandle KORHangingLayout() {
     const auto key = [](const char* text) { return KORName::Intern(text); };
     std::vector<KORAttribute> attributes;
-    attributes.push_back({key("Father"), KORValue(KORAttributeKind::Component)});
+    attributes.push_back({key("Father"), KORValue(KORAttributeKind::Component), true});
     attributes.push_back({key("Part"), KORValue(KORAttributeKind::Component)});
     attributes.push_back({key("Parts"), KORValue(KORAttributeKind::ListOfComponents)});
     return std::make_shared<KORLayout>(key("KORHangingLT"), std::move(attributes));

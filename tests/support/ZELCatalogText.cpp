@@ -1,6 +1,8 @@
 #include "tests/support/ZELCatalogText.h"
 
+#include <algorithm>
 #include <array>
+#include <fstream>
 #include <nlohmann/json.hpp>
 #include <stdexcept>
 #include <utility>
@@ -24,6 +26,19 @@ ZELAttribute Describe(const KORAttribute& attribute) {
     if (described.kind == ZELKind::Integer) described.initial = initial.Integer();
     if (described.kind == ZELKind::Double) described.initial = initial.Double();
     return described;
+}
+
+/// The module's catalog as it is written: late types keep the roles that they have there.
+const json& Original(const std::string& lateType) {
+    static const json catalog = json::parse(std::ifstream(ZELModuleCatalog()));
+    static const json none = {{"attributes", json::array()}};
+    const auto found = std::ranges::find_if(
+        catalog["types"], [&lateType](const json& type) { return type["name"] == lateType; });
+    return found == catalog["types"].end() ? none : *found;
+}
+
+void KeepRole(const json& original, json& written) {
+    if (original.contains("role")) written["role"] = original["role"];
 }
 
 json Write(const ZELAttribute& attribute) {
@@ -62,6 +77,10 @@ const char* ZELModuleCatalog() {
     return ZEL_MODULE_CATALOG;
 }
 
+const char* ZELSharedCatalog() {
+    return ZEL_SHARED_CATALOG;
+}
+
 const ZELLateTypes& ZELModuleTypes() {
     static const ZELLateTypes types = ReadModuleTypes();
     return types;
@@ -72,7 +91,14 @@ std::string ZELCatalogText(const ZELLateTypes& types) {
     for (const auto& [lateType, attributes] : types.All()) {
         json type = {
             {"name", lateType}, {"since", 1}, {"meaning", "for a test"}, {"attributes", json::array()}};
-        for (const ZELAttribute& attribute : attributes) type["attributes"].push_back(Write(attribute));
+        const json& original = Original(lateType);
+        KeepRole(original, type);
+        for (const ZELAttribute& attribute : attributes) {
+            type["attributes"].push_back(Write(attribute));
+            for (const json& same : original["attributes"]) {
+                if (same["name"] == attribute.name) KeepRole(same, type["attributes"].back());
+            }
+        }
         written["types"].push_back(std::move(type));
     }
     return written.dump(1);

@@ -8,6 +8,7 @@ namespace zelmat {
 namespace {
 
 constexpr const char* kCatalog = "ZELMaterialPropertiesCatalog.KORfct";
+constexpr const char* kSharedCatalog = "ZELSharedCatalog.KORfct";
 
 }  // namespace
 
@@ -21,10 +22,15 @@ std::string HostPlatform::CatalogPath() const {
     return (std::filesystem::path(catalogs_) / kCatalog).string();
 }
 
-bool HostPlatform::OpenCatalog(Findings& findings) const {
+bool HostPlatform::OpenCatalog(Findings& findings) {
+    const std::string shared = (std::filesystem::path(catalogs_) / kSharedCatalog).string();
+    return Open(CatalogPath(), findings) && Open(shared, findings) && platform_.ShareCatalog(kSharedCatalog);
+}
+
+bool HostPlatform::Open(const std::string& path, Findings& findings) const {
     KORJsonError error;
-    if (KORCatalogFile::Open(CatalogPath(), error)) return true;
-    findings.Add({FindingKind::UNREADABLE, {CatalogPath(), error.line}, "bad-catalog", error.message, {}});
+    if (KORCatalogFile::Open(path, error)) return true;
+    findings.Add({FindingKind::UNREADABLE, {path, error.line}, "bad-catalog", error.message, {}});
     return false;
 }
 

@@ -19,10 +19,13 @@ public:
     KORMemoryDocument& Document() { return *document_; }
     std::string CatalogPath() const;  ///< of the module's catalog
 
-    /// Opens the module's catalog. False, and a finding with the reason and its place, when it cannot be.
-    [[nodiscard]] bool OpenCatalog(Findings& findings) const;
+    /// Opens the module's catalog, and the one that the add-on shares among all documents. False, and a
+    /// finding with the reason and its place, when one of them cannot be opened.
+    [[nodiscard]] bool OpenCatalog(Findings& findings);
 
 private:
+    bool Open(const std::string& path, Findings& findings) const;
+
     // Let go of from the last to the first.
     std::string catalogs_;
     KORPlatform platform_;

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "ZELMaterialModel/include/ZELIMaterial.h"
+#include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
 #include "framework/KORDictionary.h"
 #include "framework/KORLibrary.h"
 #include "framework/KORTrace.h"
@@ -67,6 +68,9 @@ protected:
         EXPECT_FALSE(IsInProcess(ZEL_MODULE_LIBRARY));
         EXPECT_FALSE(ZELIMaterial_var(material_));
     }
+
+    /// The add-on's shared library belongs to the process, not to the module: it stays when the module goes.
+    const ZELCftArrayZELCftArrayDouble ofSharedLibrary_{0, nullptr};
 
     ZELDiagnostics diagnostics_;
     ZELMapStore store_;

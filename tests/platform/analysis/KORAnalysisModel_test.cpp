@@ -9,17 +9,25 @@
 
 namespace {
 
-constexpr const char* kSet = "ZELZelmarPropertySetLT";
-constexpr const char* kLayup = "ZELLayupLT";
+constexpr const char* kSet = "KORTestSetLT";
+constexpr const char* kEntity = "KORTestEntityLT";
+constexpr const char* kLoose = "KORTestLooseLT";  // has no role
 constexpr const char* kCatalogName = "Layups.KORfct";
 
-/// A document with an analysis model and a catalog with layups in its platform's folder.
+/// A document with an analysis model, a catalog with entities in its platform's folder, and sets that all
+/// documents know.
 class KORAnalysisModel : public testing::Test {
 protected:
     void SetUp() override {
         std::filesystem::create_directory(folder);
         std::ofstream(folder + "/Layups.KORfct") << R"({"format": 1, "types": [
-            {"name": "ZELLayupLT", "since": 1, "meaning": "x", "attributes": []}]})";
+            {"name": "KORTestEntityLT", "role": "entity", "since": 1, "meaning": "x", "attributes": []}]})";
+        std::ofstream(folder + "/Shared.KORfct") << R"({"format": 1, "types": [
+            {"name": "KORTestLooseLT", "since": 1, "meaning": "x", "attributes": [
+              {"name": "Children", "kind": "list of components", "since": 1, "meaning": "x"}]},
+            {"name": "KORTestSetLT", "role": "set", "since": 1, "meaning": "x", "attributes": [
+              {"name": "Children", "kind": "list of components", "since": 1, "meaning": "x"}]}]})";
+        ASSERT_TRUE(platform.ShareCatalog("Shared.KORfct"));
         model = document->AddAnalysisModel();
         factory = KORISamAnalysisModelFactory_var::Adopt(document->GetFactory());
     }
@@ -97,18 +105,18 @@ TEST_F(KORAnalysisModel, IsTheDocumentsAnalysisSide) {
     EXPECT_EQ(kCatalogName, document->Catalogs().Catalogs()[0].name);
 }
 
-TEST_F(KORAnalysisModel, TakesEntitiesOfThePlatformsAndTheLoadedCatalogs) {
-    EXPECT_FALSE(Create(kLayup));
+TEST_F(KORAnalysisModel, TakesEntitiesOfTheSharedAndTheLoadedCatalogs) {
+    EXPECT_FALSE(Create(kEntity));
     EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
 
-    const auto layup = Create(kLayup, "Layup-");
+    const auto layup = Create(kEntity, "Layup-");
     const auto set = Create(kSet, "Set");
 
     ASSERT_TRUE(layup);
     ASSERT_TRUE(set);
     EXPECT_EQ(KORUnicodeString("Layup-"), layup->GetName());
-    EXPECT_EQ(KORUnicodeString(kLayup), layup->GetType());
-    EXPECT_EQ((Numbers{2}), Scan(kLayup, 1));
+    EXPECT_EQ(KORUnicodeString(kEntity), layup->GetType());
+    EXPECT_EQ((Numbers{2}), Scan(kEntity, 1));
     EXPECT_EQ((Numbers{3}), Scan(kSet, 1));
 }
 
@@ -127,28 +135,28 @@ TEST_F(KORAnalysisModel, TakesNoEntityUnderWhatCanHaveNoChildren) {
 TEST_F(KORAnalysisModel, HandsAnEntityToTheSetItIsPutInto) {
     EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
     const KORISamAnalysisSet_var set(Create(kSet));  // 2
-    const auto layup = Create(kLayup);               // 3
-    const auto loose = Create(kLayup);               // 4
+    const auto layup = Create(kEntity);              // 3
+    const auto loose = Create(kEntity);              // 4
 
     set->AddChild(layup);
     set->AddChild(layup);
     set->AddChild(nullptr);
 
-    EXPECT_EQ((Numbers{3}), KORNumbersOf(set->GetFeatures(kLayup)));
+    EXPECT_EQ((Numbers{3}), KORNumbersOf(set->GetFeatures(kEntity)));
     EXPECT_EQ(Numbers{}, KORNumbersOf(set->GetFeatures(kSet)));
-    EXPECT_EQ((Numbers{4}), Scan(kLayup, 1));
-    EXPECT_EQ((Numbers{3}), Scan(kLayup, 2));
-    EXPECT_EQ((Numbers{3, 4}), Scan(kLayup, 3));  // the set comes first in the model
+    EXPECT_EQ((Numbers{4}), Scan(kEntity, 1));
+    EXPECT_EQ((Numbers{3}), Scan(kEntity, 2));
+    EXPECT_EQ((Numbers{3, 4}), Scan(kEntity, 3));  // the set comes first in the model
     EXPECT_EQ(Numbers{}, Scan(kSet, 2));
-    EXPECT_EQ(Numbers{}, Scan(kLayup, 0));
-    EXPECT_EQ(Numbers{}, Scan(kLayup, 4));
+    EXPECT_EQ(Numbers{}, Scan(kEntity, 0));
+    EXPECT_EQ(Numbers{}, Scan(kEntity, 4));
 }
 
 TEST_F(KORAnalysisModel, FindsAFeatureOnceAndAtAnyDepth) {
     EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
-    const auto outer = Create(kSet);    // 2
-    const auto inner = Create(kSet);    // 3
-    const auto layup = Create(kLayup);  // 4
+    const auto outer = Create(kSet);     // 2
+    const auto inner = Create(kSet);     // 3
+    const auto layup = Create(kEntity);  // 4
     KORISamAnalysisSet_var(outer)->AddChild(inner);
     KORISamAnalysisSet_var(inner)->AddChild(layup);
     KORISamAnalysisSet_var(outer)->AddChild(layup);
@@ -157,16 +165,16 @@ TEST_F(KORAnalysisModel, FindsAFeatureOnceAndAtAnyDepth) {
     model->AppendComponent(KORName::Intern("Children"), KORBaseUnknown_var(outer).Get());
     model->AppendComponent(KORName::Intern("Children"), nullptr);
 
-    EXPECT_EQ((Numbers{4}), Scan(kLayup, 3));
+    EXPECT_EQ((Numbers{4}), Scan(kEntity, 3));
     EXPECT_EQ((Numbers{2, 3}), Scan(kSet, 3));
-    EXPECT_EQ((Numbers{4}), Scan(kLayup, 2));
+    EXPECT_EQ((Numbers{4}), Scan(kEntity, 2));
 }
 
 TEST_F(KORAnalysisModel, TellsAnEntityTheSetsThatHoldIt) {
     EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
     const auto first = Create(kSet);
     const auto second = Create(kSet);
-    const auto layup = Create(kLayup);
+    const auto layup = Create(kEntity);
     const KORISamAnalysisEntity_var entity(layup);
     ASSERT_TRUE(entity);
     EXPECT_EQ(0, entity->GetParentSets().Size());
@@ -185,17 +193,30 @@ TEST_F(KORAnalysisModel, TellsAnEntityTheSetsThatHoldIt) {
 TEST_F(KORAnalysisModel, IsNotNeededForASetToHoldChildren) {
     const auto bare = KORMemoryDocument::New(platform);
     const auto set = bare->NewPlatformFeature(kSet, "Set");
-    const auto section = bare->NewPlatformFeature("ZELShellSectionEnhLT", "Section");
+    const auto section = bare->NewPlatformFeature(kLoose, "Section");
 
     KORISamAnalysisSet_var(set)->AddChild(KORISpecObject_var(section));
 
-    EXPECT_EQ((Numbers{2}), KORNumbersOf(KORISamAnalysisSet_var(set)->GetFeatures("ZELShellSectionEnhLT")));
+    EXPECT_EQ((Numbers{2}), KORNumbersOf(KORISamAnalysisSet_var(set)->GetFeatures(kLoose)));
+}
+
+TEST_F(KORAnalysisModel, KnowsSetsEntitiesAndModelsByTheRoleOfTheirType) {
+    EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
+    const auto loose = Create(kLoose);
+
+    EXPECT_TRUE(KORISamAnalysisModel_var(model));
+    EXPECT_FALSE(KORISamAnalysisEntity_var(model));
+    EXPECT_TRUE(KORISamAnalysisSet_var(Create(kSet)));
+    EXPECT_TRUE(KORISamAnalysisEntity_var(Create(kEntity)));
+    EXPECT_FALSE(KORISamAnalysisSet_var(loose)) << "children alone make no set";
+    EXPECT_FALSE(KORISamAnalysisEntity_var(loose));
+    EXPECT_FALSE(KORISamAnalysisModel_var(loose));
 }
 
 TEST_F(KORAnalysisModel, UndoesAMoveIntoASet) {
     EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
     const KORISamAnalysisSet_var set(Create(kSet));
-    const auto layup = Create(kLayup);
+    const auto layup = Create(kEntity);
     {
         KORStep step(*document, "Move");
         set->AddChild(layup);
@@ -204,8 +225,8 @@ TEST_F(KORAnalysisModel, UndoesAMoveIntoASet) {
 
     EXPECT_TRUE(document->Undo());
 
-    EXPECT_EQ((Numbers{3}), Scan(kLayup, 1));
-    EXPECT_EQ(Numbers{}, Scan(kLayup, 2));
+    EXPECT_EQ((Numbers{3}), Scan(kEntity, 1));
+    EXPECT_EQ(Numbers{}, Scan(kEntity, 2));
 }
 
 TEST_F(KORAnalysisModel, LetsEntitiesBeFreedOfADomain) {

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "platform/store/KORRoles.h"
+
 namespace {
 
 /// A catalog of one late type, with these attributes from line 4 on.
@@ -50,6 +52,42 @@ TEST(KORCatalogFile, ReadsLateTypesWithTheirAttributes) {
     EXPECT_EQ("", type->attributes[0].unit);
     EXPECT_EQ("", type->attributes[1].supersededBy);
     EXPECT_EQ("Length", type->attributes[2].supersededBy);
+}
+
+TEST(KORCatalogFile, ReadsTheRolesOfLateTypesAndOfTheFather) {
+    const auto catalog = Read(R"({"format": 1, "types": [
+      {"name": "M", "role": "model", "since": 1, "meaning": "x", "attributes": []},
+      {"name": "S", "role": "set", "since": 1, "meaning": "x", "attributes": []},
+      {"name": "E", "role": "entity", "since": 1, "meaning": "x", "attributes": [
+        {"name": "Other", "kind": "component", "since": 1, "meaning": "x"},
+        {"name": "HangsOn", "kind": "component", "role": "father", "since": 1, "meaning": "x"}]},
+      {"name": "N", "since": 1, "meaning": "x", "attributes": [
+        {"name": "Father", "kind": "component", "since": 1, "meaning": "no father, in spite of its name"}]}]})");
+    const auto role = [&](std::size_t type) { return catalog->Types()[type].layout->Role(); };
+
+    EXPECT_EQ(KORName::Find(kKORModelRole), role(0));
+    EXPECT_EQ(KORName::Find(kKORSetRole), role(1));
+    EXPECT_EQ(KORName::Find(kKOREntityRole), role(2));
+    EXPECT_EQ(nullptr, role(3));
+    const KORLayout& entity = *catalog->Types()[2].layout;
+    EXPECT_EQ(entity.Find(KORName::Find("HangsOn")).slot, entity.FatherSlot());
+    EXPECT_EQ(0, catalog->Types()[3].layout->FatherSlot());
+}
+
+TEST(KORCatalogFile, RefusesRolesItDoesNotKnow) {
+    EXPECT_EQ("test.KORfct:2: the role \"layup\" is unknown; expected one of \"model\", \"set\", \"entity\"",
+              ErrorOf("{\"format\": 1, \"types\": [\n{\"name\": \"A\", \"role\": \"layup\", \"since\": 1, "
+                      "\"meaning\": \"x\", \"attributes\": []}]}"));
+    const std::string father = R"("kind": "component", "role": "father", "since": 1, "meaning": "x"})";
+    EXPECT_EQ("test.KORfct:5: a late type has one father",
+              AttributeError("{\"name\": \"A\", " + father + ",\n{\"name\": \"B\", " + father));
+    EXPECT_EQ(
+        "test.KORfct:4: an attribute's one role is \"father\"",
+        AttributeError(R"({"name": "A", "kind": "component", "role": "son", "since": 1, "meaning": "x"})"));
+    EXPECT_EQ(
+        "test.KORfct:4: only a component can be the father",
+        AttributeError(
+            R"({"name": "A", "kind": "list of components", "role": "father", "since": 1, "meaning": "x"})"));
 }
 
 TEST(KORCatalogFile, FindsOnlyWhatItDeclares) {

@@ -34,6 +34,22 @@ TEST(KORCatalogSet, PrefersTheCatalogAddedFirst) {
     EXPECT_EQ(&first->Types()[0], set.Find(KORName::Intern("KORMaterialLT")));
 }
 
+TEST(KORCatalogSet, FindsWhatTheSetBehindItHoldsAlsoWhenThatIsAddedLater) {
+    const auto own = Catalog("KOROneLT");
+    const auto shared = Catalog("KORTwoLT");
+    const auto behind = std::make_shared<KORCatalogSet>();
+    KORCatalogSet set(behind);
+    set.Add("own", own);
+
+    behind->Add("one", Catalog("KOROneLT"));
+    behind->Add("two", shared);
+
+    EXPECT_EQ(&own->Types()[0], set.Find(KORName::Intern("KOROneLT")));
+    EXPECT_EQ(&shared->Types()[0], set.Find(KORName::Intern("KORTwoLT")));
+    EXPECT_NE(nullptr, set.Find(KORName::Intern("KORMaterialLT")));
+    EXPECT_EQ(1u, set.Catalogs().size());
+}
+
 TEST(KORCatalogSet, TakesACatalogOncePerName) {
     const auto first = Catalog("KOROneLT");
     KORCatalogSet set;

@@ -13,9 +13,6 @@ constexpr struct {
     {"KORApplicativeDataLT", "Name", KORAttributeKind::String},
     {"KORApplicativeDataLT", "Data", KORAttributeKind::Component},
     {"KORAnalysisModelLT", "Children", KORAttributeKind::ListOfComponents},
-    {"ZELZelmarPropertySetLT", "Children", KORAttributeKind::ListOfComponents},
-    {"ZELShellSectionEnhLT", "SectionType", KORAttributeKind::Integer},
-    {"ZELShellSectionEnhLT", "Layup", KORAttributeKind::Component},
 };
 
 TEST(KORPlatformCatalog, DeclaresWhatThePlatformKeepsInFeatures) {
@@ -26,7 +23,7 @@ TEST(KORPlatformCatalog, DeclaresWhatThePlatformKeepsInFeatures) {
         EXPECT_NE(0, place.slot) << lateType << " " << attribute;
         EXPECT_EQ(kind, place.kind) << lateType << " " << attribute;
     }
-    EXPECT_EQ(5u, KORPlatformCatalog().Types().size());
+    EXPECT_EQ(3u, KORPlatformCatalog().Types().size());
 }
 
 }  // namespace

@@ -258,16 +258,16 @@ TEST_F(KORTextDocumentTest, IsNotWrittenWhenAFeatureReferencesSomethingElse) {
     const auto elsewhere = KORMemoryDocument::New(platform);
     const auto foreign = elsewhere->NewPlatformFeature("KORMaterialLT", "Steel");
     const auto object = KORBaseUnknown_var::Adopt(new KORBaseUnknown);
-    const auto section = document->NewPlatformFeature("ZELShellSectionEnhLT", "Section");
+    const auto entry = document->NewPlatformFeature("KORApplicativeDataLT", "Entry");
     std::string error;
 
-    section->SetComponent(KORName::Intern("Layup"), foreign.Get(), 0);
+    entry->SetComponent(KORName::Intern("Data"), foreign.Get(), 0);
     EXPECT_FALSE(text.Write(error));
-    EXPECT_EQ("feature 1, Layup: references what is no feature of the document", error);
+    EXPECT_EQ("feature 1, Data: references what is no feature of the document", error);
 
-    section->SetComponent(KORName::Intern("Layup"), object.Get(), 0);
+    entry->SetComponent(KORName::Intern("Data"), object.Get(), 0);
     EXPECT_FALSE(text.Write(error));
-    EXPECT_EQ("feature 1, Layup: references what is no feature of the document", error);
+    EXPECT_EQ("feature 1, Data: references what is no feature of the document", error);
 }
 
 TEST_F(KORTextDocumentTest, IsNotWrittenWhenATextIsNoUtf8) {

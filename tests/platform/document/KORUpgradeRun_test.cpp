@@ -16,7 +16,7 @@ KORLayoutHandle UpgradeLayout() {
     static const KORLayoutHandle layout = [] {
         std::vector<KORAttribute> attributes;
         attributes.push_back({kState, KORValue::OfString("")});
-        attributes.push_back({KORName::Intern("Father"), KORValue(KORAttributeKind::Component)});
+        attributes.push_back({KORName::Intern("Father"), KORValue(KORAttributeKind::Component), true});
         attributes.push_back({kPart, KORValue(KORAttributeKind::Component)});
         return std::make_shared<KORLayout>(KORName::Intern(kLateType), std::move(attributes));
     }();

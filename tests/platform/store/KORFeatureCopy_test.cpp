@@ -2,7 +2,7 @@
 
 namespace {
 
-/// Features of a late type that hang on others: attributes "Father", "Part" and "Parts".
+/// Features of a late type that hang on others: attributes "Father", which is that, "Part" and "Parts".
 class KORFeatureCopyTest : public KORTestDocument {
 protected:
     KORVar<KORFeature> NewHanging() {
@@ -102,12 +102,14 @@ TEST_F(KORFeatureCopyTest, HangsOnWhatItsFatherAttributeReferences) {
     EXPECT_EQ(nullptr, hanging->GetFather());
 }
 
-TEST_F(KORFeatureCopyTest, HangsOnNothingWhenFatherIsNoComponent) {
+TEST_F(KORFeatureCopyTest, HangsOnNothingWhenNoAttributeIsTheFather) {
     std::vector<KORAttribute> attributes;
-    attributes.push_back({father, KORValue::OfString("father")});
+    attributes.push_back({father, KORValue(KORAttributeKind::Component)});
     const auto odd = std::make_shared<KORLayout>(KORName::Intern("KOROddLT"), std::move(attributes));
+    const auto base = NewFeature();
 
     const auto feature = KORFeature::New(*document, odd, "odd", *container);
+    feature->SetComponent(father, base.Get(), 0);
 
     EXPECT_EQ(0, odd->FatherSlot());
     EXPECT_EQ(nullptr, feature->GetFather());

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
+
 #include "interfaces/KORIAlias.h"
 #include "interfaces/KORIMaterialFeature.h"
 #include "tests/zelmat/support/CatalogFolder.h"
@@ -27,6 +29,17 @@ TEST(MaterialHost, ReportsAMissingCatalogOnce) {
               "no-such-folder/ZELMaterialPropertiesCatalog.KORfct: error[bad-catalog]: cannot be read: No "
               "such file "
               "or directory\n");
+}
+
+TEST(MaterialHost, ReportsAMissingSharedCatalog) {
+    const CatalogFolder catalogs("\"format\": 1", "\"format\": 1");
+    std::filesystem::remove(catalogs.Path() + "/ZELSharedCatalog.KORfct");
+    const ProgramRun run = ShowOver(catalogs);
+
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.err, catalogs.Path() +
+                           "/ZELSharedCatalog.KORfct: error[bad-catalog]: cannot be read: No such file or "
+                           "directory\n");
 }
 
 TEST(MaterialHost, ReportsTheLineOfAMistakeInTheCatalog) {

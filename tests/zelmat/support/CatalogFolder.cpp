@@ -7,15 +7,21 @@
 #include <fstream>
 #include <iterator>
 
+namespace {
+
+constexpr const char* kModuleCatalog = "ZELMaterialPropertiesCatalog.KORfct";
+
+}  // namespace
+
 std::string CatalogFolderOfTheModule() {
-    const std::string catalog = ZELMAT_CATALOG;
-    return catalog.substr(0, catalog.rfind('/'));
+    return ZELMAT_CATALOGS;
 }
 
 CatalogFolder::CatalogFolder(const std::string& text, const std::string& replacement) {
     static int made = 0;  // a catalog file is parsed once per process: each folder has a name of its own
     path_ = testing::TempDir() + "zelmat-catalogs-" + std::to_string(getpid()) + "-" + std::to_string(++made);
-    std::ifstream original(ZELMAT_CATALOG, std::ios::binary);
+    std::filesystem::copy(ZELMAT_CATALOGS, path_);
+    std::ifstream original(path_ + "/" + kModuleCatalog, std::ios::binary);
     std::string catalog{std::istreambuf_iterator<char>(original), {}};
     const auto found = catalog.find(text);
     if (found == std::string::npos) {
@@ -23,8 +29,7 @@ CatalogFolder::CatalogFolder(const std::string& text, const std::string& replace
     } else {
         catalog.replace(found, text.size(), replacement);
     }
-    std::filesystem::create_directories(path_);
-    std::ofstream(path_ + "/ZELMaterialPropertiesCatalog.KORfct", std::ios::binary) << catalog;
+    std::ofstream(path_ + "/" + kModuleCatalog, std::ios::binary) << catalog;
 }
 
 CatalogFolder::~CatalogFolder() {

@@ -2,11 +2,11 @@
 
 #include <string>
 
-/// The folder with the module's catalog as it is.
+/// The folder with the catalogs as they are installed.
 std::string CatalogFolderOfTheModule();
 
-/// A folder with a copy of the module's catalog in which one text is replaced by another, for as long as a
-/// test needs it.
+/// A folder with copies of these catalogs, the module's with one text replaced by another, for as long
+/// as a test needs it.
 class CatalogFolder {
 public:
     CatalogFolder(const std::string& text, const std::string& replacement);
