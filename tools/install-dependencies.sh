@@ -3,8 +3,14 @@
 # root, when all of them are there.
 set -euo pipefail
 
-packages=(g++ cmake ninja-build ccache nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev
-    libbenchmark-dev libudunits2-dev gcovr clang-format)
+packages=(
+    g++ cmake ninja-build ccache clang-format gcovr
+    libgtest-dev libgmock-dev libbenchmark-dev
+    nlohmann-json3-dev
+    libcli11-dev
+    libutfcpp-dev
+    libudunits2-dev
+)
 
 missing=()
 for package in "${packages[@]}"; do

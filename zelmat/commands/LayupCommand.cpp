@@ -5,7 +5,7 @@
 
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/LayupReport.h"
-#include "zelmat/files/WholeFile.h"
+#include "zelmat/files/OutputFile.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/LayupDrawing.h"
 #include "zelmat/layups/LayupHost.h"
@@ -54,14 +54,6 @@ std::optional<StoredLayup> StoreLayup(const LayupCommand& command, const LayupCa
     return stored;
 }
 
-/// False, and a finding, when the picture cannot be put there.
-bool Draw(const StoredLayup& stored, const LayupCard& card, const std::string& path, Findings& findings) {
-    std::string reason;
-    if (WriteWholeFile(path, LayupDrawing(stored, card.name), reason)) return true;
-    findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-written", "cannot be written: " + reason, {}});
-    return false;
-}
-
 }  // namespace
 
 ExitCode LayupCommand::Run(std::ostream& out, std::ostream& err) const {
@@ -72,7 +64,10 @@ ExitCode LayupCommand::Run(std::ostream& out, std::ostream& err) const {
     if (card) stored = StoreLayup(*this, *card, findings);
     if (stored) {
         ReportValidity(*card, *stored, findings);
-        if (!drawing.empty()) drawn = Draw(*stored, *card, drawing, findings);
+        if (!drawing.empty()) {
+            drawn = WriteOutputFile(drawing, LayupDrawing(*stored, card->name), {card->file}, findings)
+                        .has_value();
+        }
     }
 
     if (json) {

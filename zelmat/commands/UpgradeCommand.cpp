@@ -5,8 +5,8 @@
 #include "platform/document/KORTextDocument.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/UpgradeReport.h"
+#include "zelmat/files/OutputFile.h"
 #include "zelmat/files/UnreadableFile.h"
-#include "zelmat/files/WholeFile.h"
 #include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/materials/HostPlatform.h"
 
@@ -22,10 +22,11 @@ bool ReadDocument(KORTextDocument& text, const std::string& path, Findings& find
 }
 
 /// False, and a finding, when the document cannot be put there.
-bool WriteDocument(const KORTextDocument& text, const std::string& path, Findings& findings) {
+bool WriteDocument(const KORTextDocument& text, const std::string& path, const std::string& input,
+                   Findings& findings) {
     std::string reason;
     const auto written = text.Write(reason);
-    if (written && WriteWholeFile(path, *written, reason)) return true;
+    if (written) return WriteOutputFile(path, *written, {input}, findings).has_value();
     findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-written", "cannot be written: " + reason, {}});
     return false;
 }
@@ -44,7 +45,7 @@ ExitCode UpgradeCommand::Run(std::ostream& out, std::ostream& err) const {
             report = UpgradeMaterials(host.Document());
         }
         ReportUpgrade(*report, document, findings);
-        if (!output.empty()) written = WriteDocument(text, output, findings);
+        if (!output.empty()) written = WriteDocument(text, output, document, findings);
     }
 
     if (json) {

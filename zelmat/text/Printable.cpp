@@ -1,0 +1,64 @@
+#include "zelmat/text/Printable.h"
+
+#include <utf8.h>
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <iterator>
+
+namespace zelmat {
+
+namespace {
+
+bool IsControl(std::uint32_t point) {
+    return point < 0x20 || (point >= 0x7f && point < 0xa0);
+}
+
+/// Line and paragraph separators, and the marks that change the direction in which what follows is shown.
+bool ChangesTheLine(std::uint32_t point) {
+    return (point >= 0x200e && point <= 0x200f) || (point >= 0x2028 && point <= 0x202e) ||
+           (point >= 0x2066 && point <= 0x2069) || point == 0x061c;
+}
+
+std::string Escape(std::uint32_t point) {
+    if (point == '\n') return "\\n";
+    if (point == '\r') return "\\r";
+    if (point == '\t') return "\\t";
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), point < 0x100 ? "\\x%02x" : "\\u%04x", point);
+    return text.data();
+}
+
+}  // namespace
+
+std::optional<std::size_t> FirstBadByte(std::string_view text) {
+    const auto bad = utf8::find_invalid(text.begin(), text.end());
+    if (bad == text.end()) return std::nullopt;
+    return static_cast<std::size_t>(bad - text.begin());
+}
+
+std::string ValidUtf8(std::string_view text) {
+    std::string valid;
+    valid.reserve(text.size());
+    utf8::replace_invalid(text.begin(), text.end(), std::back_inserter(valid), 0xfffd);
+    return valid;
+}
+
+std::string Printable(std::string_view text) {
+    const std::string valid = ValidUtf8(text);
+    std::string printable;
+    printable.reserve(valid.size());
+    for (auto at = valid.begin(); at != valid.end();) {
+        const auto start = at;
+        const std::uint32_t point = utf8::unchecked::next(at);
+        if (IsControl(point) || ChangesTheLine(point)) {
+            printable += Escape(point);
+        } else {
+            printable.append(start, at);
+        }
+    }
+    return printable;
+}
+
+}  // namespace zelmat
