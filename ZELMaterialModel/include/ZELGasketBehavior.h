@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "ZELMaterialModel/include/ZELModuleObject.h"
+#include "ZELMaterialModel/include/ZELRememberedFeature.h"
 #include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
 #include "interfaces/KORISpecAttrAccess.h"
 
@@ -27,6 +28,10 @@ protected:
     /// What a component attribute holds, by name; empty when the feature lacks the attribute or nothing is
     /// stored.
     static KORBaseUnknown_var Held(KORISpecAttrAccess& feature, const KORUnicodeString& name);
+
+    /// Access to one of the behavior's features for writing: empty once the feature was taken away.
+    static const KORISpecAttrAccess_var& ForWriting(const ZELRememberedFeature& feature,
+                                                    const KORISpecAttrAccess_var& access);
 
     /// Resolves the next key of the behavior; false when the feature lacks it or is not there.
     bool TakeKey(const KORISpecAttrAccess_var& feature, const KORUnicodeString& name);

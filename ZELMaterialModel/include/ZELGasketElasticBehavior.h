@@ -28,6 +28,6 @@ private:
     std::vector<KORISpecAttrKey*> Columns() const;
 
     const ZELGasketElasticDescription* description_;
-    KORISpecObject_var feature_;
+    ZELRememberedFeature feature_;
     KORISpecAttrAccess_var access_;
 };

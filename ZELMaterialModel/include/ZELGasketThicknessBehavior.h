@@ -69,10 +69,10 @@ private:
     bool BindFeatures(KORISpecAttrAccess& material);
     void TakeKeys();
 
-    KORISpecObject_var thickness_;
-    KORISpecObject_var loading_;
-    KORISpecObject_var unloadingEP_;
-    KORISpecObject_var unloadingDamage_;
+    ZELRememberedFeature thickness_;
+    ZELRememberedFeature loading_;
+    ZELRememberedFeature unloadingEP_;
+    ZELRememberedFeature unloadingDamage_;
     KORISpecAttrAccess_var materialAccess_;
     KORISpecAttrAccess_var thicknessAccess_;
     KORISpecAttrAccess_var loadingAccess_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ZELMaterialModel/include/ZELModuleObject.h"
+#include "ZELMaterialModel/include/ZELRememberedFeature.h"
 #include "interfaces/KORISpecObject.h"
 
 /// Hyperelasticity of a material: whether it is switched on, the name of the material model, and the feature
@@ -25,6 +26,6 @@ public:
 
 private:
     KORISpecObject_var material_;
-    KORISpecObject_var feature_;
+    ZELRememberedFeature feature_;
     unsigned char reserved_ = 0;  ///< room that older callers count on; no operation reads it
 };

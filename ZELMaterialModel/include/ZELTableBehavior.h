@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ZELMaterialModel/include/ZELRememberedFeature.h"
 #include "ZELMaterialModel/include/ZELTemperatureDependentProperties.h"
 #include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
 #include "interfaces/KORISpecObject.h"
@@ -10,9 +11,9 @@ struct ZELTableDescription;
 /// material) and the table, in memory and between memory and store. It only binds and moves values; which
 /// reads a behavior runs when it is built, and in which order, stands in the behavior's own class.
 ///
-/// Every store operation answers E_NOINTERFACE when its feature offers no attribute access (or there is none)
-/// and leaves memory as it was; E_FAIL when the feature's type lacks an attribute, and a flag or number that
-/// was to be read is then zero in memory.
+/// Every store operation answers E_NOINTERFACE when its feature offers no attribute access (or there is none,
+/// or undo took away the one that is to be written) and leaves memory as it was; E_FAIL when the feature's
+/// type lacks an attribute, and a flag or number that was to be read is then zero in memory.
 class KOR_EXPORT ZELTableBehavior : public ZELTemperatureDependentProperties {
 public:
     HRESULT GetPropertyDataFile() final;
@@ -26,7 +27,10 @@ protected:
     ZELTableBehavior(KORISpecObject* material, ZELTableDescription& description);
 
     bool IsBound() const { return bound_; }  ///< false: no material to read from, nothing was looked up
-    KORISpecObject* Feature() const { return feature_.Get(); }  ///< the behavior's own feature, or null
+    /// The behavior's own feature, to read from and to write to; null when there is none, and for writing
+    /// also once it was taken away.
+    KORISpecObject* Feature() const { return feature_.Get(); }
+    KORISpecObject* FeatureForWriting() const { return feature_.ForWriting(); }
 
     const unsigned char& Enabled() const { return enabled_; }
     HRESULT StoreEnabled(const unsigned char& enabled);  ///< memory, then store
@@ -46,7 +50,7 @@ private:
 
     ZELTableDescription* description_;
     KORISpecObject_var material_;
-    KORISpecObject_var feature_;
+    ZELRememberedFeature feature_;
     unsigned char enabled_ = 0;
     bool bound_ = false;
     ZELCftArrayZELCftArrayDouble table_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ZELMaterialModel/include/ZELModuleObject.h"
+#include "ZELMaterialModel/include/ZELRememberedFeature.h"
 #include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
 #include "interfaces/KORISpecObject.h"
 
@@ -39,5 +40,5 @@ public:
 
 private:
     KORISpecObject_var material_;
-    KORISpecObject_var feature_;
+    ZELRememberedFeature feature_;
 };

@@ -9,7 +9,7 @@ void KORUndoLog::Log(KORFeature& feature, KORSlot slot, KORValue&& value) {
 
 bool KORUndoLog::Undo() noexcept {
     if (!CanUndo()) return false;
-    ++generation_;
+    RaiseGeneration();
     auto& entries = steps_[--done_].entries;
     std::for_each(entries.rbegin(), entries.rend(), [](KORUndoEntry& entry) { entry.Apply(); });
     return true;
@@ -17,7 +17,7 @@ bool KORUndoLog::Undo() noexcept {
 
 bool KORUndoLog::Redo() noexcept {
     if (!CanRedo()) return false;
-    ++generation_;
+    RaiseGeneration();
     auto& entries = steps_[done_++].entries;
     std::for_each(entries.begin(), entries.end(), [](KORUndoEntry& entry) { entry.Apply(); });
     return true;
@@ -50,7 +50,7 @@ void KORUndoLog::Commit(std::string&& name, std::uint32_t outerStamp) {
 }
 
 void KORUndoLog::RollBack(std::size_t begin, std::uint32_t outerStamp) noexcept {
-    if (open_.size() > begin) ++generation_;
+    if (open_.size() > begin) RaiseGeneration();
     while (open_.size() > begin) {
         KORUndoEntry last = std::move(open_.back());
         open_.pop_back();

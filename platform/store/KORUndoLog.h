@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "framework/KORUndoCount.h"
 #include "platform/store/KORFeature.h"
 
 /// One reversible change. Holds the value the feature does not have at the moment, so applying it is a swap.
@@ -59,6 +60,10 @@ private:
     void Open();
     void Commit(std::string&& name, std::uint32_t outerStamp);
     void RollBack(std::size_t begin, std::uint32_t outerStamp) noexcept;
+    void RaiseGeneration() noexcept {
+        ++generation_;
+        KORCountUndo();
+    }
 
     std::vector<KORUndoStep> steps_;
     std::size_t done_ = 0;

@@ -20,6 +20,7 @@ zel_test(test_module_behaviors
         src/ZELMaterialPlasticJohnsonCook_test.cpp
         src/ZELMaterialPlastic_test.cpp
         src/ZELMaterialPropertiesFact_test.cpp
+        src/ZELRememberedFeature_test.cpp
         src/ZELTestData_test.cpp
         src/ZELUserMaterial_test.cpp
         store/ZELBoundAccess_test.cpp

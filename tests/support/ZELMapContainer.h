@@ -41,7 +41,10 @@ private:
 /// The catalog "ZELMaterialPropertiesCatalog.KORfct" of a map store: start-ups of the types it knows.
 class ZELMapCatalog final : public ZELMapObject<KORICatalog> {
 public:
-    explicit ZELMapCatalog(const std::shared_ptr<ZELMapWorld>& world) : ZELMapObject(world, "Catalog") {}
+    explicit ZELMapCatalog(const std::shared_ptr<ZELMapWorld>& world) : ZELMapObject(world, "Catalog") {
+        ++world->openCatalogs;
+    }
+    ~ZELMapCatalog() override { --World()->openCatalogs; }
 
     HRESULT RetrieveStartUp(const KORUnicodeString& lateType, const char* interfaceName, void** out) override;
 };

@@ -149,6 +149,7 @@ KORISpecObject* ZELMapFeature::GetFather() {
 KORISpecObject* ZELMapFeature::Instantiate(const KORUnicodeString& name, KORIContainer* container) {
     const ZELVerdict verdict =
         Calls().Record("Instantiate", Label() + " \"" + std::string(name.View()) + '"', true);
+    World()->openCatalogsAtInstantiations.push_back(World()->openCatalogs);
     auto* target = dynamic_cast<ZELMapContainer*>(container);
     if (verdict != ZELVerdict::Answer || !isStartUp_ || !target) return nullptr;
     return target->MakeMember(lateType_, name).Detach();

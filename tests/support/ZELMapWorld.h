@@ -4,6 +4,7 @@
 #include <set>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "framework/KORImplements.h"
 #include "tests/support/ZELLateTypes.h"
@@ -18,6 +19,8 @@ struct ZELMapWorld {
     ZELLateTypes types;
     std::set<ZELMapFeature*> features;   ///< the living ones, without start-ups
     ZELMapDocument* document = nullptr;  ///< null once it is closed
+    int openCatalogs = 0;                ///< catalogs that somebody holds
+    std::vector<int> openCatalogsAtInstantiations;
 };
 
 /// Base of the map store's objects: notes every query and refuses those that are to fail, the answers of

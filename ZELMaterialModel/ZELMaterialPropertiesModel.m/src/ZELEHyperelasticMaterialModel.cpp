@@ -1,5 +1,6 @@
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELEHyperelasticMaterialModel.h"
 
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELFeatureCopy.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModule.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModuleCatalog.h"
@@ -8,7 +9,7 @@
 #include "framework/KORDictionary.h"
 
 KORImplementClass(ZELEHyperelasticMaterialModel, KORClassKind::DataExtension,
-                  "ZELHyperelasticMaterialModelLT", kZELModule)
+                  ZELLateType::ZELHyperelasticMaterialModelLT.c_str(), kZELModule)
 
 KORBaseUnknown* ZELEHyperelasticMaterialModel::CreateItself() {
     return new ZELEHyperelasticMaterialModel;
@@ -73,6 +74,7 @@ HRESULT ZELEHyperelasticMaterialModel::SetPropertyData(const ZELCftArrayZELCftAr
     KORISpecAttrKey* list = access ? listKey.Resolve(*access) : nullptr;
     if (!list) return E_FAIL;
     access->RemoveAllValues(list);
+    ForgetLostRows();
     FitRows(rows.size());
     for (int position = 1; position <= rows_.Size(); ++position) {
         const KORISpecObject_var row = rows_[position];
@@ -82,6 +84,14 @@ HRESULT ZELEHyperelasticMaterialModel::SetPropertyData(const ZELCftArrayZELCftAr
         access->AppendComponent(list, KORBaseUnknown_var(row).Get());
     }
     return S_OK;
+}
+
+/// Forgets the rows that undo, or somebody else, took out of their container: what they were given would be
+/// lost with them. An empty entry was never a row and stays.
+void ZELEHyperelasticMaterialModel::ForgetLostRows() {
+    for (int position = rows_.Size(); position >= 1; --position) {
+        if (rows_[position] && !ZELContainerOf(rows_[position])) rows_.RemovePosition(position);
+    }
 }
 
 /// Makes the remembered row features as many as there are rows. Shrinking keeps the first ones and the last
@@ -118,10 +128,8 @@ HRESULT ZELEHyperelasticMaterialModel::GetPropertyData(ZELCftArrayZELCftArrayDou
 
 HRESULT ZELEHyperelasticMaterialModel::CreateHyperelasticRowDataFeature(KORISpecObject_var& row) {
     if (!feature_) return E_FAIL;
-    const auto holder = KORBaseUnknown_var::Adopt(feature_->GetFeatContainer());
-    const KORIContainer_var container(holder);
-    KORICatalog_var catalog;
-    if (!container || FAILED(ZELOpenModuleCatalog(container.Get(), catalog))) return E_FAIL;
-    return ZELInstantiate(*catalog, ZELLateType::ZELMaterialModelRowDataLT,
-                          ZELLateType::ZELMaterialModelRowDataLT, container.Get(), row);
+    const KORIContainer_var container(ZELContainerOf(feature_));
+    if (!container) return E_FAIL;
+    return ZELInstantiateAlone(ZELLateType::ZELMaterialModelRowDataLT, ZELLateType::ZELMaterialModelRowDataLT,
+                               container.Get(), row);
 }

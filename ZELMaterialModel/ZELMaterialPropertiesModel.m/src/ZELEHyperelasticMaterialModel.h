@@ -9,7 +9,7 @@
 /// table row, listed in row order by the model feature.
 ///
 /// The object remembers the row features of its last SetPropertyData and reuses them in the next; the memory
-/// starts empty and is not stored.
+/// starts empty and is not stored, and a row that lies in no container any more is none of it.
 class KOR_EXPORT ZELEHyperelasticMaterialModel final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
@@ -28,6 +28,7 @@ private:
     /// A new, empty row feature in the model's container; E_FAIL and an empty handle when there comes none.
     HRESULT CreateHyperelasticRowDataFeature(KORISpecObject_var& row);
 
+    void ForgetLostRows();
     void FitRows(int count);
 
     KORISpecObject_var feature_;

@@ -6,7 +6,8 @@
 #include "ZELMaterialModel/include/TIEZELIJohnsonCookData.h"
 #include "framework/KORDictionary.h"
 
-KORImplementClass(ZELEJohnsonCookData, KORClassKind::CodeExtension, "ZELPlasticJohnsonCookLT", kZELModule)
+KORImplementClass(ZELEJohnsonCookData, KORClassKind::CodeExtension,
+                  ZELLateType::ZELPlasticJohnsonCookLT.c_str(), kZELModule)
 
 KORBaseUnknown* ZELEJohnsonCookData::CreateItself() {
     return new ZELEJohnsonCookData;

@@ -9,7 +9,7 @@
 #include "interfaces/KORISamAnalysisEntity.h"
 #include "interfaces/KORISamAnalysisSet.h"
 
-KORImplementClass(ZELELayup, KORClassKind::DataExtension, "ZELLayupLT", kZELModule)
+KORImplementClass(ZELELayup, KORClassKind::DataExtension, ZELLateType::ZELLayupLT.c_str(), kZELModule)
 
 KORBaseUnknown* ZELELayup::CreateItself() {
     return new ZELELayup;

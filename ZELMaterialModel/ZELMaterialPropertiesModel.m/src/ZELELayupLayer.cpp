@@ -9,7 +9,8 @@
 #include "framework/KORDictionary.h"
 #include "interfaces/KORIMaterialSupport.h"
 
-KORImplementClass(ZELELayupLayer, KORClassKind::DataExtension, "ZELLayupLayerLT", kZELModule)
+KORImplementClass(ZELELayupLayer, KORClassKind::DataExtension, ZELLateType::ZELLayupLayerLT.c_str(),
+                  kZELModule)
 
 KORBaseUnknown* ZELELayupLayer::CreateItself() {
     return new ZELELayupLayer;

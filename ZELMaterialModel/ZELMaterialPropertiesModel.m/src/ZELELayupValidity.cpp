@@ -1,5 +1,6 @@
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELELayupValidity.h"
 
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModule.h"
 #include "ZELMaterialModel/include/ZELILayup.h"
 #include "ZELMaterialModel/include/ZELILayupLayer.h"
@@ -7,7 +8,7 @@
 #include "framework/KORExport.h"
 #include "interfaces/TIEKORISamValidity.h"
 
-KORImplementClass(ZELELayupValidity, KORClassKind::DataExtension, "ZELLayupLT", kZELModule)
+KORImplementClass(ZELELayupValidity, KORClassKind::DataExtension, ZELLateType::ZELLayupLT.c_str(), kZELModule)
 
 KORBaseUnknown* ZELELayupValidity::CreateItself() {
     return new ZELELayupValidity;

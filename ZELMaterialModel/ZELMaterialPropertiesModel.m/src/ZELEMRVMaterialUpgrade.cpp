@@ -19,7 +19,8 @@
 #include "interfaces/KORIMaterialFeature.h"
 #include "interfaces/TIEKORISamUpgrade.h"
 
-KORImplementClass(ZELEMRVMaterialUpgrade, KORClassKind::DataExtension, "ZELMaterialLT", kZELModule)
+KORImplementClass(ZELEMRVMaterialUpgrade, KORClassKind::DataExtension, ZELLateType::ZELMaterialLT.c_str(),
+                  kZELModule)
 
 KORBaseUnknown* ZELEMRVMaterialUpgrade::CreateItself() {
     return new ZELEMRVMaterialUpgrade;

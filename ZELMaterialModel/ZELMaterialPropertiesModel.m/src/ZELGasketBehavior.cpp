@@ -28,6 +28,12 @@ KORBaseUnknown_var ZELGasketBehavior::Held(KORISpecAttrAccess& feature, const KO
     return key ? KORBaseUnknown_var::Adopt(feature.GetComponent(key, 0)) : KORBaseUnknown_var();
 }
 
+const KORISpecAttrAccess_var& ZELGasketBehavior::ForWriting(const ZELRememberedFeature& feature,
+                                                            const KORISpecAttrAccess_var& access) {
+    static const KORISpecAttrAccess_var none;
+    return feature.IsTakenAway() ? none : access;
+}
+
 bool ZELGasketBehavior::TakeKey(const KORISpecAttrAccess_var& feature, const KORUnicodeString& name) {
     KORISpecAttrKey* key = feature ? feature->GetAttrKey(name.c_str()) : nullptr;
     if (key) keys_.push_back(key);

@@ -24,7 +24,7 @@ ZELGasketElasticBehavior::ZELGasketElasticBehavior(KORISpecObject* material,
 void ZELGasketElasticBehavior::Bind(KORISpecAttrAccess& material) {
     const KORBaseUnknown_var held = Held(material, description_->component);
     if (!held) return;
-    feature_ = KORISpecObject_var(held);
+    feature_ = ZELRememberedFeature(KORISpecObject_var(held));
     if (!feature_) KORDiagnosticLine(description_->noFeature);
     access_ = KORISpecAttrAccess_var(held);
     if (!TakeKey(access_, description_->dataFile) || !TakeKey(access_, description_->temperatureDependent))
@@ -48,7 +48,7 @@ HRESULT ZELGasketElasticBehavior::GetFlag(unsigned char& enabled) {
 }
 
 HRESULT ZELGasketElasticBehavior::SetFlag(const unsigned char& enabled) {
-    return ZELSetBound(access_, Key(kColumns + description_->columns.size()), enabled);
+    return ZELSetBound(ForWriting(feature_, access_), Key(kColumns + description_->columns.size()), enabled);
 }
 
 HRESULT ZELGasketElasticBehavior::GetDataFile(KORUnicodeString& name) {
@@ -56,7 +56,7 @@ HRESULT ZELGasketElasticBehavior::GetDataFile(KORUnicodeString& name) {
 }
 
 HRESULT ZELGasketElasticBehavior::SetDataFile(const KORUnicodeString& name) {
-    return ZELSetBound(access_, Key(kDataFile), name);
+    return ZELSetBound(ForWriting(feature_, access_), Key(kDataFile), name);
 }
 
 HRESULT ZELGasketElasticBehavior::GetTempDepFlag(unsigned char& dependent) {
@@ -64,7 +64,7 @@ HRESULT ZELGasketElasticBehavior::GetTempDepFlag(unsigned char& dependent) {
 }
 
 HRESULT ZELGasketElasticBehavior::SetTempDepFlag(const unsigned char& dependent) {
-    return ZELSetBound(access_, Key(kTemperatureDependent), dependent);
+    return ZELSetBound(ForWriting(feature_, access_), Key(kTemperatureDependent), dependent);
 }
 
 HRESULT ZELGasketElasticBehavior::GetDataArray(ZELCftArrayZELCftArrayDouble& rows) {
@@ -72,5 +72,5 @@ HRESULT ZELGasketElasticBehavior::GetDataArray(ZELCftArrayZELCftArrayDouble& row
 }
 
 HRESULT ZELGasketElasticBehavior::SetDataArray(const ZELCftArrayZELCftArrayDouble& rows) {
-    return ZELSetBoundColumns(access_, Columns(), rows);
+    return ZELSetBoundColumns(ForWriting(feature_, access_), Columns(), rows);
 }

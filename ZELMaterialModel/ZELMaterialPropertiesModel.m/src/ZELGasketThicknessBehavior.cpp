@@ -67,7 +67,7 @@ ZELGasketThicknessBehavior::ZELGasketThicknessBehavior(KORISpecObject* material)
 bool ZELGasketThicknessBehavior::BindFeatures(KORISpecAttrAccess& material) {
     const KORBaseUnknown_var held = Held(material, ZELKey::ZELGasketThicknessBehavior);
     if (!held) return false;
-    thickness_ = KORISpecObject_var(held);
+    thickness_ = ZELRememberedFeature(KORISpecObject_var(held));
     // The membrane's name: the constructors of the gasket behaviors share this text.
     if (!thickness_) KORDiagnosticLine("No ZELGasketMembraneBehavior object found !");
     thicknessAccess_ = KORISpecAttrAccess_var(held);
@@ -75,7 +75,7 @@ bool ZELGasketThicknessBehavior::BindFeatures(KORISpecAttrAccess& material) {
 
     const struct {
         const KORUnicodeString& name;
-        KORISpecObject_var& feature;
+        ZELRememberedFeature& feature;
         KORISpecAttrAccess_var& access;
     } tables[] = {
         {ZELKey::ZELGasketThicknessBehaviorLoading, loading_, loadingAccess_},
@@ -83,8 +83,9 @@ bool ZELGasketThicknessBehavior::BindFeatures(KORISpecAttrAccess& material) {
         {ZELKey::ZELGasketThicknessBehaviorUnLoadingDamage, unloadingDamage_, unloadingDamageAccess_},
     };
     for (const auto& table : tables) {
-        table.feature = KORISpecObject_var(Held(*thicknessAccess_, table.name));
-        table.access = KORISpecAttrAccess_var(table.feature);
+        const KORISpecObject_var feature(Held(*thicknessAccess_, table.name));
+        table.feature = ZELRememberedFeature(feature);
+        table.access = KORISpecAttrAccess_var(feature);
         if (!table.access) return false;
     }
     return true;
@@ -120,7 +121,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketThicknessBehaviorType(GasketThickne
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketThicknessBehaviorType(const GasketThicknessType& type) {
-    return ZELSetBound(thicknessAccess_, Key(kThicknessType), static_cast<int>(type));
+    return ZELSetBound(ForWriting(thickness_, thicknessAccess_), Key(kThicknessType), static_cast<int>(type));
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketYieldOnsetMethodType(GasketYieldOnsetMethodType& method) {
@@ -131,7 +132,8 @@ HRESULT ZELGasketThicknessBehavior::GetGasketYieldOnsetMethodType(GasketYieldOns
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketYieldOnsetMethodType(const GasketYieldOnsetMethodType& method) {
-    return ZELSetBound(thicknessAccess_, Key(kYieldOnsetMethod), static_cast<int>(method));
+    return ZELSetBound(ForWriting(thickness_, thicknessAccess_), Key(kYieldOnsetMethod),
+                       static_cast<int>(method));
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketYieldOnsetMethodRelativeValue(double& value) {
@@ -139,7 +141,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketYieldOnsetMethodRelativeValue(doubl
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketYieldOnsetMethodRelativeValue(const double& value) {
-    return ZELSetBound(thicknessAccess_, Key(kYieldOnsetRelative), value);
+    return ZELSetBound(ForWriting(thickness_, thicknessAccess_), Key(kYieldOnsetRelative), value);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketYieldOnsetMethodClosureValue(double& value) {
@@ -147,7 +149,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketYieldOnsetMethodClosureValue(double
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketYieldOnsetMethodClosureValue(const double& value) {
-    return ZELSetBound(thicknessAccess_, Key(kYieldOnsetClosure), value);
+    return ZELSetBound(ForWriting(thickness_, thicknessAccess_), Key(kYieldOnsetClosure), value);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketTensileStiffnessFactor(double& value) {
@@ -155,7 +157,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketTensileStiffnessFactor(double& valu
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketTensileStiffnessFactor(const double& value) {
-    return ZELSetBound(thicknessAccess_, Key(kTensileStiffness), value);
+    return ZELSetBound(ForWriting(thickness_, thicknessAccess_), Key(kTensileStiffness), value);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketThicknessUnLoadingFlag(unsigned char& given) {
@@ -163,7 +165,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketThicknessUnLoadingFlag(unsigned cha
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketThicknessUnLoadingFlag(const unsigned char& given) {
-    return ZELSetBound(thicknessAccess_, Key(kUnloadingGiven), given);
+    return ZELSetBound(ForWriting(thickness_, thicknessAccess_), Key(kUnloadingGiven), given);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketLoadingDataFile(KORUnicodeString& name) {
@@ -171,7 +173,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketLoadingDataFile(KORUnicodeString& n
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketLoadingDataFile(const KORUnicodeString& name) {
-    return ZELSetBound(loadingAccess_, Key(kLoadingFile), name);
+    return ZELSetBound(ForWriting(loading_, loadingAccess_), Key(kLoadingFile), name);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketLoadingTemperatureDependentFlag(unsigned char& dependent) {
@@ -179,7 +181,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketLoadingTemperatureDependentFlag(uns
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketLoadingTemperatureDependentFlag(const unsigned char& dependent) {
-    return ZELSetBound(loadingAccess_, Key(kLoadingTemperatureDependent), dependent);
+    return ZELSetBound(ForWriting(loading_, loadingAccess_), Key(kLoadingTemperatureDependent), dependent);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketLoadingDataArray(ZELCftArrayZELCftArrayDouble& rows) {
@@ -190,8 +192,8 @@ HRESULT ZELGasketThicknessBehavior::GetGasketLoadingDataArray(ZELCftArrayZELCftA
 
 HRESULT ZELGasketThicknessBehavior::SetGasketLoadingDataArray(const ZELCftArrayZELCftArrayDouble& rows) {
     const HRESULT status = ZELSetBoundColumns(
-        loadingAccess_, std::array{Key(kLoadingColumns), Key(kLoadingColumns + 1), Key(kLoadingColumns + 2)},
-        rows);
+        ForWriting(loading_, loadingAccess_),
+        std::array{Key(kLoadingColumns), Key(kLoadingColumns + 1), Key(kLoadingColumns + 2)}, rows);
     if (FAILED(status)) return status;
     if (rows.size() > 0 && (IsOff(rows[0][0]) || IsOff(rows[0][1]))) return E_FAIL;
     return rows.size() < 3 ? E_FAIL : S_OK;
@@ -202,7 +204,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingEPDataFile(KORUnicodeStrin
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketUnLoadingEPDataFile(const KORUnicodeString& name) {
-    return ZELSetBound(unloadingEPAccess_, Key(kUnloadingEPFile), name);
+    return ZELSetBound(ForWriting(unloadingEP_, unloadingEPAccess_), Key(kUnloadingEPFile), name);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingEPTemperatureDependentFlag(unsigned char& dependent) {
@@ -211,7 +213,8 @@ HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingEPTemperatureDependentFlag
 
 HRESULT ZELGasketThicknessBehavior::SetGasketUnLoadingEPTemperatureDependentFlag(
     const unsigned char& dependent) {
-    return ZELSetBound(unloadingEPAccess_, Key(kUnloadingEPTemperatureDependent), dependent);
+    return ZELSetBound(ForWriting(unloadingEP_, unloadingEPAccess_), Key(kUnloadingEPTemperatureDependent),
+                       dependent);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingEPDataArray(ZELCftArrayZELCftArrayDouble& rows) {
@@ -222,7 +225,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingEPDataArray(ZELCftArrayZEL
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketUnLoadingEPDataArray(const ZELCftArrayZELCftArrayDouble& rows) {
-    return ZELSetBoundColumns(unloadingEPAccess_,
+    return ZELSetBoundColumns(ForWriting(unloadingEP_, unloadingEPAccess_),
                               std::array{Key(kUnloadingEPColumns), Key(kUnloadingEPColumns + 1),
                                          Key(kUnloadingEPColumns + 2), Key(kUnloadingEPColumns + 3)},
                               rows);
@@ -233,7 +236,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingDamageDataFile(KORUnicodeS
 }
 
 HRESULT ZELGasketThicknessBehavior::SetGasketUnLoadingDamageDataFile(const KORUnicodeString& name) {
-    return ZELSetBound(unloadingDamageAccess_, Key(kUnloadingDamageFile), name);
+    return ZELSetBound(ForWriting(unloadingDamage_, unloadingDamageAccess_), Key(kUnloadingDamageFile), name);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingDamageTemperatureDependentFlag(
@@ -243,7 +246,8 @@ HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingDamageTemperatureDependent
 
 HRESULT ZELGasketThicknessBehavior::SetGasketUnLoadingDamageTemperatureDependentFlag(
     const unsigned char& dependent) {
-    return ZELSetBound(unloadingDamageAccess_, Key(kUnloadingDamageTemperatureDependent), dependent);
+    return ZELSetBound(ForWriting(unloadingDamage_, unloadingDamageAccess_),
+                       Key(kUnloadingDamageTemperatureDependent), dependent);
 }
 
 HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingDamageDataArray(ZELCftArrayZELCftArrayDouble& rows) {
@@ -255,7 +259,7 @@ HRESULT ZELGasketThicknessBehavior::GetGasketUnLoadingDamageDataArray(ZELCftArra
 
 HRESULT ZELGasketThicknessBehavior::SetGasketUnLoadingDamageDataArray(
     const ZELCftArrayZELCftArrayDouble& rows) {
-    return ZELSetBoundColumns(unloadingDamageAccess_,
+    return ZELSetBoundColumns(ForWriting(unloadingDamage_, unloadingDamageAccess_),
                               std::array{Key(kUnloadingDamageColumns), Key(kUnloadingDamageColumns + 1),
                                          Key(kUnloadingDamageColumns + 2), Key(kUnloadingDamageColumns + 3)},
                               rows);

@@ -6,7 +6,8 @@
 ZELHyperelastic::ZELHyperelastic(KORISpecObject* material) : material_(KORISpecObject_var::Of(material)) {
     const auto access = KORISpecAttrAccess_var::Of(material_.Get());
     if (!access) return;
-    feature_ = KORISpecObject_var::Adopt(access->GetSpecObject(ZELKey::ZELHyperelasticity.c_str(), 0));
+    feature_ = ZELRememberedFeature(
+        KORISpecObject_var::Adopt(access->GetSpecObject(ZELKey::ZELHyperelasticity.c_str(), 0)));
 }
 
 ZELHyperelastic::~ZELHyperelastic() {
@@ -26,7 +27,8 @@ HRESULT ZELHyperelastic::GetMaterialModelType(KORUnicodeString& type) {
 }
 
 HRESULT ZELHyperelastic::SetMaterialModelType(const KORUnicodeString& type) {
-    return ZELFailOnly(ZELSetValue(feature_.Get(), ZELKeyOnce(ZELKey::HyperelasticMatModelType), type));
+    return ZELFailOnly(
+        ZELSetValue(feature_.ForWriting(), ZELKeyOnce(ZELKey::HyperelasticMatModelType), type));
 }
 
 HRESULT ZELHyperelastic::GetHyperelasticMaterialModel(KORISpecObject_var& model) {
@@ -38,6 +40,6 @@ HRESULT ZELHyperelastic::GetHyperelasticMaterialModel(KORISpecObject_var& model)
 }
 
 HRESULT ZELHyperelastic::SetHyperelasticMaterialModel(const KORISpecObject_var& model) {
-    return ZELFailOnly(
-        ZELSetValue(feature_.Get(), ZELKeyOnce(ZELKey::HyperelasticModel_v2), KORBaseUnknown_var(model)));
+    return ZELFailOnly(ZELSetValue(feature_.ForWriting(), ZELKeyOnce(ZELKey::HyperelasticModel_v2),
+                                   KORBaseUnknown_var(model)));
 }

@@ -10,7 +10,7 @@
 #include "framework/KORDictionary.h"
 #include "interfaces/KORISamUpgrade.h"
 
-KORImplementClass(ZELMaterial, KORClassKind::DataExtension, "ZELMaterialLT", kZELModule)
+KORImplementClass(ZELMaterial, KORClassKind::DataExtension, ZELLateType::ZELMaterialLT.c_str(), kZELModule)
 
 KORBaseUnknown* ZELMaterial::CreateItself() {
     return new ZELMaterial;

@@ -40,6 +40,15 @@ constexpr KORUnicodeString ZELShellSectionEnhLT = KORUnicodeString::Literal("ZEL
 
 }  // namespace ZELLateType
 
+/// Components: those that the module makes and asks for, and what a class extends that extends nothing.
+namespace ZELComponent {
+
+constexpr KORUnicodeString None = KORUnicodeString::Literal("KORnull");
+constexpr KORUnicodeString ZELMaterialPropertiesFact = KORUnicodeString::Literal("ZELMaterialPropertiesFact");
+constexpr KORUnicodeString ZELKqcAnalysisCaseFact = KORUnicodeString::Literal("ZELKqcAnalysisCaseFact");
+
+}  // namespace ZELComponent
+
 /// Attribute keys.
 namespace ZELKey {
 

@@ -56,7 +56,7 @@ HRESULT ZELMaterialPlastic::GetHardeningType(KORUnicodeString& type) {
 }
 
 HRESULT ZELMaterialPlastic::SetHardeningType(const KORUnicodeString& type) {
-    const HRESULT status = ZELSetValue(Feature(), hardeningType, type);
+    const HRESULT status = ZELSetValue(FeatureForWriting(), hardeningType, type);
     return SUCCEEDED(status) ? E_FAIL : status;
 }
 
@@ -101,7 +101,7 @@ HRESULT ZELMaterialPlastic::GetPropertyPlasticityData() {
 // the writer fills all of them, and the reader has emptied memory before it resolves the first key.
 
 HRESULT ZELMaterialPlastic::WriteCurve() {
-    const HRESULT status = ZELWriteColumns(Feature(), columns, Table(), true);
+    const HRESULT status = ZELWriteColumns(FeatureForWriting(), columns, Table(), true);
     if (FAILED(status)) return status;
     const bool startsPlastic = Table().size() > 0 && Table()[0][1] != 0.0;
     return startsPlastic ? E_FAIL : S_OK;  // reported, not enforced: the lists are stored
@@ -133,6 +133,7 @@ HRESULT ZELMaterialPlastic::WriteJohnsonCook(KORISpecAttrAccess& access) {
     if (Table().size() == 0) return E_FAIL;
     const ZELIJohnsonCookData_var data = JohnsonCookData(access);
     if (!data) return E_FAIL;
+    if (!FeatureForWriting()) return E_NOINTERFACE;
     const ZELCftArraydouble& row = Table()[0];
     data->SetCoeffA(row[0]);
     data->SetCoeffB(row[1]);
@@ -172,11 +173,8 @@ KORISpecObject* ZELMaterialPlastic::CreateJohnsonCookDataObject(KORISpecObject* 
         Fatal("AssertionFailed:NULL != pContainer", __LINE__);
         return nullptr;
     }
-    KORICatalog_var catalog;
-    if (FAILED(ZELOpenModuleCatalog(container.Get(), catalog))) return nullptr;
     KORISpecObject_var created;
-    if (FAILED(
-            ZELInstantiate(*catalog, ZELLateType::ZELPlasticJohnsonCookLT, "", container.Get(), created))) {
+    if (FAILED(ZELInstantiateAlone(ZELLateType::ZELPlasticJohnsonCookLT, "", container.Get(), created))) {
         return nullptr;
     }
     const ZELIJohnsonCookData_var data(created);

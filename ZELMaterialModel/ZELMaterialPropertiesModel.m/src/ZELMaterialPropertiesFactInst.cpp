@@ -2,13 +2,14 @@
 
 #include <new>
 
+#include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialPropertiesFact.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELModule.h"
 #include "framework/KORDictionary.h"
 #include "framework/TIEKORICreateInstance.h"
 
-KORImplementClass(ZELMaterialPropertiesFactInst, KORClassKind::CodeExtension, "ZELMaterialPropertiesFact",
-                  kZELModule)
+KORImplementClass(ZELMaterialPropertiesFactInst, KORClassKind::CodeExtension,
+                  ZELComponent::ZELMaterialPropertiesFact.c_str(), kZELModule)
 
 KORBaseUnknown* ZELMaterialPropertiesFactInst::CreateItself() {
     return new ZELMaterialPropertiesFactInst;

@@ -47,5 +47,5 @@ HRESULT ZELMaterialThermalExpansion::GetPropertyReferenceTemperature() {
 }
 
 HRESULT ZELMaterialThermalExpansion::SetPropertyReferenceTemperature() {
-    return ZELSetValue(Feature(), referenceTemperature, ReferenceTemperature);
+    return ZELSetValue(FeatureForWriting(), referenceTemperature, ReferenceTemperature);
 }

@@ -14,3 +14,8 @@ KORISpecObject_var ZELRetrieveStartUp(KORICatalog& catalog, const KORUnicodeStri
 [[nodiscard]] HRESULT ZELInstantiate(KORICatalog& catalog, const KORUnicodeString& lateType,
                                      const KORUnicodeString& name, KORIContainer* container,
                                      KORISpecObject_var& created);
+
+/// The same for one single feature, with the module's own catalog: it is opened for the start-up alone and
+/// let go before the feature is made. E_FAIL, whatever could not be had.
+[[nodiscard]] HRESULT ZELInstantiateAlone(const KORUnicodeString& lateType, const KORUnicodeString& name,
+                                          KORIContainer* container, KORISpecObject_var& created);

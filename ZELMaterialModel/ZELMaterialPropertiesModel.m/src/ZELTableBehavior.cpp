@@ -19,7 +19,8 @@ bool ZELTableBehavior::Bind() {
         KORDiagnosticLine("Accessing ZELMaterial failed !");
         return false;
     }
-    feature_ = KORISpecObject_var::Adopt(access->GetSpecObject(description_->component.c_str(), 0));
+    feature_ = ZELRememberedFeature(
+        KORISpecObject_var::Adopt(access->GetSpecObject(description_->component.c_str(), 0)));
     if (!feature_) KORDiagnosticLine(description_->noFeature);
     return true;
 }
@@ -46,7 +47,7 @@ HRESULT ZELTableBehavior::GetPropertyDataFile() {
 }
 
 HRESULT ZELTableBehavior::SetPropertyDataFile() {
-    return ZELSetValue(Feature(), description_->dataFile, DataFile);
+    return ZELSetValue(FeatureForWriting(), description_->dataFile, DataFile);
 }
 
 HRESULT ZELTableBehavior::GetPropertyTemperatureDependent() {
@@ -54,7 +55,7 @@ HRESULT ZELTableBehavior::GetPropertyTemperatureDependent() {
 }
 
 HRESULT ZELTableBehavior::SetPropertyTemperatureDependent() {
-    return ZELSetValue(Feature(), description_->temperatureDependent, TemperatureDependent);
+    return ZELSetValue(FeatureForWriting(), description_->temperatureDependent, TemperatureDependent);
 }
 
 HRESULT ZELTableBehavior::StoreTable(const ZELCftArrayZELCftArrayDouble& table) {
@@ -72,5 +73,5 @@ HRESULT ZELTableBehavior::ReadTable() {
 }
 
 HRESULT ZELTableBehavior::WriteTable() {
-    return ZELWriteColumns(Feature(), description_->columns, table_, TemperatureDependent != 0);
+    return ZELWriteColumns(FeatureForWriting(), description_->columns, table_, TemperatureDependent != 0);
 }

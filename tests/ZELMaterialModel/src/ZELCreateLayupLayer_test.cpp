@@ -101,6 +101,7 @@ TEST(ZELCreateLayupLayerCalls, OpenTheModulesCatalogInTheSpecContainerAndInstant
                 ElementsAre("RetrieveStartUp ZELLayupLayerLT KORISpecObject"));
     EXPECT_THAT(store.Calls().Log("Instantiate"),
                 ElementsAre("Instantiate ZELLayupLayerLT(start-up) \"ZELLayupLayerLT\""));
+    EXPECT_THAT(store.World()->openCatalogsAtInstantiations, ElementsAre(0));
 }
 
 TEST(ZELCreateLayupLayerFaults, MakeALayerOrFailWhicheverCallFails) {

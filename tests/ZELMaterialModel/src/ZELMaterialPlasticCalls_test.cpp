@@ -115,6 +115,7 @@ TEST(ZELMaterialPlasticCalls, CreateTheJohnsonCookFeatureFromTheCatalogWithoutAN
                 ElementsAre("RetrieveStartUp ZELPlasticJohnsonCookLT KORISpecObject"));
     EXPECT_THAT(store.Calls().Log("Instantiate"),
                 ElementsAre("Instantiate ZELPlasticJohnsonCookLT(start-up) \"\""));
+    EXPECT_THAT(store.World()->openCatalogsAtInstantiations, ElementsAre(0));
     EXPECT_THAT(store.Calls().Log("SetDouble"),
                 ElementsAre("SetDouble ZELPlasticJohnsonCookLT.CoeffA 0",
                             "SetDouble ZELPlasticJohnsonCookLT.CoeffB 0",
