@@ -50,7 +50,7 @@ HRESULT ZELAnalysisDocUtils::GetFactory(KORISamAnalysisModelFactory_var& factory
 }
 
 HRESULT ZELAnalysisDocUtils::GetAnalysisModel(KORISamAnalysisModel_var& model, const KORDocument* document) {
-    if (SUCCEEDED(Services().getAnalysisModel)) {
+    if (SUCCEEDED(Services().getAnalysisModel) && Services().givesAnalysisModel) {
         model = KORISamAnalysisModel_var::Adopt(AnalysisOf(document)->GetAnalysisModel());
     }
     return Services().getAnalysisModel;

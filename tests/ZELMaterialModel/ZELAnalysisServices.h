@@ -20,6 +20,7 @@ struct ZELAnalysisServices {
     HRESULT getFactory = S_OK;
     bool givesFactory = true;  ///< else success and null
     HRESULT getAnalysisModel = S_OK;
+    bool givesAnalysisModel = true;  ///< else success and null
     HRESULT getNextUniqueName = S_OK;
 
     static ZELAnalysisServices* current;

@@ -78,9 +78,10 @@ bool ZELEMRVMaterialUpgrade::IsUpgradeNeeded() {
     LookForBehaviors(*access);
 
     const KORILinkableObject_var linkable(material);
-    if (!linkable) return false;
+    KORDocument* document = linkable ? linkable->GetDocument() : nullptr;
+    if (!document) return false;
     const KORBaseUnknown_var own = ZELContainerOf(material);
-    const KORBaseUnknown_var old = OldContainerOf(linkable->GetDocument());
+    const KORBaseUnknown_var old = OldContainerOf(document);
     needs_.inOldApplicativeContainer = old && own == old;
     KORBaseUnknown_var testData;
     if (!needs_.inOldApplicativeContainer && SUCCEEDED(ZELFindTestDataContainer(material.Get(), testData))) {

@@ -10,3 +10,9 @@ KORBaseUnknown_var ZELContainerOf(const KORISpecObject_var& feature);
 KORListValKORISpecObject_var ZELCopyInto(const KORICutAndPastable_var& source,
                                          const KORICutAndPastable_var& target,
                                          const KORListValKORISpecObject_var& features);
+
+/// The same for features that may lie in different containers, that one included. All are extracted,
+/// container by container, before the first is copied. None when one of them is empty, lies nowhere or cannot
+/// be copied.
+KORListValKORISpecObject_var ZELCopyAllInto(const KORICutAndPastable_var& target,
+                                            const KORListValKORISpecObject_var& features);

@@ -176,6 +176,7 @@ HRESULT ZELMaterialPropertiesFact::GetFEModelInfo(KORDocument*& document, KORISp
     KORISamAnalysisModel_var analysisModel;
     status = ZELAnalysisDocUtils::GetAnalysisModel(analysisModel, document);
     if (FAILED(status)) return status;
+    if (!analysisModel) return E_FAIL;
     void* feature = nullptr;
     status = analysisModel->QueryInterface(IID_KORISpecObject, &feature);
     if (FAILED(status)) return status;

@@ -19,6 +19,11 @@ public:
     }
 
     bool IsThere() const { return key_ != nullptr; }
+
+    /// Two materials may share one model, where that did not lie beside the one that was copied.
+    bool IsThatOf(const TestDataList& other) const {
+        return KORBaseUnknown_var(model_) == KORBaseUnknown_var(other.model_);
+    }
     bool IsOn() {
         unsigned char enabled = 0;
         return SUCCEEDED(behavior_.GetHyperelasticEnabled(enabled)) && enabled != 0;
@@ -42,15 +47,9 @@ private:
     KORISpecAttrKey* key_ = nullptr;
 };
 
-/// Copies of the features, in their order, in the container of `to`; none when they cannot be copied.
+/// Copies of the features, in their order, in the container of `to`; none unless all can be copied.
 KORListValKORISpecObject_var CopyBeside(KORISpecObject* to, const KORListValKORISpecObject_var& features) {
-    const KORICutAndPastable_var source(ZELContainerOf(features[1]));
-    const KORICutAndPastable_var target(ZELContainerOf(to));
-    return ZELCopyInto(source, target, features);
-}
-
-bool SameObject(KORISpecObject* a, KORISpecObject* b) {
-    return KORBaseUnknown_var::Of(a) == KORBaseUnknown_var::Of(b);
+    return ZELCopyAllInto(KORICutAndPastable_var(ZELContainerOf(to)), features);
 }
 
 }  // namespace
@@ -70,17 +69,15 @@ HRESULT ZELCarryTestData(KORISpecObject* from, KORISpecObject* to) {
     if (!oldList.IsThere() || !newList.IsThere()) return E_FAIL;
     const KORListValKORISpecObject_var entries = oldList.Entries();
     if (entries.Size() == 0) return S_OK;
-    const bool sameMaterial = SameObject(from, to);
+    const bool shared = newList.IsThatOf(oldList);
     const bool wanted = newList.IsOn();
-    // One material has one list: it is not emptied before the copies are there.
-    if (!sameMaterial || !wanted) newList.Reset();
+    // One model has one list: it is not emptied before the copies are there.
+    if (!shared || !wanted) newList.Reset();
     if (!wanted) return S_OK;
     const KORListValKORISpecObject_var copies = CopyBeside(to, entries);
     if (copies.Size() == 0) return E_FAIL;
-    if (sameMaterial) {
-        newList.Reset();
-    }
+    if (shared) newList.Reset();
     for (int position = 1; position <= copies.Size(); ++position) newList.Append(copies[position]);
-    if (!sameMaterial) oldList.Reset();
+    if (!shared) oldList.Reset();
     return S_OK;
 }

@@ -99,6 +99,38 @@ const std::vector<OlderDocument> kDocuments = {
         "3 Father", "1 ApplicativeData", "2 Container", "3 Container", "15 Container"},
        {13, 14, 4, 5, 6, 7, 8}}},
      13},
+    // The copy goes on with the one model that there is, and with copies of its test data.
+    {"old_container_hyperelasticity_elsewhere",
+     {{"Vulcanised natural rubber",
+       3,
+       9,
+       S_OK,
+       false,
+       {"9 Container", "10 Container", "11 Container", "6 HyperelasticMatModelData", "3 Father",
+        "1 ApplicativeData", "2 Container", "3 Container", "12 Container"},
+       {7, 8}}},
+     10},
+    {"old_container_hyperelasticity_elsewhere_off",
+     {{"Vulcanised natural rubber",
+       3,
+       9,
+       S_OK,
+       false,
+       {"9 Container", "6 HyperelasticMatModelData", "3 Father", "1 ApplicativeData", "2 Container",
+        "3 Container", "10 Container"},
+       {7, 8}}},
+     8},
+    {"old_container_model_elsewhere",
+     {{"Vulcanised natural rubber",
+       3,
+       9,
+       S_OK,
+       false,
+       {"9 Container", "10 Container", "11 Container", "12 Container", "13 Container",
+        "6 HyperelasticMatModelData", "3 Father", "1 ApplicativeData", "2 Container", "3 Container",
+        "14 Container"},
+       {7, 8, 4, 5}}},
+     12},
     // There is nowhere to move it.
     {"old_container_of_the_platform_material", {{"Structural steel", 3, 0, S_OK, true, {}, {}}}, 6},
 
@@ -114,6 +146,16 @@ const std::vector<OlderDocument> kDocuments = {
     {"foreign_test_data_off",
      {{"Vulcanised natural rubber", 3, 0, S_OK, false, {"6 HyperelasticMatModelData"}, {7, 8}}},
      8},
+    // Container by container, but listed in the old order.
+    {"foreign_test_data_in_several_containers",
+     {{"Vulcanised natural rubber",
+       3,
+       0,
+       S_OK,
+       false,
+       {"10 Container", "11 Container", "12 Container", "6 HyperelasticMatModelData"},
+       {7, 8, 9}}},
+     12},
     // Converting makes new rows in the material's container, which are then copied like those elsewhere.
     {"foreign_test_data_not_converted",
      {{"Vulcanised natural rubber",
@@ -276,6 +318,23 @@ TEST_P(ZELOlderDocuments, CloseWithNoFeatureLeft) {
 
     EXPECT_EQ(older_.Document().Features().Size(), 0u);
     EXPECT_EQ(KORModule::Of("ZELMaterialModel").LiveObjects(), 0);
+}
+
+// Nothing is rolled back: the copy of the material stays in the document, and a further upgrade, which fails
+// again, makes another one.
+TEST(ZELOlderDocument, NamesTheCopyThatAFailedMoveLeavesBehind) {
+    const ZELCatalogFolder catalogs;
+    ZELOlderDocument older(catalogs, ZELOlderText("old_container_model_missing"));
+
+    const ZELTold failed{"Vulcanised natural rubber",
+                         3,
+                         0,
+                         E_FAIL,
+                         true,
+                         {"6 Container", "7 Container", "8 Container"},
+                         {6, 7, 8}};
+    EXPECT_EQ(ZELToldOf(older.Upgrade()), std::vector{failed});
+    EXPECT_EQ(older.Document().FeatureCount(), 8u);
 }
 
 INSTANTIATE_TEST_SUITE_P(, ZELOlderDocuments, testing::ValuesIn(kDocuments),

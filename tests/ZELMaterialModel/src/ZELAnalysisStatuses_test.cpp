@@ -60,6 +60,18 @@ TEST_F(ZELAnalysisStatuses, OfSuccessWithoutADocumentAreAFailure) {
     EXPECT_EQ(ZELFactory()->CreateLayup(layup_, nullptr), E_FAIL);
 }
 
+TEST_F(ZELAnalysisStatuses, OfSuccessWithoutAnAnalysisModelAreAFailure) {
+    services_.givesAnalysisModel = false;
+    KORDocument* document = store_.Document();
+    KORISpecObject* model = nullptr;
+
+    EXPECT_EQ(ZELTestAccess::GetFEModelInfo(document, model, factory_), E_FAIL);
+    EXPECT_EQ(ZELFactory()->CreateLayup(layup_, store_.Document()), E_FAIL);
+
+    EXPECT_EQ(model, nullptr);
+    EXPECT_EQ(layup_, nullptr);
+}
+
 TEST_F(ZELAnalysisStatuses, BecomeAPlainFailureOfALayupsCreation) {
     for (HRESULT ZELAnalysisServices::*service :
          {&ZELAnalysisServices::loadCatalog, &ZELAnalysisServices::getFactory,

@@ -193,16 +193,68 @@ TEST_P(ZELUpgradeContainers, UnlistForeignTestDataOfAMaterialThatIsSwitchedOff) 
     EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
 }
 
-TEST_P(ZELUpgradeContainers, KeepTheListWhenNotAllTestDataLieTogether) {
+TEST_P(ZELUpgradeContainers, FetchAllTestDataWhereTheyDoNotLieTogether) {
     ZELTestDataMaterial material(Store(), own_);
     material.SwitchOn(true);
     material.AddTestData(Store(), foreign_, {1.0});
-    material.AddTestData(Store(), own_, {2.0});
+    const auto own = material.AddTestData(Store(), own_, {2.0});
+
+    EXPECT_EQ(Upgrade(material.material), S_OK);
+
+    EXPECT_EQ(ZELTestDataOf(material.model), (ZELRows{{1.0}, {2.0}}));
+    EXPECT_EQ(ZELTestDataContainers(material.model), std::vector(2, KORBaseUnknown_var(own_)));
+    EXPECT_NE(Components(material.model, "HyperelasticMatModelData").value()[1], own) << "copied, too";
+    EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_P(ZELUpgradeContainers, KeepTheListWhereOneOfTheTestDataLiesNowhere) {
+    ZELTestDataMaterial material(Store(), own_);
+    material.SwitchOn(true);
+    material.AddTestData(Store(), foreign_, {1.0});
+    Store().Remove(material.AddTestData(Store(), own_, {2.0}));
 
     EXPECT_EQ(Upgrade(material.material), E_FAIL);
 
     EXPECT_EQ(ZELTestDataOf(material.model), (ZELRows{{1.0}, {2.0}}));
     EXPECT_THAT(Needs(material.material), ElementsAre(0, 0, 0, 0, 0, 0, 1));
+}
+
+// The material alone lies in the old container: its copy goes on with the same hyperelastic feature, or with
+// the same model.
+TEST_P(ZELUpgradeContainers, KeepTheCoefficientsOfAMaterialWhoseHyperelasticityLiesElsewhere) {
+    ZELTestDataMaterial data(Store(), own_);
+    data.AddTestData(Store(), foreign_, {1.0, 2.0});
+    const auto old = Store().MakeIn(old_, "ZELMaterialLT");
+    Attach(old, "ZELUserMaterial", Component(data.material, "ZELUserMaterial"));
+    Attach(old, "ZELHyperelasticity", data.hyperelasticity);
+    SetFlag(old, "ZELHyperelasticFlag", true);
+    HangOn(platformMaterial_, old);
+
+    EXPECT_EQ(Upgrade(old), S_OK);
+
+    ASSERT_NE(Hanging(), old);
+    EXPECT_EQ(ZELModelOf(Hanging()), data.model);
+    EXPECT_EQ(ZELTestDataOf(data.model), (ZELRows{{1.0, 2.0}}));
+    EXPECT_EQ(ZELTestDataContainers(data.model), std::vector(1, KORBaseUnknown_var(own_)));
+    EXPECT_THAT(Needs(Hanging()), ElementsAre(0, 0, 0, 0, 0, 0, 0));
+}
+
+TEST_P(ZELUpgradeContainers, KeepTheCoefficientsOfAMaterialWhoseModelLiesElsewhere) {
+    ZELTestDataMaterial old(Store(), old_);
+    const ZELTestDataMaterial elsewhere(Store(), own_);
+    Attach(old.hyperelasticity, "HyperelasticModel_v2", elsewhere.model);
+    old.model = elsewhere.model;
+    old.AddTestData(Store(), foreign_, {1.0, 2.0});
+    old.SwitchOn(true);
+    HangOn(platformMaterial_, old.material);
+
+    EXPECT_EQ(Upgrade(old.material), S_OK);
+
+    ASSERT_NE(Hanging(), old.material);
+    EXPECT_NE(Component(Hanging(), "ZELHyperelasticity"), old.hyperelasticity);
+    EXPECT_EQ(ZELModelOf(Hanging()), elsewhere.model);
+    EXPECT_EQ(ZELTestDataOf(elsewhere.model), (ZELRows{{1.0, 2.0}}));
+    EXPECT_EQ(ZELTestDataContainers(elsewhere.model), std::vector(1, KORBaseUnknown_var(own_)));
 }
 
 ZEL_ON_BOTH_STORES(ZELUpgradeContainers);
@@ -363,6 +415,19 @@ TEST(ZELUpgradeContainersCalls, AskForNoUpgradeOfAMaterialThatIsNoLiveObject) {
     store.Calls().RefuseInterface("ZELMaterialLT", "KORILinkableObject");
 
     EXPECT_FALSE(KORISamUpgrade_var(material)->IsUpgradeNeeded()) << "whatever is missing on it";
+}
+
+TEST(ZELUpgradeContainersCalls, AskForNoUpgradeOfAMaterialWhoseDocumentIsNotThere) {
+    ZELMapStore store;
+    const auto material = store.Make("ZELMaterialLT");
+    const KORISamUpgrade_var upgrade = material;
+    store.Calls().Inject(ZELFault::Refuse, 1, "GetDocument");
+
+    EXPECT_FALSE(upgrade->IsUpgradeNeeded()) << "whatever is missing on it";
+
+    EXPECT_TRUE(store.Calls().FaultHit());
+    EXPECT_THAT(store.Calls().Log("FindContainer"), IsEmpty()) << "the query ends there";
+    EXPECT_TRUE(upgrade->IsUpgradeNeeded());
 }
 
 TEST(ZELUpgradeContainersCalls, KeepTheListWhereTestDataCannotBeFetched) {

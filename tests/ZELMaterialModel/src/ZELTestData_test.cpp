@@ -114,14 +114,70 @@ TEST_P(ZELTestDataTest, CannotBeCarriedWithoutAModelOnEitherSide) {
 
 TEST_P(ZELTestDataTest, AreKeptOnTheFirstMaterialWhereTheyCannotBeCopied) {
     from_.AddTestData(Store(), foreign_, {1.0});
-    from_.AddTestData(Store(), own_, {2.0});
+    const auto removed = from_.AddTestData(Store(), own_, {2.0});
+    Store().Remove(removed);
     to_.AddTestData(Store(), own_, {9.0});
     to_.SwitchOn(true);
+    const long features = Store().LiveFeatures();
 
-    EXPECT_EQ(Carry(), E_FAIL) << "they do not lie together";
+    EXPECT_EQ(Carry(), E_FAIL) << "one of them lies in no container";
 
     EXPECT_EQ(ZELTestDataOf(from_.model), (ZELRows{{1.0}, {2.0}}));
     EXPECT_EQ(ZELTestDataOf(to_.model), ZELRows()) << "reset before the copy was tried";
+    EXPECT_EQ(Store().LiveFeatures(), features) << "none is copied unless all are";
+}
+
+TEST_P(ZELTestDataTest, AreCopiedInTheirOrderFromSeveralContainersAlsoFromTheTarget) {
+    const KORIContainer_var third = Store().AddContainer("More");
+    from_.AddTestData(Store(), foreign_, {1.0});
+    from_.AddTestData(Store(), own_, {2.0});
+    from_.AddTestData(Store(), third, {3.0});
+    from_.AddTestData(Store(), foreign_, {4.0});
+    const auto originals = Components(from_.model, "HyperelasticMatModelData");
+    to_.SwitchOn(true);
+    const long features = Store().LiveFeatures();
+
+    EXPECT_EQ(Carry(), S_OK);
+
+    EXPECT_EQ(ZELTestDataOf(to_.model), (ZELRows{{1.0}, {2.0}, {3.0}, {4.0}}));
+    EXPECT_EQ(ZELTestDataContainers(to_.model), std::vector(4, KORBaseUnknown_var(own_)));
+    EXPECT_THAT(Components(to_.model, "HyperelasticMatModelData").value(),
+                testing::Each(testing::Not(testing::AnyOfArray(*originals))));
+    EXPECT_THAT(Components(from_.model, "HyperelasticMatModelData"), Optional(IsEmpty()));
+    EXPECT_EQ(Store().LiveFeatures(), features + 4);
+}
+
+TEST_P(ZELTestDataTest, AreListedByOneModelThatTwoMaterialsShare) {
+    from_.AddTestData(Store(), foreign_, {1.0, 2.0});
+    from_.AddTestData(Store(), foreign_, {3.0});
+    Attach(to_.hyperelasticity, "HyperelasticModel_v2", from_.model);
+    to_.SwitchOn(true);
+
+    EXPECT_EQ(Carry(), S_OK);
+
+    EXPECT_EQ(ZELTestDataOf(from_.model), (ZELRows{{1.0, 2.0}, {3.0}})) << "filled, and not cleared again";
+    EXPECT_EQ(ZELTestDataContainers(from_.model), std::vector(2, KORBaseUnknown_var(own_)));
+}
+
+TEST_P(ZELTestDataTest, AreKeptByASharedModelWhereTheyCannotBeCopied) {
+    const auto removed = from_.AddTestData(Store(), own_, {1.0});
+    Store().Remove(removed);
+    Attach(to_.hyperelasticity, "HyperelasticModel_v2", from_.model);
+    to_.SwitchOn(true);
+
+    EXPECT_EQ(Carry(), E_FAIL);
+
+    EXPECT_EQ(ZELTestDataOf(from_.model), (ZELRows{{1.0}}));
+}
+
+TEST_P(ZELTestDataTest, AreUnlistedByASharedModelOfAMaterialThatIsSwitchedOff) {
+    from_.AddTestData(Store(), foreign_, {1.0});
+    Attach(to_.hyperelasticity, "HyperelasticModel_v2", from_.model);
+    from_.SwitchOn(true);
+
+    EXPECT_EQ(Carry(), S_OK);
+
+    EXPECT_THAT(Components(from_.model, "HyperelasticMatModelData"), Optional(IsEmpty()));
 }
 
 TEST_P(ZELTestDataTest, TakeAlongWhatTheyReferenceWithoutListingIt) {
