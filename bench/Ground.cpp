@@ -37,7 +37,7 @@ constexpr Branch kGasketTables[] = {
 
 Ground::Ground() : platform_(ZEL_CATALOG_FOLDER) {
     if (FAILED(AccessCatalog(kCatalog, kClient, place_.Get(), catalog_))) {
-        throw std::runtime_error(platform_.CatalogError());
+        throw std::runtime_error("the module's catalog cannot be opened");
     }
 }
 

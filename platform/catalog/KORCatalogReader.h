@@ -16,12 +16,12 @@ public:
     std::vector<KORCatalogType> Read();  ///< of no use when there is an error
 
 private:
-    KORCatalogType ReadType(const Pointer& at);
-    KORCatalogAttribute ReadAttribute(const Pointer& at, std::vector<KORAttribute>& attributes);
-    const KORName* ReadRole(const Pointer& at);  ///< of a late type
-    bool IsFather(const Pointer& at, KORAttributeKind kind);
-    std::optional<KORAttributeKind> ReadKind(const Pointer& at);
-    KORValue ReadInitial(const Pointer& at, KORAttributeKind kind);
-    void CheckSuccessors(const Pointer& at, const KORCatalogType& type);
-    int Release(const Pointer& at);  ///< the member "since"
+    KORCatalogType ReadType(const Json& at);
+    KORCatalogAttribute ReadAttribute(const Json& at, std::vector<KORAttribute>& attributes);
+    const KORName* ReadRole(const Json& at);  ///< of a late type
+    bool IsFather(const Json& at, KORAttributeKind kind);
+    std::optional<KORAttributeKind> ReadKind(const Json& at);
+    KORValue ReadInitial(const Json& at, KORAttributeKind kind);
+    void CheckSuccessors(const Json& at, const KORCatalogType& type);
+    int Release(const Json& at);  ///< the member "since"
 };

@@ -1,5 +1,6 @@
 #include "platform/catalog/KORJsonFile.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fstream>
@@ -12,20 +13,14 @@ namespace {
 
 using nlohmann::json;
 
-/// Where the parser stands. A line's end belongs to the line it ends: a number is known to be over only when
-/// the character behind it has been read.
+/// How far a parser has read.
 struct Place {
-    int line = 1;
-    int column = 0;
-    bool afterLineEnd = false;
+    const char* begin;
+    const char* at;
 
-    void Pass(char character) {
-        if (std::exchange(afterLineEnd, character == '\n')) {
-            ++line;
-            column = 0;
-        }
-        ++column;
-    }
+    /// Where it stands, in the text up to and without the character that was read last. A line's end belongs
+    /// to the line it ends: a number is known to be over only when the character behind it has been read.
+    const char* Last() const { return at == begin ? at : at - 1; }
 };
 
 class PlacedIterator {
@@ -40,7 +35,7 @@ public:
 
     reference operator*() const { return *at_; }
     PlacedIterator& operator++() {
-        place_->Pass(*at_++);
+        place_->at = ++at_;
         return *this;
     }
     PlacedIterator operator++(int) {
@@ -56,75 +51,69 @@ private:
     Place* place_;
 };
 
-/// Builds the values while they are read and writes down the line of each.
-class Builder final : public json::json_sax_t {
+/// True when the whole text was read.
+bool ReadValues(const std::string& text, Place& place, json::json_sax_t& reader) {
+    const PlacedIterator begin(text.data(), &place);
+    const PlacedIterator end(text.data() + text.size(), &place);
+    return json::sax_parse(begin, end, &reader);
+}
+
+/// One call for each value of a text, whichever its kind: Value for what holds no others, Open and Close
+/// around what does.
+template <class Reader>
+class ValueReader : public json::json_sax_t {
 public:
-    Builder(json& root, std::unordered_map<std::string, int>& lines, const Place& place, KORJsonError& error)
-        : root_(root), lines_(lines), place_(place), error_(error) {}
-
-    bool null() override { return Add(nullptr); }
-    bool boolean(bool value) override { return Add(value); }
-    bool number_integer(number_integer_t value) override { return Add(value); }
-    bool number_unsigned(number_unsigned_t value) override { return Add(value); }
-    bool number_float(number_float_t value, const string_t&) override { return Add(value); }
-    bool string(string_t& value) override { return Add(std::move(value)); }
-    bool binary(binary_t&) override { return false; }
-
-    bool start_object(std::size_t) override { return Open(json::object()); }
-    bool key(string_t& name) override {
-        if (open_.back().value->contains(name)) {
-            return Refuse(place_.line, place_.column, "the key \"" + name + "\" is given twice");
-        }
-        key_ = name;
-        return true;
-    }
-    bool end_object() override { return Close(); }
-    bool start_array(std::size_t) override { return Open(json::array()); }
-    bool end_array() override { return Close(); }
-
-    bool parse_error(std::size_t, const std::string&, const json::exception& problem) override {
-        // The library's text begins with its own code and place: "[json...] parse error at ...: text".
-        const std::string text = problem.what();
-        const auto begin = text.find(": ");
-        return Refuse(place_.line, place_.column,
-                      begin == std::string::npos ? text.substr(text.find("] ") + 2) : text.substr(begin + 2));
-    }
+    bool null() final { return Self().Value(nullptr); }
+    bool boolean(bool value) final { return Self().Value(value); }
+    bool number_integer(number_integer_t value) final { return Self().Value(value); }
+    bool number_unsigned(number_unsigned_t value) final { return Self().Value(value); }
+    bool number_float(number_float_t value, const string_t&) final { return Self().Value(value); }
+    bool string(string_t& value) final { return Self().Value(std::move(value)); }
+    bool binary(binary_t&) final { return false; }
+    bool start_object(std::size_t) final { return Self().Open(json::value_t::object); }
+    bool end_object() final { return Self().Close(); }
+    bool start_array(std::size_t) final { return Self().Open(json::value_t::array); }
+    bool end_array() final { return Self().Close(); }
 
 private:
-    struct OpenValue {
-        json* value;
-        json::json_pointer pointer;
-    };
+    Reader& Self() { return static_cast<Reader&>(*this); }
+};
 
-    bool Refuse(int line, int column, const std::string& message) {
-        error_.line = line;
-        error_.column = column;
-        error_.message = message;
-        return false;
-    }
+/// Builds the values while they are read.
+class Builder final : public ValueReader<Builder> {
+public:
+    Builder(json& root, const Place& place, KORJsonError& error)
+        : next_(&root), place_(place), error_(error) {}
 
-    json::json_pointer NextPointer() const {
-        if (open_.empty()) return json::json_pointer();
-        const auto& [value, pointer] = open_.back();
-        return value->is_array() ? pointer / value->size() : pointer / key_;
-    }
-
-    json& Insert(json&& value) {
-        lines_[NextPointer().to_string()] = place_.line;
-        if (open_.empty()) return root_ = std::move(value);
-        json& around = *open_.back().value;
-        if (!around.is_array()) return around[key_] = std::move(value);
-        around.push_back(std::move(value));
-        return around.back();
-    }
-
-    bool Add(json&& value) {
-        Insert(std::move(value));
+    bool key(string_t& name) override {
+        const auto [member, fresh] = open_.back()->emplace(std::move(name), nullptr);
+        if (!fresh) return Refuse("the key " + KORShownText(member.key()) + " is given twice");
+        next_ = &*member;
         return true;
     }
-    bool Open(json&& value) {
-        const json::json_pointer pointer = NextPointer();
-        open_.push_back({&Insert(std::move(value)), pointer});
+
+    bool parse_error(std::size_t, const std::string&, const json::exception& problem) override {
+        // The library's text: "[json...] parse error at ...: text; last read: '...'". What was read last may
+        // be of any length and no UTF-8.
+        const std::string text = problem.what();
+        const auto begin = text.find(": ");
+        std::string said =
+            begin == std::string::npos ? text.substr(text.find("] ") + 2) : text.substr(begin + 2);
+        return Refuse(said.substr(0, std::min(said.find("; last read: "), std::size_t{200})));
+    }
+
+    template <class Any>
+    bool Value(Any&& value) {
+        Next() = std::forward<Any>(value);
+        return true;
+    }
+    bool Open(json::value_t kind) {
+        if (open_.size() == KORJsonFile::kDeepest) {
+            return Refuse("nested deeper than " + std::to_string(KORJsonFile::kDeepest));
+        }
+        json& value = Next();
+        value = json(kind);
+        open_.push_back(&value);
         return true;
     }
     bool Close() {
@@ -132,12 +121,78 @@ private:
         return true;
     }
 
-    json& root_;
-    std::unordered_map<std::string, int>& lines_;
+    bool Refuse(std::string message) {
+        const std::string_view read(place_.begin, place_.Last());
+        error_.line = 1 + static_cast<int>(std::count(read.begin(), read.end(), '\n'));
+        error_.column = static_cast<int>(place_.at - place_.begin);
+        const auto lineEnd = read.rfind('\n');
+        if (lineEnd != std::string_view::npos) error_.column -= static_cast<int>(lineEnd) + 1;
+        error_.message = std::move(message);
+        return false;
+    }
+
+private:
+    /// Where the next value goes.
+    json& Next() {
+        if (open_.empty() || !open_.back()->is_array()) return *next_;
+        open_.back()->push_back(nullptr);
+        return open_.back()->back();
+    }
+
+    json* next_;  ///< the root, or the member whose key was read last
     const Place& place_;
     KORJsonError& error_;
+    std::vector<json*> open_;  ///< an array does not grow while one of its elements is open
+};
+
+/// Goes through a text that was read before and notes on which line each of its values stands.
+class LineReader final : public ValueReader<LineReader> {
+public:
+    LineReader(const json& root, const Place& place, std::unordered_map<const json*, int>& lines)
+        : next_(&root), place_(place), counted_(place.begin), lines_(lines) {}
+
+    bool key(string_t& name) override {
+        next_ = &*open_.back().value->find(name);
+        return true;
+    }
+    bool parse_error(std::size_t, const std::string&, const json::exception&) override { return false; }
+
+    template <class Any>
+    bool Value(Any&&) {
+        Note();
+        return true;
+    }
+    bool Open(json::value_t) {
+        open_.push_back({&Note(), 0});
+        return true;
+    }
+    bool Close() {
+        open_.pop_back();
+        return true;
+    }
+
+private:
+    const json& Note() {
+        if (!open_.empty() && open_.back().value->is_array()) {
+            next_ = &(*open_.back().value)[open_.back().index++];
+        }
+        line_ += static_cast<int>(std::count(counted_, place_.Last(), '\n'));
+        counted_ = place_.Last();
+        lines_.emplace(next_, line_);
+        return *next_;
+    }
+
+    struct OpenValue {
+        const json* value;
+        std::size_t index;  ///< of an array's next element
+    };
+
+    const json* next_;
+    const Place& place_;
+    const char* counted_;  ///< up to here
+    int line_ = 1;
+    std::unordered_map<const json*, int>& lines_;
     std::vector<OpenValue> open_;
-    std::string key_;
 };
 
 }  // namespace
@@ -149,6 +204,15 @@ std::string KORJsonError::Text() const {
     return text + " " + message;
 }
 
+std::string KORShownText(std::string_view text) {
+    constexpr std::size_t kLongest = 60;
+    std::string shown = json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+    if (shown.size() <= kLongest) return shown;
+    std::size_t end = kLongest;
+    while ((static_cast<unsigned char>(shown[end]) & 0xC0) == 0x80) --end;  // not within a character
+    return shown.substr(0, end) + "...\"";
+}
+
 std::optional<KORJsonFile> KORJsonFile::Read(const std::string& path, KORJsonError& error) {
     std::ifstream file(path, std::ios::binary);
     file.peek();  // a directory opens, but cannot be read
@@ -158,30 +222,38 @@ std::optional<KORJsonFile> KORJsonFile::Read(const std::string& path, KORJsonErr
     }
     std::ostringstream text;
     text << file.rdbuf();
-    return Parse(text.str(), path, error);
+    return Parse(std::move(text).str(), path, error);
 }
 
-std::optional<KORJsonFile> KORJsonFile::Parse(const std::string& text, const std::string& name,
+std::optional<KORJsonFile> KORJsonFile::Parse(std::string text, const std::string& name,
                                               KORJsonError& error) {
     KORJsonFile file;
     file.name_ = name;
+    file.text_ = std::move(text);
+    file.root_ = std::make_unique<json>();
     error = {name, 0, 0, {}};
-    Place place;
-    Builder builder(file.root_, file.lines_, place, error);
-    const PlacedIterator begin(text.data(), &place);
-    const PlacedIterator end(text.data() + text.size(), &place);
-    if (!json::sax_parse(begin, end, &builder)) return std::nullopt;
+    Place place{file.text_.data(), file.text_.data()};
+    Builder builder(*file.root_, place, error);
+    // The library takes a NUL byte for the end of the text and would not see what stands behind it.
+    if (const auto nul = file.text_.find('\0'); nul != std::string::npos) {
+        place.at += nul + 1;
+        builder.Refuse("a NUL byte is no JSON");
+        return std::nullopt;
+    }
+    if (!ReadValues(file.text_, place, builder)) return std::nullopt;
     return file;
 }
 
-int KORJsonFile::Line(const json::json_pointer& value) const {
-    for (auto at = value;; at = at.parent_pointer()) {
-        const auto found = lines_.find(at.to_string());
-        if (found != lines_.end()) return found->second;
-        if (at.empty()) return 0;
+int KORJsonFile::Line(const json& value) const {
+    if (lines_.empty()) {
+        Place place{text_.data(), text_.data()};
+        LineReader reader(*root_, place, lines_);
+        ReadValues(text_, place, reader);
     }
+    const auto found = lines_.find(&value);
+    return found != lines_.end() ? found->second : 0;
 }
 
-KORJsonError KORJsonFile::ErrorAt(const json::json_pointer& value, const std::string& message) const {
+KORJsonError KORJsonFile::ErrorAt(const json& value, const std::string& message) const {
     return {name_, Line(value), 0, message};
 }

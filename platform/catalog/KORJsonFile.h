@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 /// What is wrong with a file, and where. Line and column are counted from 1; 0 when the file as a whole is
@@ -16,31 +18,39 @@ struct KORJsonError {
     std::string Text() const;  ///< "file:line:column: message", without the numbers that are 0
 };
 
-/// A JSON text that knows on which line every one of its values stands, so that whoever reads it can say
-/// where a value makes no sense. UTF-8; a key given twice in one object is an error, and so are comments and
-/// numbers that are none (NaN, Infinity) or too large for a double. It knows nothing of what the text means.
+/// A text from a file as messages show it: in quotes, control characters escaped, cut when it is long.
+std::string KORShownText(std::string_view text);
+
+/// A JSON text that can say on which line every one of its values stands, so that whoever reads it can say
+/// where a value makes no sense. UTF-8; a key given twice in one object is an error, and so are values nested
+/// deeper than kDeepest, NUL bytes, comments, and numbers that are none (NaN, Infinity) or too large for a
+/// double. It knows nothing of what the text means. Reading takes time and memory in proportion to the text.
 class KORJsonFile {
 public:
+    static constexpr std::size_t kDeepest = 200;  ///< no reader here needs more than 10
+
     /// Nothing, and `error` filled, when the file cannot be read or is no JSON.
     [[nodiscard]] static std::optional<KORJsonFile> Read(const std::string& path, KORJsonError& error);
 
     /// The same for a text at hand; `name` is what errors call it.
-    [[nodiscard]] static std::optional<KORJsonFile> Parse(const std::string& text, const std::string& name,
+    [[nodiscard]] static std::optional<KORJsonFile> Parse(std::string text, const std::string& name,
                                                           KORJsonError& error);
 
-    const nlohmann::json& Root() const { return root_; }
+    const nlohmann::json& Root() const { return *root_; }
     const std::string& Name() const { return name_; }
 
-    /// The line on which a value begins; that of the closest value around it when there is no such value.
-    int Line(const nlohmann::json::json_pointer& value) const;
+    /// The line on which a value begins. The value is Root() or lies in it; for any other, 0. A text in which
+    /// nothing is wrong pays nothing for this: the first question goes through it once more.
+    int Line(const nlohmann::json& value) const;
 
     /// An error about a value of this text.
-    KORJsonError ErrorAt(const nlohmann::json::json_pointer& value, const std::string& message) const;
+    KORJsonError ErrorAt(const nlohmann::json& value, const std::string& message) const;
 
 private:
     KORJsonFile() = default;
 
     std::string name_;
-    nlohmann::json root_;
-    std::unordered_map<std::string, int> lines_;  ///< by JSON pointer
+    std::string text_;
+    std::unique_ptr<nlohmann::json> root_;  ///< stays where it is when the file is moved
+    mutable std::unordered_map<const nlohmann::json*, int> lines_;  ///< empty until somebody asks
 };

@@ -3,43 +3,51 @@
 #include <algorithm>
 #include <limits>
 
-bool KORJsonReader::IsObjectOf(const Pointer& at, std::initializer_list<std::string_view> members) {
-    const Json& object = At(at);
-    if (!object.is_object()) {
-        Fail(at, "expected an object");
+const nlohmann::json* KORJsonReader::Find(const Json& object, const char* member) {
+    const auto found = object.find(member);
+    return found != object.end() ? &*found : nullptr;
+}
+
+const nlohmann::json& KORJsonReader::PlaceOf(const Json& object, const char* member) {
+    const Json* found = Find(object, member);
+    return found ? *found : object;
+}
+
+bool KORJsonReader::IsObjectOf(const Json& value, std::initializer_list<std::string_view> members) {
+    if (!value.is_object()) {
+        Fail(value, "expected an object");
         return false;
     }
-    for (const auto& item : object.items()) {
+    for (const auto& item : value.items()) {
         if (std::ranges::find(members, item.key()) != members.end()) continue;
-        Fail(at / item.key(), Quoted(item.key()) + " means nothing here");
+        Fail(item.value(), Quoted(item.key()) + " means nothing here");
         return false;
     }
     return true;
 }
 
 void KORJsonReader::ExpectFormat(int format) {
-    const Pointer root;
-    if (Has(root, "format") && Root()["format"] == format) return;
-    Fail(root / "format", "expected \"format\": " + std::to_string(format));
+    const Json* found = Find(Root(), "format");
+    if (found && *found == format) return;
+    Fail(PlaceOf(Root(), "format"), "expected \"format\": " + std::to_string(format));
 }
 
-const nlohmann::json& KORJsonReader::Array(const Pointer& at, const char* member) {
+const nlohmann::json& KORJsonReader::Array(const Json& object, const char* member) {
     static const Json none = Json::array();
-    if (Has(at, member) && At(at / member).is_array()) return At(at / member);
-    Fail(at / member, "expected " + Quoted(member) + ": an array");
+    const Json* found = Find(object, member);
+    if (found && found->is_array()) return *found;
+    Fail(PlaceOf(object, member), "expected " + Quoted(member) + ": an array");
     return none;
 }
 
-std::string KORJsonReader::Text(const Pointer& at, const char* member) {
-    if (Has(at, member)) {
-        const Json& text = At(at / member);
-        if (text.is_string() && !text.get_ref<const std::string&>().empty()) return text;
-    }
-    Fail(at / member, "expected " + Quoted(member) + ": a text that is not empty");
+std::string KORJsonReader::Text(const Json& object, const char* member) {
+    const Json* found = Find(object, member);
+    if (found && found->is_string() && !found->get_ref<const std::string&>().empty()) return *found;
+    Fail(PlaceOf(object, member), "expected " + Quoted(member) + ": a text that is not empty");
     return {};
 }
 
-void KORJsonReader::Fail(const Pointer& at, const std::string& message) {
+void KORJsonReader::Fail(const Json& at, const std::string& message) {
     if (!error_) error_ = file_.ErrorAt(at, message);
 }
 
@@ -48,9 +56,7 @@ bool KORJsonReader::IsInt(const Json& value) {
            value <= std::numeric_limits<int>::max();
 }
 
-std::string KORJsonReader::Quoted(std::string_view text) {
-    std::string quoted("\"");
-    quoted += text;
-    quoted += '"';
-    return quoted;
+std::string KORJsonReader::Shown(const Json& value) {
+    if (value.is_string()) return Quoted(value.get_ref<const std::string&>());
+    return value.is_structured() ? value.type_name() : value.dump();
 }

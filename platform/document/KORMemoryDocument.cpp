@@ -29,26 +29,28 @@ KORVar<KORFeature> KORMemoryDocument::NewPlatformFeature(const char* lateType, c
     return type && container_ ? container_->NewFeature(type->layout, name) : nullptr;
 }
 
-KORVar<KORMemoryContainer> KORMemoryDocument::AddContainer(const char* name) {
-    const std::string text(name);
-    if (!container_ || text.empty()) return nullptr;
-    const auto known = std::ranges::find(containerNames_, text);
-    if (known != containerNames_.end()) {
-        return applicativeContainers_[static_cast<std::size_t>(known - containerNames_.begin())];
+KORVar<KORMemoryContainer> KORMemoryDocument::AddContainer(std::string_view name) {
+    if (!container_ || name.empty() || name.front() == '\0') return nullptr;
+    const auto [known, fresh] = containerPlaces_.try_emplace(std::string(name), containerNames_.size());
+    if (fresh) {
+        applicativeContainers_.push_back(KORVar<KORMemoryContainer>::Adopt(new KORMemoryContainer(*this)));
+        containerNames_.emplace_back(name);
     }
-    applicativeContainers_.push_back(KORVar<KORMemoryContainer>::Adopt(new KORMemoryContainer(*this)));
-    containerNames_.push_back(text);
-    return applicativeContainers_.back();
+    return applicativeContainers_[known->second];
 }
 
 KORBaseUnknown* KORMemoryDocument::FindContainer(const char* name) {
-    const auto known = std::ranges::find(containerNames_, std::string_view(name));
-    return known != containerNames_.end() ? AddContainer(name).Detach() : nullptr;
+    return containerPlaces_.contains(name) ? AddContainer(name).Detach() : nullptr;
 }
 
 std::shared_ptr<const KORCatalogFile> KORMemoryDocument::OpenCatalog(std::string_view fileName) {
-    auto file = platform_.OpenCatalog(fileName);
-    if (file) catalogs_->Add(fileName, file);
+    KORJsonError error;
+    auto file = platform_.OpenCatalog(fileName, error);
+    if (file) {
+        catalogs_->Add(fileName, file);
+    } else {
+        platform_.Report(error);
+    }
     return file;
 }
 
@@ -96,6 +98,7 @@ void KORMemoryDocument::Close() noexcept {
     container_ = nullptr;
     applicativeContainers_.clear();
     containerNames_.clear();
+    containerPlaces_.clear();
 }
 
 void* KORMemoryDocument::OwnInterface(KORIID iid) {

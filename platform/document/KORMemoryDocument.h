@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unordered_map>
+
 #include "framework/KORImplements.h"
 #include "interfaces/KORIAnalysisDocument.h"
 #include "interfaces/KORIApplicativeContainers.h"
@@ -30,14 +32,15 @@ public:
     /// once it is closed.
     KORVar<KORFeature> NewPlatformFeature(const char* lateType, const KORUnicodeString& name);
 
-    /// The applicative container of that name; a new one when the document has none. Null for an empty name,
-    /// and once the document is closed. Containers are no change that can be undone; what lies in them is.
-    KORVar<KORMemoryContainer> AddContainer(const char* name);
+    /// The applicative container of that name; a new one when the document has none. Null for a name that is
+    /// empty or begins with NUL, and once the document is closed. Containers are no change that can be
+    /// undone; what lies in them is.
+    KORVar<KORMemoryContainer> AddContainer(std::string_view name);
     KORBaseUnknown* FindContainer(const char* name) override;
     const std::vector<std::string>& ContainerNames() const { return containerNames_; }  ///< oldest first
 
     /// The catalog of that file name in the platform's catalog folder, and from then on one of the document's
-    /// own. Null when it cannot be opened.
+    /// own. Null when it cannot be opened; the platform then says why on standard error.
     [[nodiscard]] std::shared_ptr<const KORCatalogFile> OpenCatalog(std::string_view fileName);
     const KORCatalogSet& Catalogs() const { return *catalogs_; }
 
@@ -88,6 +91,7 @@ private:
     KORVar<KORMemoryContainer> container_;  ///< null once it is closed
     std::vector<KORVar<KORMemoryContainer>> applicativeContainers_;
     std::vector<std::string> containerNames_;  ///< of the applicative containers, in their order
+    std::unordered_map<std::string, std::size_t> containerPlaces_;  ///< in both, by name
     const std::shared_ptr<KORCatalogSet> catalogs_;
     std::uint32_t analysisModel_ = 0;  ///< its number, when it was last seen
 };

@@ -10,16 +10,25 @@ KORPlatform::KORPlatform(std::string catalogFolder) : catalogFolder_(std::move(c
     services_.units = units_.Get();
 }
 
-std::shared_ptr<const KORCatalogFile> KORPlatform::OpenCatalog(std::string_view fileName) {
-    KORJsonError error;
-    auto catalog = KORCatalogFile::Open((std::filesystem::path(catalogFolder_) / fileName).string(), error);
-    catalogError_ = catalog ? std::string() : error.Text();
-    if (!catalog && reported_.insert(catalogError_).second) std::cerr << catalogError_ << std::endl;
-    return catalog;
+std::shared_ptr<const KORCatalogFile> KORPlatform::OpenCatalog(std::string_view fileName,
+                                                               KORJsonError& error) {
+    const std::filesystem::path name(fileName);
+    const bool plain = !name.empty() && name == name.filename() && name != "." && name != "..";
+    if (!plain || fileName.find('\0') != std::string_view::npos) {
+        error = {std::string(fileName), 0, 0, "expected the name of a file in the catalog folder"};
+        return nullptr;
+    }
+    return KORCatalogFile::Open((std::filesystem::path(catalogFolder_) / name).string(), error);
 }
 
-bool KORPlatform::ShareCatalog(std::string_view fileName) {
-    const auto catalog = OpenCatalog(fileName);
+void KORPlatform::Report(const KORJsonError& error) {
+    const std::string text = error.Text();
+    if (reported_.insert(text).second) std::cerr << text << std::endl;
+}
+
+bool KORPlatform::ShareCatalog(std::string_view fileName, KORJsonError& error) {
+    const std::filesystem::path path = std::filesystem::path(catalogFolder_) / fileName;
+    const auto catalog = KORCatalogFile::Open(path.string(), error);
     if (catalog) shared_->Add(fileName, catalog);
     return catalog != nullptr;
 }

@@ -22,24 +22,24 @@ public:
     KORServices& Services() { return services_; }
     KORUnitsService& Units() { return *units_; }  ///< in the services, too
 
-    /// The catalog of a file name in the catalog folder. Null when it is missing, malformed or incomplete;
-    /// then CatalogError says so, and so does standard error, once per error.
-    [[nodiscard]] std::shared_ptr<const KORCatalogFile> OpenCatalog(std::string_view fileName);
+    /// The catalog of a file name in the catalog folder. Null, and `error` filled, when it is missing,
+    /// malformed or incomplete, and for a name that leads out of the folder.
+    [[nodiscard]] std::shared_ptr<const KORCatalogFile> OpenCatalog(std::string_view fileName,
+                                                                    KORJsonError& error);
 
     /// Makes the late types of a catalog known to every document of this platform, beside the platform's own
-    /// and without being opened by it. False, as when it is opened, when it cannot be.
-    [[nodiscard]] bool ShareCatalog(std::string_view fileName);
+    /// and without being opened by it. It is the host's choice: also a path is taken. False, and `error`
+    /// filled, when it cannot be opened.
+    [[nodiscard]] bool ShareCatalog(std::string_view fileName, KORJsonError& error);
     std::shared_ptr<const KORCatalogSet> SharedCatalogs() const { return shared_; }
 
-    /// What was wrong with the catalog opened last, as "file:line: what was expected"; empty when nothing
-    /// was.
-    const std::string& CatalogError() const { return catalogError_; }
+    /// Says on standard error what went wrong where the caller gets a status only; each error once.
+    void Report(const KORJsonError& error);
 
 private:
     std::string catalogFolder_;
     KORVar<KORUnitsService> units_ = KORVar<KORUnitsService>::Adopt(new KORUnitsService);
     KORServices services_;
     const std::shared_ptr<KORCatalogSet> shared_ = std::make_shared<KORCatalogSet>();
-    std::string catalogError_;
     std::set<std::string> reported_;
 };

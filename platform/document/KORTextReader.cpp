@@ -8,71 +8,75 @@ namespace {
 constexpr int kFormat = 1;
 constexpr const char* kPressure = "PRESSURE";
 
+/// Also what lies behind an embedded NUL.
+KORUnicodeString String(const nlohmann::json& text) {
+    return KORUnicodeString(std::string_view(text.get_ref<const std::string&>()));
+}
+
 }  // namespace
 
 void KORTextReader::Read() {
-    const Pointer root;
-    if (!IsObjectOf(root, {"format", "catalogs", "pressure_unit", "containers", "features"})) return;
+    if (!IsObjectOf(Root(), {"format", "catalogs", "pressure_unit", "containers", "features"})) return;
     ExpectFormat(kFormat);
-    if (!KORBaseUnknown_var::Adopt(document_.GetFeatContainer())) Fail(root, "the document is closed");
+    if (!KORBaseUnknown_var::Adopt(document_.GetFeatContainer())) Fail(Root(), "the document is closed");
     if (!Error()) ReadCatalogs();
     if (!Error()) ReadPressureUnit();
     if (!Error()) ReadContainers();
     if (Error()) return;
-    const std::size_t count = Array(root, "features").size();
-    for (std::size_t index = 0; index < count && !Error(); ++index) {
-        features_.push_back(ReadHead(root / "features" / index));
-        if (!Error()) places_.emplace(features_.back().id, index);
+    const Json& features = Array(Root(), "features");
+    for (const Json& feature : features) {
+        features_.push_back(ReadHead(feature));
+        if (Error()) return;
+        places_.emplace(features_.back().id, features_.size() - 1);
     }
-    for (std::size_t index = 0; index < count && !Error(); ++index) {
-        const Pointer at = root / "features" / index;
-        if (Has(at, "attributes")) ReadAttributes(at / "attributes", features_[index]);
+    for (std::size_t index = 0; index < features.size() && !Error(); ++index) {
+        if (const Json* attributes = Find(features[index], "attributes")) {
+            ReadAttributes(*attributes, features_[index]);
+        }
     }
 }
 
 void KORTextReader::ReadCatalogs() {
-    const Pointer root;
-    if (!Has(root, "catalogs")) return;
-    const std::size_t count = Array(root, "catalogs").size();
-    for (std::size_t index = 0; index < count && !Error(); ++index) {
-        const Pointer at = root / "catalogs" / index;
-        if (!At(at).is_string()) {
-            Fail(at, "expected the file name of a catalog");
+    if (!Find(Root(), "catalogs")) return;
+    for (const Json& catalog : Array(Root(), "catalogs")) {
+        if (!catalog.is_string()) {
+            Fail(catalog, "expected the file name of a catalog");
             return;
         }
-        const std::string name = At(at);
-        const auto file = document_.Platform().OpenCatalog(name);
-        if (file) {
-            catalogs_.Add(name, file);
-        } else {
-            Fail(at,
-                 "the catalog " + Quoted(name) + " cannot be opened: " + document_.Platform().CatalogError());
+        const std::string name = catalog;
+        KORJsonError error;
+        const auto file = document_.Platform().OpenCatalog(name, error);
+        if (!file) {
+            Fail(catalog, "the catalog " + Quoted(name) + " cannot be opened: " + error.Text());
+            return;
         }
+        catalogs_.Add(name, file);
     }
 }
 
 void KORTextReader::ReadPressureUnit() {
-    const Pointer root;
-    if (!Has(root, "pressure_unit")) return;
-    pressureUnit_ = Text(root, "pressure_unit");
+    const Json* unit = Find(Root(), "pressure_unit");
+    if (!unit) return;
+    pressureUnit_ = Text(Root(), "pressure_unit");
     if (Error() || KORFindUnit(*KORFindUnitType(kPressure), pressureUnit_)) return;
-    Fail(root / "pressure_unit", Quoted(pressureUnit_) + " is no unit of pressure");
+    Fail(*unit, Quoted(pressureUnit_) + " is no unit of pressure");
 }
 
 void KORTextReader::ReadContainers() {
-    const Pointer root;
-    if (!Has(root, "containers")) return;
-    for (std::size_t index = 0; index < Array(root, "containers").size(); ++index) {
-        const Pointer at = root / "containers" / index;
-        if (!At(at).is_string() || At(at) == "") {
-            Fail(at, "expected the name of an applicative container");
+    if (!Find(Root(), "containers")) return;
+    for (const Json& name : Array(Root(), "containers")) {
+        // One that begins with NUL is empty to those who ask for it by narrow text.
+        const bool named = name.is_string() && name.get_ref<const std::string&>().c_str()[0] != '\0';
+        if (!named) {
+            Fail(name, "expected the name of an applicative container");
             return;
         }
-        containers_.push_back(At(at));
+        containers_.push_back(name);
+        knownContainers_.insert(containers_.back());
     }
 }
 
-KORTextReader::Feature KORTextReader::ReadHead(const Pointer& at) {
+KORTextReader::Feature KORTextReader::ReadHead(const Json& at) {
     Feature feature;
     if (!IsObjectOf(at, {"id", "type", "name", "alias", "container", "attributes"})) return feature;
     feature.id = ReadId(at);
@@ -81,7 +85,7 @@ KORTextReader::Feature KORTextReader::ReadHead(const Pointer& at) {
     if (type) {
         feature.layout = type->layout;
     } else {
-        Fail(at / "type", "the late type " + Quoted(lateType) + " is in none of the catalogs");
+        Fail(PlaceOf(at, "type"), "the late type " + Quoted(lateType) + " is in none of the catalogs");
     }
     feature.name = OptionalText(at, "name");
     feature.alias = OptionalText(at, "alias");
@@ -89,49 +93,50 @@ KORTextReader::Feature KORTextReader::ReadHead(const Pointer& at) {
     return feature;
 }
 
-int KORTextReader::ReadId(const Pointer& at) {
-    if (!Has(at, "id") || !IsInt(At(at / "id")) || At(at / "id") < 1) {
-        Fail(at / "id", "expected \"id\": a whole number from 1 on");
+int KORTextReader::ReadId(const Json& at) {
+    const Json& value = PlaceOf(at, "id");
+    if (!IsInt(value) || value < 1) {
+        Fail(value, "expected \"id\": a whole number from 1 on");
         return 0;
     }
-    const int id = At(at / "id");
-    if (places_.contains(id)) Fail(at / "id", "the id " + std::to_string(id) + " is given twice");
+    const int id = value;
+    if (places_.contains(id)) Fail(value, "the id " + std::to_string(id) + " is given twice");
     return id;
 }
 
-void KORTextReader::ReadContainer(const Pointer& at, Feature& feature) {
-    if (!Has(at, "container")) return;
-    const Json& container = At(at / "container");
-    if (container.is_null()) {
+void KORTextReader::ReadContainer(const Json& at, Feature& feature) {
+    const Json* container = Find(at, "container");
+    if (!container) return;
+    if (container->is_null()) {
         feature.container.reset();
-    } else if (std::ranges::none_of(containers_,
-                                    [&](const std::string& name) { return container == name; })) {
-        Fail(at / "container", "expected one of \"containers\", or null");
+    } else if (container->is_string() &&
+               knownContainers_.contains(container->get_ref<const std::string&>())) {
+        feature.container = *container;
     } else {
-        feature.container = container;
+        Fail(*container, "expected one of \"containers\", or null");
     }
 }
 
-void KORTextReader::ReadAttributes(const Pointer& at, Feature& feature) {
-    if (!At(at).is_object()) {
+void KORTextReader::ReadAttributes(const Json& at, Feature& feature) {
+    if (!at.is_object()) {
         Fail(at, "expected an object");
         return;
     }
-    for (const auto& item : At(at).items()) {
+    for (const auto& item : at.items()) {
         const KORName* key = KORName::Find(item.key());
         const KORLayout::Place place = key ? feature.layout->Find(key) : KORLayout::Place{};
         if (place.slot != 0) {
-            ReadAttribute(at / item.key(), place, feature);
+            ReadAttribute(item.value(), place, feature);
         } else {
-            CheckKept(at / item.key());
+            CheckKept(item.value());
             feature.kept.emplace(item.key(), item.value());
         }
         if (Error()) return;
     }
 }
 
-void KORTextReader::ReadAttribute(const Pointer& at, KORLayout::Place place, Feature& feature) {
-    if (At(at).is_null()) {
+void KORTextReader::ReadAttribute(const Json& at, KORLayout::Place place, Feature& feature) {
+    if (at.is_null()) {
         feature.values.emplace_back(place.slot, KORValue(place.kind));
     } else if (place.kind == KORAttributeKind::Component) {
         feature.references.push_back({place.slot, ReadReference(at)});
@@ -142,27 +147,26 @@ void KORTextReader::ReadAttribute(const Pointer& at, KORLayout::Place place, Fea
     }
 }
 
-KORValue KORTextReader::ReadValue(const Pointer& at, KORAttributeKind kind) {
-    const Json& value = At(at);
+KORValue KORTextReader::ReadValue(const Json& value, KORAttributeKind kind) {
     switch (kind) {
         case KORAttributeKind::Boolean:
             if (value.is_boolean()) return KORValue::OfBoolean(value.get<bool>());
-            Fail(at, "expected true or false");
+            Fail(value, "expected true or false");
             break;
         case KORAttributeKind::Integer:
             if (IsInt(value)) return KORValue::OfInteger(value.get<int>());
-            Fail(at, "expected a whole number of 32 bits");
+            Fail(value, "expected a whole number of 32 bits");
             break;
         case KORAttributeKind::Double:
             if (const auto number = Number(value); number) return KORValue::OfDouble(*number);
-            Fail(at, "expected a number");
+            Fail(value, "expected a number");
             break;
         case KORAttributeKind::String:
-            if (value.is_string()) return KORValue::OfString(value.get_ref<const std::string&>().c_str());
-            Fail(at, "expected a text");
+            if (value.is_string()) return KORValue::OfString(String(value));
+            Fail(value, "expected a text");
             break;
         case KORAttributeKind::ListOfDoubles:
-            return ReadNumbers(at);
+            return ReadNumbers(value);
         case KORAttributeKind::Component:
         case KORAttributeKind::ListOfComponents:
             break;  // references are resolved once all features are there
@@ -170,15 +174,16 @@ KORValue KORTextReader::ReadValue(const Pointer& at, KORAttributeKind kind) {
     return KORValue(kind);
 }
 
-KORValue KORTextReader::ReadNumbers(const Pointer& at) {
+KORValue KORTextReader::ReadNumbers(const Json& at) {
     KORRawColldouble list;
-    if (!At(at).is_array()) Fail(at, "expected an array of numbers");
-    for (std::size_t index = 0; index < At(at).size() && !Error(); ++index) {
-        const auto number = Number(At(at / index));
+    if (!at.is_array()) Fail(at, "expected an array of numbers");
+    for (const Json& entry : at) {
+        if (Error()) break;
+        const auto number = Number(entry);
         if (number) {
             list.Append(*number);
         } else {
-            Fail(at / index, "expected a number");
+            Fail(entry, "expected a number");
         }
     }
     return KORValue::OfListOfDoubles(list);
@@ -193,53 +198,50 @@ std::optional<double> KORTextReader::Number(const Json& value) const {
     return std::nullopt;
 }
 
-std::vector<int> KORTextReader::ReadReference(const Pointer& at) {
-    if (!At(at).is_object() || At(at).size() != 1 || !Has(at, "ref")) {
-        Fail(at, "expected {\"ref\": id}");
-        return {};
-    }
-    return {ReadTarget(at / "ref")};
+std::vector<int> KORTextReader::ReadReference(const Json& at) {
+    const Json* target = Find(at, "ref");
+    if (target && at.size() == 1) return {ReadTarget(*target)};
+    Fail(at, "expected {\"ref\": id}");
+    return {};
 }
 
-std::vector<int> KORTextReader::ReadReferences(const Pointer& at) {
+std::vector<int> KORTextReader::ReadReferences(const Json& at) {
     std::vector<int> ids;
-    if (!At(at).is_object() || At(at).size() != 1 || !Has(at, "refs") || !At(at / "refs").is_array()) {
+    const Json* targets = Find(at, "refs");
+    if (!targets || at.size() != 1 || !targets->is_array()) {
         Fail(at, "expected {\"refs\": [id or null, ...]}");
         return ids;
     }
-    for (std::size_t index = 0; index < At(at / "refs").size(); ++index) {
-        const Pointer entry = at / "refs" / index;
-        ids.push_back(At(entry).is_null() ? 0 : ReadTarget(entry));
-    }
+    for (const Json& target : *targets) ids.push_back(target.is_null() ? 0 : ReadTarget(target));
     return ids;
 }
 
-int KORTextReader::ReadTarget(const Pointer& at) {
-    if (IsInt(At(at)) && places_.contains(At(at).get<int>())) return At(at);
-    Fail(at, "there is no feature with the id " + At(at).dump());
+int KORTextReader::ReadTarget(const Json& at) {
+    if (IsInt(at) && places_.contains(at.get<int>())) return at;
+    if (!Error()) Fail(at, "there is no feature with the id " + Shown(at));
     return 0;
 }
 
-void KORTextReader::CheckKept(const Pointer& at) {
-    if (!At(at).is_object()) return;
-    if (Has(at, "refs")) {
+void KORTextReader::CheckKept(const Json& at) {
+    if (!at.is_object()) return;
+    if (Find(at, "refs")) {
         ReadReferences(at);
     } else {
         ReadReference(at);
     }
 }
 
-std::optional<KORUnicodeString> KORTextReader::OptionalText(const Pointer& at, const char* member) {
-    if (!Has(at, member)) return std::nullopt;
-    const Json& text = At(at / member);
-    if (text.is_string()) return KORUnicodeString(text.get_ref<const std::string&>());
-    Fail(at / member, "expected " + Quoted(member) + ": a text");
+std::optional<KORUnicodeString> KORTextReader::OptionalText(const Json& at, const char* member) {
+    const Json* text = Find(at, member);
+    if (!text) return std::nullopt;
+    if (text->is_string()) return String(*text);
+    Fail(*text, "expected " + Quoted(member) + ": a text");
     return std::nullopt;
 }
 
 std::unordered_map<int, std::uint32_t> KORTextReader::Build(KORKeptAttributes& kept) const {
     for (const auto& catalog : catalogs_.Catalogs()) static_cast<void>(document_.OpenCatalog(catalog.name));
-    for (const std::string& name : containers_) document_.AddContainer(name.c_str());
+    for (const std::string& name : containers_) document_.AddContainer(name);
     if (!pressureUnit_.empty()) document_.Platform().Units().SetCurrentUnit(kPressure, pressureUnit_);
 
     std::vector<KORVar<KORFeature>> made;
@@ -270,8 +272,9 @@ std::unordered_map<int, std::uint32_t> KORTextReader::Build(KORKeptAttributes& k
 
 KORVar<KORFeature> KORTextReader::Make(const Feature& feature) const {
     const bool own = !feature.container || feature.container->empty();
-    const KORIFeatureContainer_var container(KORBaseUnknown_var::Adopt(
-        own ? document_.GetFeatContainer() : document_.FindContainer(feature.container->c_str())));
+    const KORIFeatureContainer_var container(
+        own ? KORBaseUnknown_var::Adopt(document_.GetFeatContainer())
+            : KORBaseUnknown_var(document_.AddContainer(*feature.container)));
     auto made = container->NewFeature(feature.layout, feature.name.value_or(feature.layout->NameText()));
     if (feature.alias) made->SetAlias(*feature.alias);
     for (const auto& [slot, value] : feature.values) made->Write(slot, KORValue(value));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <unordered_set>
+
 #include "platform/catalog/KORJsonReader.h"
 #include "platform/document/KORTextDocument.h"
 
@@ -35,19 +37,19 @@ private:
     void ReadCatalogs();
     void ReadPressureUnit();
     void ReadContainers();
-    Feature ReadHead(const Pointer& at);
-    int ReadId(const Pointer& at);
-    void ReadContainer(const Pointer& at, Feature& feature);
-    void ReadAttributes(const Pointer& at, Feature& feature);
-    void ReadAttribute(const Pointer& at, KORLayout::Place place, Feature& feature);
-    KORValue ReadValue(const Pointer& at, KORAttributeKind kind);
-    KORValue ReadNumbers(const Pointer& at);
+    Feature ReadHead(const Json& at);
+    int ReadId(const Json& at);
+    void ReadContainer(const Json& at, Feature& feature);
+    void ReadAttributes(const Json& at, Feature& feature);
+    void ReadAttribute(const Json& at, KORLayout::Place place, Feature& feature);
+    KORValue ReadValue(const Json& value, KORAttributeKind kind);
+    KORValue ReadNumbers(const Json& at);
     std::optional<double> Number(const Json& value) const;
-    std::vector<int> ReadReference(const Pointer& at);
-    std::vector<int> ReadReferences(const Pointer& at);
-    int ReadTarget(const Pointer& at);  ///< the id that stands there
-    void CheckKept(const Pointer& at);
-    std::optional<KORUnicodeString> OptionalText(const Pointer& at, const char* member);
+    std::vector<int> ReadReference(const Json& at);
+    std::vector<int> ReadReferences(const Json& at);
+    int ReadTarget(const Json& at);  ///< the id that stands there
+    void CheckKept(const Json& at);
+    std::optional<KORUnicodeString> OptionalText(const Json& at, const char* member);
 
     KORVar<KORFeature> Make(const Feature& feature) const;
 
@@ -55,6 +57,7 @@ private:
     KORCatalogSet catalogs_;
     std::string pressureUnit_;
     std::vector<std::string> containers_;
+    std::unordered_set<std::string> knownContainers_;
     std::vector<Feature> features_;
     std::unordered_map<int, std::size_t> places_;  ///< in features_, by id
 };

@@ -58,7 +58,11 @@ void KORTextWriter::WriteHead() {
     std::vector<std::string> catalogs;
     for (const auto& catalog : document_.Catalogs().Catalogs()) catalogs.push_back(Quoted(catalog.name));
     std::vector<std::string> containers;
-    for (const std::string& name : document_.ContainerNames()) containers.push_back(Quoted(name));
+    for (const std::string& name : document_.ContainerNames()) {
+        containers.push_back(Quoted(name));
+        const KORBaseUnknown_var container(document_.AddContainer(name));
+        containers_.emplace(container.Get(), containers.back());
+    }
     text_ = "{\n  \"format\": 1,\n  \"catalogs\": " + Joined(catalogs) +
             ",\n  \"pressure_unit\": " + Quoted(document_.Platform().Units().CurrentUnit(pressure).symbol) +
             ",\n  \"containers\": " + Joined(containers) + ",\n  \"features\": [";
@@ -88,10 +92,10 @@ void KORTextWriter::WriteFeature(const KORFeature& feature) {
 
 void KORTextWriter::WriteContainer(const KORFeature& feature) {
     const KORBaseUnknown* container = feature.At(KORLayout::kContainer).Component();
-    if (!container) text_ += ", \"container\": null";
-    for (const std::string& name : document_.ContainerNames()) {
-        if (KORBaseUnknown_var::Adopt(document_.FindContainer(name.c_str())).Get() != container) continue;
-        text_ += ", \"container\": " + Quoted(name);
+    if (!container) {
+        text_ += ", \"container\": null";
+    } else if (const auto name = containers_.find(container); name != containers_.end()) {
+        text_ += ", \"container\": " + name->second;
     }
 }
 

@@ -28,6 +28,8 @@ private:
     const KORKeptAttributes& kept_;
     std::vector<KORVar<KORFeature>> features_;
     KORFeaturePlaces ids_;
+    std::unordered_map<const KORBaseUnknown*, std::string>
+        containers_;  ///< quoted names of the applicative ones
     std::string text_;
     std::string error_;  ///< the first one
 };

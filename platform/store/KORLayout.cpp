@@ -14,7 +14,7 @@ std::uint32_t NextOrdinal() {
 KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes, const KORName* role)
     : name_(name),
       role_(role),
-      nameText_(name->c_str()),
+      nameText_(std::string_view(name->Text())),
       attributes_(std::move(attributes)),
       ordinal_(NextOrdinal()) {
     if (attributes_.empty()) return;

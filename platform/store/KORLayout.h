@@ -27,13 +27,17 @@ public:
     static constexpr KORSlot kContainer = 2;
     static constexpr KORSlot kFirstAttribute = 3;
 
+    /// Slots from here on are no late type's: they hold what a feature has beyond its layout.
+    static constexpr KORSlot kFirstUndeclared = 0x8000;
+    static constexpr std::size_t kMostAttributes = kFirstUndeclared - kFirstAttribute;
+
     /// Where an attribute lies; slot 0 when there is none.
     struct Place {
         KORSlot slot = 0;
         KORAttributeKind kind = KORAttributeKind::Boolean;
     };
 
-    /// The attributes in slot order; no name twice, and at most one father.
+    /// The attributes in slot order; no name twice, at most one father, no more than kMostAttributes.
     KORLayout(const KORName* name, std::vector<KORAttribute> attributes, const KORName* role = nullptr);
 
     const KORName* Name() const { return name_; }

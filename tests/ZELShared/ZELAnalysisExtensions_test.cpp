@@ -12,7 +12,10 @@ namespace {
 
 class ZELAnalysisExtensions : public testing::Test {
 protected:
-    void SetUp() override { ASSERT_TRUE(platform.ShareCatalog(ZELSharedCatalog())); }
+    void SetUp() override {
+        KORJsonError error;
+        ASSERT_TRUE(platform.ShareCatalog(ZELSharedCatalog(), error)) << error.Text();
+    }
 
     ZELIKqcAnalysisCaseFact_var CaseFactory() {
         void* found = nullptr;

@@ -26,7 +26,7 @@ ZELPlatformStore::ZELPlatformStore() : folder_(NewFolder()), types_(ZELModuleTyp
     catalog_ = KORCatalogFile::Open(ZELModuleCatalog(), error);
     std::filesystem::copy_file(ZELModuleCatalog(), std::filesystem::path(folder_) / kCatalog);
     platform_ = std::make_unique<KORPlatform>(folder_);
-    if (!platform_->ShareCatalog(ZELSharedCatalog())) throw std::runtime_error(platform_->CatalogError());
+    if (!platform_->ShareCatalog(ZELSharedCatalog(), error)) throw std::runtime_error(error.Text());
     document_ = KORMemoryDocument::New(*platform_);
 }
 

@@ -124,7 +124,7 @@ std::string JsonNode::Excerpt() const {
 }
 
 int JsonNode::Line() const {
-    return file_->Line(at_);
+    return file_->Line(*json_);
 }
 
 void JsonNode::Report(std::string code, std::string text, std::vector<std::string> details) const {

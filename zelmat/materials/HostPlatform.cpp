@@ -24,7 +24,9 @@ std::string HostPlatform::CatalogPath() const {
 
 bool HostPlatform::OpenCatalog(Findings& findings) {
     const std::string shared = (std::filesystem::path(catalogs_) / kSharedCatalog).string();
-    return Open(CatalogPath(), findings) && Open(shared, findings) && platform_.ShareCatalog(kSharedCatalog);
+    KORJsonError error;
+    return Open(CatalogPath(), findings) && Open(shared, findings) &&
+           platform_.ShareCatalog(kSharedCatalog, error);
 }
 
 bool HostPlatform::Open(const std::string& path, Findings& findings) const {

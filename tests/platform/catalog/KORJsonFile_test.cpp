@@ -5,11 +5,10 @@
 #include <filesystem>
 #include <fstream>
 
+#include <malloc.h>
 #include <unistd.h>
 
 namespace {
-
-using Pointer = nlohmann::json::json_pointer;
 
 /// What is wrong with a text, as its reader would be told.
 std::string ErrorOf(const std::string& text) {
@@ -23,22 +22,34 @@ TEST(KORJsonFile, KnowsTheLineOfEveryValue) {
         KORJsonFile::Parse("{\n  \"a\": 1,\n  \"b\": [2,\n3\n, {\"c/d\": \"x\"}]\n}", "card.json", error);
 
     ASSERT_TRUE(file);
-    EXPECT_EQ(1, file->Line(Pointer("")));
-    EXPECT_EQ(2, file->Line(Pointer("/a")));
-    EXPECT_EQ(3, file->Line(Pointer("/b")));
-    EXPECT_EQ(3, file->Line(Pointer("/b/0")));
-    EXPECT_EQ(4, file->Line(Pointer("/b/1")));
-    EXPECT_EQ(5, file->Line(Pointer("/b/2/c~1d")));
+    const auto& root = file->Root();
+    EXPECT_EQ(1, file->Line(root));
+    EXPECT_EQ(2, file->Line(root["a"]));
+    EXPECT_EQ(3, file->Line(root["b"]));
+    EXPECT_EQ(3, file->Line(root["b"][0]));
+    EXPECT_EQ(4, file->Line(root["b"][1]));
+    EXPECT_EQ(5, file->Line(root["b"][2]["c/d"]));
+    EXPECT_EQ("card.json:4: expected a text", file->ErrorAt(root["b"][1], "expected a text").Text());
 }
 
-TEST(KORJsonFile, AnswersTheLineAroundAValueThatIsMissing) {
+TEST(KORJsonFile, KnowsNoLineOfAValueFromElsewhere) {
     KORJsonError error;
-    const auto file = KORJsonFile::Parse("{\n\"a\": {}}", "card.json", error);
+    const auto file = KORJsonFile::Parse("[1]", "card.json", error);
 
     ASSERT_TRUE(file);
-    EXPECT_EQ(2, file->Line(Pointer("/a/missing/deeper")));
-    EXPECT_EQ("card.json:2: expected \"missing\"",
-              file->ErrorAt(Pointer("/a/missing"), "expected \"missing\"").Text());
+    EXPECT_EQ(0, file->Line(nlohmann::json(1)));
+}
+
+TEST(KORJsonFile, KnowsItsLinesAlsoAfterItWasMoved) {
+    KORJsonError error;
+    auto first = KORJsonFile::Parse("\n[\n1]", "card.json", error);
+    ASSERT_TRUE(first);
+    EXPECT_EQ(2, first->Line(first->Root()));
+
+    const KORJsonFile second = std::move(*first);
+
+    EXPECT_EQ(2, second.Line(second.Root()));
+    EXPECT_EQ(3, second.Line(second.Root()[0]));
 }
 
 TEST(KORJsonFile, BuildsAllKindsOfValues) {
@@ -80,6 +91,59 @@ TEST(KORJsonFile, RefusesCommentsAndTextThatIsNoUtf8) {
     EXPECT_NE("", ErrorOf("\"\xE4\""));
 }
 
+TEST(KORJsonFile, RefusesValuesNestedDeeperThanTwoHundredWhereTheyBegin) {
+    const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
+    std::string objects;
+    for (int depth = 0; depth < 201; ++depth) objects += "{\"a\":";
+
+    EXPECT_EQ("", ErrorOf(nested(200)));
+    EXPECT_EQ("card.json:1:201: nested deeper than 200", ErrorOf(nested(201)));
+    EXPECT_EQ("card.json:1:201: nested deeper than 200", ErrorOf(std::string(10'000'000, '[')));
+    EXPECT_EQ("card.json:1:1001: nested deeper than 200", ErrorOf(objects));
+}
+
+TEST(KORJsonFile, SeesWhatStandsBehindANulByte) {
+    EXPECT_EQ("card.json:2:2: a NUL byte is no JSON", ErrorOf(std::string("{\n}\0 ?", 6)));
+    EXPECT_EQ("card.json:1:3: a NUL byte is no JSON", ErrorOf(std::string("[\"\0\"]", 5)));
+}
+
+TEST(KORJsonFile, ShowsNamesInErrorsWithoutTheirControlCharactersAndNotAtAnyLength) {
+    const std::string longName(1'000'000, 'x');
+    const std::string sixty = "\"" + std::string(57, 'x');
+
+    EXPECT_EQ("card.json:1:15: the key \"a\\n\" is given twice", ErrorOf("{\"a\\n\":1, \"a\\n\":2}"));
+    EXPECT_NE(std::string::npos, ErrorOf("{\"" + longName + "\":1, \"" + longName + "\":2}").find(sixty));
+    EXPECT_LT(ErrorOf("{\"" + longName + "\":1, \"" + longName + "\":2}").size(), 150u);
+    EXPECT_LT(ErrorOf("[\"" + longName).size(), 300u);
+}
+
+TEST(KORJsonFile, CutsNamesInErrorsBetweenCharacters) {
+    EXPECT_EQ("\"a" + std::string(58, 'x') + "...\"", KORShownText("a" + std::string(100, 'x')));
+    std::string accents = "a";
+    for (int i = 0; i < 50; ++i) accents += "\u00e4";
+    const std::string shown = KORShownText(accents);
+    EXPECT_EQ("\u00e4...\"", shown.substr(shown.size() - 6));
+}
+
+/// Bytes that the heap holds; 0 where the allocator does not count them.
+std::size_t HeapBytes() {
+    return mallinfo2().uordblks + mallinfo2().hblkhd;
+}
+
+TEST(KORJsonFile, TakesMemoryInProportionToTheTextAlsoUnderALongKey) {
+    std::string text = "{\"" + std::string(1'000'000, 'k') + "\": [";
+    for (int i = 0; i < 1000; ++i) text += "1,";
+    text += "1]}";
+    KORJsonError error;
+    const std::size_t before = HeapBytes();
+
+    const auto file = KORJsonFile::Parse(text, "card.json", error);
+
+    ASSERT_TRUE(file);
+    EXPECT_EQ(1, file->Line(file->Root().front()[1000]));
+    EXPECT_LT(HeapBytes(), before + 20'000'000);
+}
+
 TEST(KORJsonFile, ReadsAFileAndRefusesOneThatCannotBeRead) {
     const std::string folder = testing::TempDir();
     const std::string path = folder + "KORJsonFile_test_" + std::to_string(::getpid()) + ".json";
@@ -91,7 +155,7 @@ TEST(KORJsonFile, ReadsAFileAndRefusesOneThatCannotBeRead) {
 
     ASSERT_TRUE(file);
     EXPECT_EQ(path, file->Name());
-    EXPECT_EQ(2, file->Line(Pointer("/a")));
+    EXPECT_EQ(2, file->Line(file->Root()["a"]));
     EXPECT_FALSE(KORJsonFile::Read(path, error));
     EXPECT_EQ(path + ": cannot be read: No such file or directory", error.Text());
     EXPECT_FALSE(KORJsonFile::Read(folder, error));

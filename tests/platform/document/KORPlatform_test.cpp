@@ -1,4 +1,4 @@
-#include "platform/document/KORPlatform.h"
+#include "platform/document/KORMemoryDocument.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -22,31 +22,46 @@ protected:
 
 TEST_F(KORPlatformTest, OpensCatalogsOfItsFolder) {
     std::ofstream(folder + "/a.KORfct") << R"({"format": 1, "types": []})";
+    KORJsonError error;
 
-    EXPECT_TRUE(platform.OpenCatalog("a.KORfct"));
-    EXPECT_EQ("", platform.CatalogError());
+    EXPECT_TRUE(platform.OpenCatalog("a.KORfct", error)) << error.Text();
 }
 
-TEST_F(KORPlatformTest, SaysWhatIsWrongWithACatalogOnceOnStandardErrorAndAsOftenAsAsked) {
+TEST_F(KORPlatformTest, TellsItsCallerAndNobodyElseWhatIsWrongWithACatalog) {
+    testing::internal::CaptureStderr();
+    KORJsonError error;
+
+    EXPECT_FALSE(platform.OpenCatalog("a.KORfct", error));
+
+    EXPECT_EQ(folder + "/a.KORfct: cannot be read: No such file or directory", error.Text());
+    EXPECT_EQ("", testing::internal::GetCapturedStderr());
+}
+
+TEST_F(KORPlatformTest, OpensNothingOutsideOfItsFolder) {
+    std::filesystem::create_directory(folder + "/inner");
+    std::ofstream(folder + "/a.KORfct") << R"({"format": 1, "types": []})";
+    const std::string absolute = folder + "/a.KORfct";
+    const std::string_view nul("a.KORfct\0", 9);
+
+    for (const std::string_view name :
+         {std::string_view(absolute), std::string_view("inner/../a.KORfct"), std::string_view("../a.KORfct"),
+          std::string_view("./a.KORfct"), std::string_view(".."), std::string_view("."), std::string_view(""),
+          std::string_view("inner/"), nul}) {
+        KORJsonError error;
+        EXPECT_FALSE(platform.OpenCatalog(name, error)) << name;
+        EXPECT_EQ(std::string(name) + ": expected the name of a file in the catalog folder", error.Text());
+    }
+}
+
+TEST_F(KORPlatformTest, ReportsWhatTheModuleCannotBeToldOnceOnStandardError) {
+    const auto document = KORMemoryDocument::New(platform);
     const std::string expected = folder + "/a.KORfct: cannot be read: No such file or directory";
     testing::internal::CaptureStderr();
 
-    EXPECT_FALSE(platform.OpenCatalog("a.KORfct"));
-    EXPECT_FALSE(platform.OpenCatalog("a.KORfct"));
+    EXPECT_FALSE(document->OpenCatalog("a.KORfct"));
+    EXPECT_FALSE(document->OpenCatalog("a.KORfct"));
 
     EXPECT_EQ(expected + "\n", testing::internal::GetCapturedStderr());
-    EXPECT_EQ(expected, platform.CatalogError());
-}
-
-TEST_F(KORPlatformTest, ForgetsTheErrorWhenTheNextCatalogOpens) {
-    std::ofstream(folder + "/a.KORfct") << R"({"format": 1, "types": []})";
-    testing::internal::CaptureStderr();
-    EXPECT_FALSE(platform.OpenCatalog("b.KORfct"));
-    testing::internal::GetCapturedStderr();
-
-    EXPECT_TRUE(platform.OpenCatalog("a.KORfct"));
-
-    EXPECT_EQ("", platform.CatalogError());
 }
 
 TEST_F(KORPlatformTest, HasServicesOfItsOwn) {

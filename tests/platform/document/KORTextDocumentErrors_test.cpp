@@ -30,6 +30,19 @@ constexpr Mistake kMistakes[] = {
      "text:2: expected the name of an applicative container"},
     {"ContainerEmpty", "{\"format\": 1,\n\"containers\": [\"\"]}",
      "text:2: expected the name of an applicative container"},
+    {"ContainerBeginsWithNul", "{\"format\": 1,\n\"containers\": [\"\\u0000A\"]}",
+     "text:2: expected the name of an applicative container"},
+    {"CatalogAbove", "{\"format\": 1,\n\"catalogs\": [\"../a.KORfct\"]}",
+     "text:2: the catalog \"../a.KORfct\" cannot be opened: ../a.KORfct: expected the name of a file in the "
+     "catalog folder"},
+    {"CatalogAbsolute", "{\"format\": 1,\n\"catalogs\": [\"/a.KORfct\"]}",
+     "text:2: the catalog \"/a.KORfct\" cannot be opened: /a.KORfct: expected the name of a file in the "
+     "catalog folder"},
+    {"NestedTooDeep",
+     "{\"format\":\n[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[["
+     "[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[["
+     "[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[[",
+     "text:2:200: nested deeper than 200"},
     {"FeatureNoObject", "{\"format\": 1, \"features\": [\n1]}", "text:2: expected an object"},
     {"FeatureUnknownMember", "{\"format\": 1, \"features\": [\n{\"ID\": 1}]}",
      "text:2: \"ID\" means nothing here"},
@@ -146,14 +159,14 @@ TEST_P(KORTextDocumentWrongValues, AreToldWithTheirLineAndChangeNothing) {
 
 INSTANTIATE_TEST_SUITE_P(Value, KORTextDocumentWrongValues, testing::ValuesIn(kWrongValues), NameOf);
 
-TEST_F(KORTextDocumentErrors, NameTheCatalogThatCannotBeOpened) {
+TEST_F(KORTextDocumentErrors, NameTheCatalogThatCannotBeOpenedAndOnlyOnce) {
     testing::internal::CaptureStderr();
 
     ExpectRefused("{\"format\": 1,\n\"catalogs\": [\"Missing.KORfct\"]}",
                   "text:2: the catalog \"Missing.KORfct\" cannot be opened: " ZEL_CATALOG_FOLDER
                   "/Missing.KORfct: cannot be read: No such file or directory");
 
-    testing::internal::GetCapturedStderr();
+    EXPECT_EQ("", testing::internal::GetCapturedStderr());
 }
 
 TEST_F(KORTextDocumentErrors, TellThatTheDocumentIsClosed) {

@@ -203,6 +203,28 @@ TEST_F(KORTextDocumentTest, KeepsAttributesThatTheCatalogDoesNotKnow) {
               Written());
 }
 
+TEST_F(KORTextDocumentTest, KeepsWhatStandsBehindAnEmbeddedNul) {
+    const std::string whole = R"json({
+  "format": 1,
+  "catalogs": [],
+  "pressure_unit": "Pa",
+  "containers": ["A\u0000B"],
+  "features": [
+    {"id": 1, "type": "KORApplicativeDataLT", "name": "N\u0000M", "alias": "\u0000", "container": "A\u0000B",
+     "attributes": {
+       "Name": "a\u0000b",
+       "Unknown\u0000Name": "\u0000"
+     }}
+  ]
+}
+)json";
+
+    Read(whole);
+
+    EXPECT_EQ(whole, Written());
+    EXPECT_EQ(3u, text.Find(1)->GetName().size());
+}
+
 TEST_F(KORTextDocumentTest, ForgetsKeptReferencesToFeaturesThatAreGone) {
     Read(R"json({"format": 1, "features": [
       {"id": 1, "type": "KORMaterialLT", "attributes": {"Next": {"ref": 2}, "All": {"refs": [2]}}},
