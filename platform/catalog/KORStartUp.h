@@ -9,7 +9,7 @@ public:
     explicit KORStartUp(const KORLayoutHandle& layout) : layout_(layout) {}
 
     const KORLayout& Layout() const { return *layout_; }
-    const KORValue& At(KORSlot slot) const { return layout_->Initial(slot); }
+    const KORValue& Declared(KORSlot slot) const { return layout_->Initial(slot); }
 
     KORUnicodeString GetName() override { return layout_->NameText(); }
     KORBaseUnknown* GetFeatContainer() override { return nullptr; }

@@ -33,16 +33,16 @@ private:
     }
 
     void Redirect(KORFeature& copy) const {
-        for (KORSlot slot = KORLayout::kFirstAttribute; slot < copy.Layout().SlotCount(); ++slot) {
+        copy.ForEachSlot([&](KORSlot slot) {
             const KORValue& value = copy.At(slot);
-            if (value.State() != KORValueState::Valued) continue;
+            if (value.State() != KORValueState::Valued) return;
             if (value.Kind() == KORAttributeKind::Component) {
                 KORBaseUnknown* const target = Of(value.Component());
                 if (target != value.Component()) copy.Write(slot, KORValue::OfComponent(target));
             } else if (value.Kind() == KORAttributeKind::ListOfComponents) {
                 RedirectList(copy, slot);
             }
-        }
+        });
     }
 
     void RedirectList(KORFeature& copy, KORSlot slot) const {

@@ -19,12 +19,12 @@ bool KORTextDocument::Take(const std::optional<KORJsonFile>& file, KORJsonError&
         error = *reader.Error();
         return false;
     }
-    numbers_ = reader.Build(kept_);
+    numbers_ = reader.Build();
     return true;
 }
 
 std::optional<std::string> KORTextDocument::Write(std::string& error) const {
-    return KORTextWriter(document_, kept_).Write(error);
+    return KORTextWriter(document_).Write(error);
 }
 
 KORVar<KORFeature> KORTextDocument::Find(int id) const {

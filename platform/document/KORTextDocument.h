@@ -1,16 +1,11 @@
 #pragma once
 
-#include <map>
 #include <optional>
 #include <string>
 #include <unordered_map>
 
 #include "platform/catalog/KORJsonFile.h"
 #include "platform/document/KORMemoryDocument.h"
-
-/// Attributes that the current catalogs do not know, by feature number and name, as they were written. A
-/// reference among them is {"ref": n} or {"refs": [n, ...]} with feature numbers.
-using KORKeptAttributes = std::unordered_map<std::uint32_t, std::map<std::string, nlohmann::json>>;
 
 /// A document in memory and its readable form: what fixtures and older documents are kept in, and what people
 /// compare. It is not how documents are saved: all of it is read and written at once.
@@ -23,13 +18,14 @@ using KORKeptAttributes = std::unordered_map<std::uint32_t, std::map<std::string
 ///   "containers"     names of the applicative containers
 ///   "features"       objects of
 ///       "id"          a whole number of the text's own, from 1 on
-///       "type"        the late type
+///       "type"        the late type; one that no catalog declares has undeclared attributes only
 ///       "name"        the instance name; the late type's own when missing
 ///       "alias"       never set when missing
 ///       "container"   an applicative container's name; the document's own when missing; null: in none
 ///       "attributes"  by name. What is missing has the catalog's initial value; null: never valued.
 ///                     A component is {"ref": id}, a list of components {"refs": [id or null, ...]}; numbers
-///                     that JSON lacks are "NaN", "Infinity" and "-Infinity".
+///                     that JSON lacks are "NaN", "Infinity" and "-Infinity". What the type does not declare
+///                     is of the kind that it is written as, and the feature keeps it.
 class KORTextDocument {
 public:
     /// The document outlives this object.
@@ -43,9 +39,9 @@ public:
     [[nodiscard]] bool ReadText(const std::string& text, const std::string& name, KORJsonError& error);
 
     /// The whole document: its features in the order of their numbers, those in no container that another
-    /// one references included, ids from 1 on. Attributes unknown to the catalogs when it was read are
-    /// written back. Nothing, and `error` says why, when a feature references what is no feature of the
-    /// document, or a text is no UTF-8.
+    /// one references included, ids from 1 on. Attributes that their late types do not declare come last, in
+    /// the order of their names. Nothing, and `error` says why, when a feature references what is no feature
+    /// of the document, or a text is no UTF-8.
     [[nodiscard]] std::optional<std::string> Write(std::string& error) const;
 
     /// The feature with that id in the text read last; null when there was none, or it is gone.
@@ -55,6 +51,5 @@ private:
     bool Take(const std::optional<KORJsonFile>& file, KORJsonError& error);
 
     KORMemoryDocument& document_;
-    KORKeptAttributes kept_;
     std::unordered_map<int, std::uint32_t> numbers_;  ///< by id, of the text read last
 };

@@ -82,11 +82,7 @@ KORTextReader::Feature KORTextReader::ReadHead(const Json& at) {
     feature.id = ReadId(at);
     const std::string lateType = Text(at, "type");
     const KORCatalogType* type = catalogs_.Find(KORName::Find(lateType));
-    if (type) {
-        feature.layout = type->layout;
-    } else {
-        Fail(PlaceOf(at, "type"), "the late type " + Quoted(lateType) + " is in none of the catalogs");
-    }
+    feature.layout = type ? type->layout : KORLayout::OfUndeclaredType(KORName::Intern(lateType));
     feature.name = OptionalText(at, "name");
     feature.alias = OptionalText(at, "alias");
     ReadContainer(at, feature);
@@ -122,29 +118,42 @@ void KORTextReader::ReadAttributes(const Json& at, Feature& feature) {
         Fail(at, "expected an object");
         return;
     }
+    if (at.size() > KORUndeclaredAttributes::kMost) {
+        Fail(at, "more than " + std::to_string(KORUndeclaredAttributes::kMost) + " attributes");
+        return;
+    }
     for (const auto& item : at.items()) {
         const KORName* key = KORName::Find(item.key());
         const KORLayout::Place place = key ? feature.layout->Find(key) : KORLayout::Place{};
         if (place.slot != 0) {
-            ReadAttribute(item.value(), place, feature);
+            ReadAttribute(item.value(), {place.slot, {}}, place.kind, feature);
         } else {
-            CheckKept(item.value());
-            feature.kept.emplace(item.key(), item.value());
+            const Target target{0, KORUnicodeString(std::string_view(item.key()))};
+            ReadAttribute(item.value(), target, KindOf(item.value()), feature);
         }
         if (Error()) return;
     }
 }
 
-void KORTextReader::ReadAttribute(const Json& at, KORLayout::Place place, Feature& feature) {
+void KORTextReader::ReadAttribute(const Json& at, const Target& target, KORAttributeKind kind,
+                                  Feature& feature) {
     if (at.is_null()) {
-        feature.values.emplace_back(place.slot, KORValue(place.kind));
-    } else if (place.kind == KORAttributeKind::Component) {
-        feature.references.push_back({place.slot, ReadReference(at)});
-    } else if (place.kind == KORAttributeKind::ListOfComponents) {
-        feature.references.push_back({place.slot, ReadReferences(at)});
+        feature.values.emplace_back(target, KORValue(kind));
+    } else if (kind == KORAttributeKind::Component) {
+        feature.references.push_back({target, kind, ReadReference(at)});
+    } else if (kind == KORAttributeKind::ListOfComponents) {
+        feature.references.push_back({target, kind, ReadReferences(at)});
     } else {
-        feature.values.emplace_back(place.slot, ReadValue(at, place.kind));
+        feature.values.emplace_back(target, ReadValue(at, kind));
     }
+}
+
+KORAttributeKind KORTextReader::KindOf(const Json& value) {
+    if (value.is_boolean()) return KORAttributeKind::Boolean;
+    if (value.is_number()) return IsInt(value) ? KORAttributeKind::Integer : KORAttributeKind::Double;
+    if (value.is_array()) return KORAttributeKind::ListOfDoubles;
+    if (!value.is_object()) return KORAttributeKind::String;
+    return Find(value, "refs") ? KORAttributeKind::ListOfComponents : KORAttributeKind::Component;
 }
 
 KORValue KORTextReader::ReadValue(const Json& value, KORAttributeKind kind) {
@@ -222,15 +231,6 @@ int KORTextReader::ReadTarget(const Json& at) {
     return 0;
 }
 
-void KORTextReader::CheckKept(const Json& at) {
-    if (!at.is_object()) return;
-    if (Find(at, "refs")) {
-        ReadReferences(at);
-    } else {
-        ReadReference(at);
-    }
-}
-
 std::optional<KORUnicodeString> KORTextReader::OptionalText(const Json& at, const char* member) {
     const Json* text = Find(at, member);
     if (!text) return std::nullopt;
@@ -239,7 +239,7 @@ std::optional<KORUnicodeString> KORTextReader::OptionalText(const Json& at, cons
     return std::nullopt;
 }
 
-std::unordered_map<int, std::uint32_t> KORTextReader::Build(KORKeptAttributes& kept) const {
+std::unordered_map<int, std::uint32_t> KORTextReader::Build() const {
     for (const auto& catalog : catalogs_.Catalogs()) static_cast<void>(document_.OpenCatalog(catalog.name));
     for (const std::string& name : containers_) document_.AddContainer(name);
     if (!pressureUnit_.empty()) document_.Platform().Units().SetCurrentUnit(kPressure, pressureUnit_);
@@ -247,27 +247,26 @@ std::unordered_map<int, std::uint32_t> KORTextReader::Build(KORKeptAttributes& k
     std::vector<KORVar<KORFeature>> made;
     for (const Feature& feature : features_) made.push_back(Make(feature));
     const auto target = [&](int id) { return id != 0 ? made[places_.at(id)].Get() : nullptr; };
-    const auto number = [&](Json& id) {
-        if (!id.is_null()) id = target(id)->Number();
-    };
     std::unordered_map<int, std::uint32_t> numbers;
     for (std::size_t index = 0; index < features_.size(); ++index) {
         KORFeature& feature = *made[index];
         numbers.emplace(features_[index].id, feature.Number());
-        for (const auto& [slot, ids] : features_[index].references) {
-            const bool list = feature.At(slot).Kind() == KORAttributeKind::ListOfComponents;
-            KORValue value = list ? KORValue::EmptyList(KORAttributeKind::ListOfComponents)
-                                  : KORValue::OfComponent(target(ids[0]));
+        for (const auto& [where, kind, ids] : features_[index].references) {
+            const bool list = kind == KORAttributeKind::ListOfComponents;
+            KORValue value = list ? KORValue::EmptyList(kind) : KORValue::OfComponent(target(ids[0]));
             for (std::size_t entry = 0; list && entry < ids.size(); ++entry) value.Append(target(ids[entry]));
-            feature.Write(slot, std::move(value));
-        }
-        for (auto [name, value] : features_[index].kept) {
-            if (value.is_object() && value.contains("ref")) number(value["ref"]);
-            if (value.is_object() && value.contains("refs")) std::ranges::for_each(value["refs"], number);
-            kept[feature.Number()].emplace(name, std::move(value));
+            where.Write(feature, std::move(value));
         }
     }
     return numbers;
+}
+
+void KORTextReader::Target::Write(KORFeature& feature, KORValue&& value) const {
+    if (slot != 0) {
+        feature.Write(slot, std::move(value));
+    } else {
+        feature.SetUndeclared(name, std::move(value));
+    }
 }
 
 KORVar<KORFeature> KORTextReader::Make(const Feature& feature) const {
@@ -277,7 +276,7 @@ KORVar<KORFeature> KORTextReader::Make(const Feature& feature) const {
             : KORBaseUnknown_var(document_.AddContainer(*feature.container)));
     auto made = container->NewFeature(feature.layout, feature.name.value_or(feature.layout->NameText()));
     if (feature.alias) made->SetAlias(*feature.alias);
-    for (const auto& [slot, value] : feature.values) made->Write(slot, KORValue(value));
+    for (const auto& [where, value] : feature.values) where.Write(*made, KORValue(value));
     if (!feature.container) made->SetContainer(nullptr);
     return made;
 }

@@ -14,13 +14,20 @@ public:
 
     void Read();
 
-    /// To be called when Read found no error. The numbers of the new features by id; what the catalogs do not
-    /// know goes to `kept`.
-    std::unordered_map<int, std::uint32_t> Build(KORKeptAttributes& kept) const;
+    /// To be called when Read found no error. The numbers of the new features by id.
+    std::unordered_map<int, std::uint32_t> Build() const;
 
 private:
+    /// Where a value goes.
+    struct Target {
+        KORSlot slot = 0;       ///< 0: the late type does not declare it
+        KORUnicodeString name;  ///< of what is not declared
+
+        void Write(KORFeature& feature, KORValue&& value) const;
+    };
     struct References {
-        KORSlot slot;
+        Target target;
+        KORAttributeKind kind;
         std::vector<int> ids;  ///< 0 for null
     };
     struct Feature {
@@ -29,9 +36,8 @@ private:
         std::optional<KORUnicodeString> name;
         std::optional<KORUnicodeString> alias;
         std::optional<std::string> container = "";  ///< none: in no container; empty: the document's own
-        std::vector<std::pair<KORSlot, KORValue>> values;
+        std::vector<std::pair<Target, KORValue>> values;
         std::vector<References> references;
-        std::map<std::string, Json> kept;
     };
 
     void ReadCatalogs();
@@ -41,14 +47,14 @@ private:
     int ReadId(const Json& at);
     void ReadContainer(const Json& at, Feature& feature);
     void ReadAttributes(const Json& at, Feature& feature);
-    void ReadAttribute(const Json& at, KORLayout::Place place, Feature& feature);
+    void ReadAttribute(const Json& at, const Target& target, KORAttributeKind kind, Feature& feature);
     KORValue ReadValue(const Json& value, KORAttributeKind kind);
     KORValue ReadNumbers(const Json& at);
     std::optional<double> Number(const Json& value) const;
     std::vector<int> ReadReference(const Json& at);
     std::vector<int> ReadReferences(const Json& at);
-    int ReadTarget(const Json& at);  ///< the id that stands there
-    void CheckKept(const Json& at);
+    int ReadTarget(const Json& at);                     ///< the id that stands there
+    static KORAttributeKind KindOf(const Json& value);  ///< of what no late type declares
     std::optional<KORUnicodeString> OptionalText(const Json& at, const char* member);
 
     KORVar<KORFeature> Make(const Feature& feature) const;

@@ -101,21 +101,24 @@ void KORTextWriter::WriteContainer(const KORFeature& feature) {
 
 std::vector<std::string> KORTextWriter::AttributesOf(const KORFeature& feature) {
     std::vector<std::string> attributes;
-    const KORLayout& layout = feature.Layout();
-    for (KORSlot slot = KORLayout::kFirstAttribute; slot < layout.SlotCount(); ++slot) {
-        if (feature.At(slot).SameAs(layout.Initial(slot))) continue;
-        attributes.push_back(Quoted(layout.SlotName(slot)) + ": " + ValueText(feature, slot));
+    const auto add = [&](std::string_view name, const KORValue& value) {
+        attributes.push_back(Quoted(name) + ": " + ValueText(feature, name, value));
+    };
+    KORSlot slot = KORLayout::kFirstAttribute;
+    for (const KORAttribute& attribute : feature.Layout().Attributes()) {
+        const KORValue& value = feature.At(slot++);
+        if (!value.SameAs(attribute.initial)) add(attribute.name->Text(), value);
     }
-    const auto kept = kept_.find(feature.Number());
-    if (kept == kept_.end()) return attributes;
-    for (const auto& [name, value] : kept->second) {
-        attributes.push_back(Quoted(name) + ": " + KeptText(value));
-    }
+    std::vector<std::pair<KORUnicodeString, KORValue>> undeclared;
+    feature.ForEachUndeclared(
+        [&](const KORUnicodeString& name, const KORValue& value) { undeclared.emplace_back(name, value); });
+    std::ranges::sort(undeclared, {}, [](const auto& attribute) { return attribute.first.View(); });
+    for (const auto& [name, value] : undeclared) add(name.View(), value);
     return attributes;
 }
 
-std::string KORTextWriter::ValueText(const KORFeature& feature, KORSlot slot) {
-    const KORValue& value = feature.At(slot);
+std::string KORTextWriter::ValueText(const KORFeature& feature, std::string_view name,
+                                     const KORValue& value) {
     if (value.State() == KORValueState::NeverValued) return "null";
     switch (value.Kind()) {
         case KORAttributeKind::Boolean:
@@ -129,13 +132,13 @@ std::string KORTextWriter::ValueText(const KORFeature& feature, KORSlot slot) {
         case KORAttributeKind::ListOfDoubles:
             return NumbersText(value.ListOfDoubles());
         case KORAttributeKind::Component:
-            return "{\"ref\": " + ReferenceText(feature, slot, value.Component()) + "}";
+            return "{\"ref\": " + ReferenceText(feature, name, value.Component()) + "}";
         case KORAttributeKind::ListOfComponents:
             break;
     }
     std::vector<std::string> entries;
     for (int position = 1; position <= value.ListSize(); ++position) {
-        entries.push_back(ReferenceText(feature, slot, value.ComponentAt(position).Get()));
+        entries.push_back(ReferenceText(feature, name, value.ComponentAt(position).Get()));
     }
     return "{\"refs\": " + Joined(entries) + "}";
 }
@@ -148,33 +151,17 @@ std::string KORTextWriter::NumbersText(const KORRawColldouble& numbers) const {
     return Joined(texts);
 }
 
-std::string KORTextWriter::ReferenceText(const KORFeature& feature, KORSlot slot, KORBaseUnknown* target) {
+std::string KORTextWriter::ReferenceText(const KORFeature& feature, std::string_view name,
+                                         KORBaseUnknown* target) {
     if (!target) return "null";
     const auto referenced = KORVar<KORFeature>::Of(target);
     const auto id = referenced ? ids_.Find(referenced.Get()) : std::nullopt;
     if (id) return std::to_string(*id);
     if (error_.empty()) {
-        error_ = "feature " + std::to_string(feature.Number()) + ", " + feature.Layout().SlotName(slot) +
+        error_ = "feature " + std::to_string(feature.Number()) + ", " + std::string(name) +
                  ": references what is no feature of the document";
     }
     return "null";
-}
-
-std::string KORTextWriter::KeptText(const nlohmann::json& value) const {
-    const auto id = [this](const nlohmann::json& number) -> std::string {
-        if (number.is_null()) return "null";
-        const KORFeature* feature = document_.Features().Find(number.get<std::uint32_t>());
-        const auto place = feature ? ids_.Find(feature) : std::nullopt;
-        return place ? std::to_string(*place) : "null";
-    };
-    if (!value.is_object()) return value.dump();
-    if (value.contains("ref")) {
-        const std::string text = id(value["ref"]);
-        return text == "null" ? text : "{\"ref\": " + text + "}";
-    }
-    std::vector<std::string> ids;
-    for (const nlohmann::json& number : value["refs"]) ids.push_back(id(number));
-    return "{\"refs\": " + Joined(ids) + "}";
 }
 
 std::string KORTextWriter::Quoted(std::string_view text) {

@@ -6,8 +6,7 @@
 /// Writes the text form of a document, in an order that depends on nothing but the document.
 class KORTextWriter {
 public:
-    KORTextWriter(KORMemoryDocument& document, const KORKeptAttributes& kept)
-        : document_(document), kept_(kept) {}
+    explicit KORTextWriter(KORMemoryDocument& document) : document_(document) {}
 
     /// Nothing, and `error` filled, when something cannot be written.
     std::optional<std::string> Write(std::string& error);
@@ -18,14 +17,12 @@ private:
     void WriteFeature(const KORFeature& feature);
     void WriteContainer(const KORFeature& feature);
     std::vector<std::string> AttributesOf(const KORFeature& feature);
-    std::string ValueText(const KORFeature& feature, KORSlot slot);
+    std::string ValueText(const KORFeature& feature, std::string_view name, const KORValue& value);
     std::string NumbersText(const KORRawColldouble& numbers) const;
-    std::string ReferenceText(const KORFeature& feature, KORSlot slot, KORBaseUnknown* target);
-    std::string KeptText(const nlohmann::json& value) const;
+    std::string ReferenceText(const KORFeature& feature, std::string_view name, KORBaseUnknown* target);
     std::string Quoted(std::string_view text);
 
     KORMemoryDocument& document_;
-    const KORKeptAttributes& kept_;
     std::vector<KORVar<KORFeature>> features_;
     KORFeaturePlaces ids_;
     std::unordered_map<const KORBaseUnknown*, std::string>

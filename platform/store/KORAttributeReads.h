@@ -5,7 +5,7 @@
 #include "platform/store/KORLayout.h"
 
 /// The reading half of attribute access, for whatever holds values laid out by a late type: features and
-/// start-ups. Object offers `const KORLayout& Layout() const` and `const KORValue& At(KORSlot) const`.
+/// start-ups. Object offers `const KORLayout& Layout() const` and `const KORValue& Declared(KORSlot) const`.
 template <class Object, class... I>
 class KORAttributeReads : public KORImplements<KORISpecObject, KORISpecAttrAccess, I...> {
 public:
@@ -62,7 +62,7 @@ public:
 
     int GetListSize(KORISpecAttrKey* key) final {
         const KORLayout::Place place = PlaceOf(key);
-        return place.slot != 0 && KORIsList(place.kind) ? Self().At(place.slot).ListSize() : 0;
+        return place.slot != 0 && KORIsList(place.kind) ? Self().Declared(place.slot).ListSize() : 0;
     }
 
 protected:
@@ -79,6 +79,6 @@ private:
     /// The value under a key; null when the type has no attribute of that name and kind.
     const KORValue* Find(KORISpecAttrKey* key, KORAttributeKind kind) const {
         const KORLayout::Place place = PlaceOf(key);
-        return place.slot != 0 && place.kind == kind ? &Self().At(place.slot) : nullptr;
+        return place.slot != 0 && place.kind == kind ? &Self().Declared(place.slot) : nullptr;
     }
 };

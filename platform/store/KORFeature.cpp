@@ -24,6 +24,13 @@ KORVar<KORFeature> KORFeature::NewCopy(const KORFeature& original, KORBaseUnknow
     auto copy = KORVar<KORFeature>::Adopt(
         new (slots) KORFeature(*original.type_, number, document.Log().Stamp(), &original));
     copy->Slots()[KORLayout::kName] = original.At(KORLayout::kName);
+    original.ForEachUndeclared([&](const KORUnicodeString& attribute, const KORValue& value) {
+        copy->hasUndeclared_ = true;
+        KORUndeclaredAttributes& attributes = document.UndeclaredOf(number);
+        KORValue& own = attributes.At(attributes.SlotOf(attribute));
+        own = value;
+        own.SetStamp(document.Log().Stamp());  // as if logged, like the values that its type declares
+    });
     copy->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
     return copy;
 }
@@ -59,6 +66,7 @@ KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t
 }
 
 KORFeature::~KORFeature() {
+    DropUndeclared();
     if (KORStoreDocument* document = StoreDocument()) document->Features().Remove(number_);
     KORValue* slots = Slots();
     for (KORSlot slot = 0; slot < Layout().SlotCount(); ++slot) slots[slot].~KORValue();
@@ -154,6 +162,39 @@ void KORFeature::RemoveValue(KORISpecAttrKey* key) {
     Write(place.slot, KORValue(place.kind));
 }
 
+void KORFeature::SetUndeclared(const KORUnicodeString& name, KORValue&& value) {
+    KORStoreDocument* document = StoreDocument();
+    if (!document) return;
+    hasUndeclared_ = true;
+    Write(document->UndeclaredOf(number_).SlotOf(name), std::move(value));
+}
+
+void KORFeature::RemoveUndeclared(const KORUnicodeString& name) {
+    const KORUndeclaredAttributes* undeclared = Undeclared();
+    const KORSlot slot = undeclared ? undeclared->Find(name.View()) : KORSlot{0};
+    if (slot != 0) Write(slot, KORValue::Absent());
+}
+
+KORUndeclaredAttributes* KORFeature::Undeclared() const {
+    return hasUndeclared_ ? &StoreDocument()->UndeclaredOf(number_) : nullptr;
+}
+
+const KORValue& KORFeature::UndeclaredAt(KORSlot slot) const {
+    static const KORValue absent = KORValue::Absent();
+    const KORUndeclaredAttributes* undeclared = Undeclared();
+    return undeclared ? undeclared->At(slot) : absent;
+}
+
+void KORFeature::DropUndeclared() noexcept {
+    if (std::exchange(hasUndeclared_, false)) StoreDocument()->DropUndeclaredOf(number_);
+}
+
+const char* KORFeature::SlotName(KORSlot slot) const {
+    if (slot < KORLayout::kFirstUndeclared) return Layout().SlotName(slot);
+    const KORUndeclaredAttributes* undeclared = Undeclared();
+    return undeclared ? undeclared->Name(slot).c_str() : "";
+}
+
 void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value) {
     const KORLayout::Place place = PlaceOf(key);
     if (place.slot != 0 && place.kind == kind) Write(place.slot, std::move(value));
@@ -174,7 +215,7 @@ void KORFeature::Write(KORSlot slot, KORValue&& value) {
 
 void KORFeature::Swap(KORSlot slot, KORValue& other) noexcept {
     KORStoreDocument& document = *StoreDocument();
-    KORValue& stored = Slots()[slot];
+    KORValue& stored = Stored(slot);
     stored.Swap(other);
     document.Features().MarkDirty(number_);
     if (slot != KORLayout::kContainer) return;
@@ -191,6 +232,7 @@ void KORFeature::Swap(KORSlot slot, KORValue& other) noexcept {
 
 void KORFeature::Clear() noexcept {
     const bool lay = LiesInContainer();
+    DropUndeclared();
     KORValue* slots = Slots();
     for (KORSlot slot = 0; slot < Layout().SlotCount(); ++slot) slots[slot] = KORValue(slots[slot].Kind());
     if (!lay) return;

@@ -4,6 +4,7 @@
 #include "interfaces/KORILinkableObject.h"
 #include "platform/store/KORAttributeReads.h"
 #include "platform/store/KORFeatureType.h"
+#include "platform/store/KORUndeclaredAttributes.h"
 
 inline const KORIID IID_KORFeature = KORName::Intern("KORFeature");
 
@@ -30,8 +31,12 @@ public:
     /// Its number in its document, from 1 on: never another feature's, also after this one is gone.
     std::uint32_t Number() const { return number_; }
     const KORLayout& Layout() const { return type_->Layout(); }
-    const KORValue& At(KORSlot slot) const { return Slots()[slot]; }
-    KORStoreDocument* StoreDocument() const { return type_->Document(); }  ///< null once it is closed
+    /// The value in a slot that every feature or its layout has, or in one of an undeclared attribute.
+    const KORValue& At(KORSlot slot) const {
+        return slot < KORLayout::kFirstUndeclared ? Slots()[slot] : UndeclaredAt(slot);
+    }
+    const KORValue& Declared(KORSlot slot) const { return Slots()[slot]; }  ///< of the layout, unchecked
+    KORStoreDocument* StoreDocument() const { return type_->Document(); }   ///< null once it is closed
 
     /// Changes the container it lies in. Null takes it out: only its other holders keep it then.
     void SetContainer(KORBaseUnknown* container);
@@ -55,6 +60,24 @@ public:
     KORDocument* GetDocument() override;
     void SetAlias(const KORUnicodeString& alias) override;
     KORUnicodeString GetAlias() override { return At(KORLayout::kAlias).String(); }
+
+    /// Stores what a document holds under a name that the late type does not declare, of whichever kind.
+    /// Never valued is a value like any other here. Such attributes are copied, undone and referenced like
+    /// all others, but no key reaches them. Throws std::length_error beyond
+    /// KORUndeclaredAttributes::kMost names.
+    void SetUndeclared(const KORUnicodeString& name, KORValue&& value);
+    void RemoveUndeclared(const KORUnicodeString& name);  ///< nothing happens when it has none
+
+    /// Visits the undeclared attributes as (const KORUnicodeString& name, const KORValue& value), in the
+    /// order in which their names came. The visitor does not change the feature.
+    template <class Visitor>
+    void ForEachUndeclared(Visitor&& visit) const;
+
+    /// Visits the slots of all attributes, the undeclared ones included.
+    template <class Visitor>
+    void ForEachSlot(Visitor&& visit) const;
+
+    const char* SlotName(KORSlot slot) const;  ///< the attribute's name; "Name", "Alias" and "Container"
 
     /// Puts a value of the slot's kind into a slot. The one choke point of all changes: compares, logs,
     /// writes. Nothing happens once the document is closed.
@@ -92,6 +115,12 @@ private:
     KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp, const KORFeature* original);
     ~KORFeature() override;
 
+    /// Null when it has none, and once its document is closed.
+    KORUndeclaredAttributes* Undeclared() const;
+    const KORValue& UndeclaredAt(KORSlot slot) const;
+    void DropUndeclared() noexcept;
+
+    KORValue& Stored(KORSlot slot) { return const_cast<KORValue&>(At(slot)); }
     KORValue* Slots() { return reinterpret_cast<KORValue*>(this + 1); }
     const KORValue* Slots() const { return reinterpret_cast<const KORValue*>(this + 1); }
 
@@ -99,13 +128,33 @@ private:
 
     KORFeatureType* type_;  ///< counted
     std::uint32_t number_;
+    bool hasUndeclared_ = false;  ///< the document keeps a table for it
 };
 
 template <class Visitor>
+void KORFeature::ForEachUndeclared(Visitor&& visit) const {
+    const KORUndeclaredAttributes* undeclared = Undeclared();
+    for (std::size_t index = 0; undeclared && index < undeclared->Size(); ++index) {
+        const auto slot = static_cast<KORSlot>(KORLayout::kFirstUndeclared + index);
+        const KORValue& value = undeclared->At(slot);
+        if (value.State() != KORValueState::Absent) visit(undeclared->Name(slot), value);
+    }
+}
+
+template <class Visitor>
+void KORFeature::ForEachSlot(Visitor&& visit) const {
+    for (KORSlot slot = KORLayout::kFirstAttribute; slot < Layout().SlotCount(); ++slot) visit(slot);
+    const KORUndeclaredAttributes* undeclared = Undeclared();
+    for (std::size_t index = 0; undeclared && index < undeclared->Size(); ++index) {
+        visit(static_cast<KORSlot>(KORLayout::kFirstUndeclared + index));
+    }
+}
+
+template <class Visitor>
 void KORFeature::ForEachComponent(Visitor&& visit) const {
-    for (KORSlot slot = KORLayout::kFirstAttribute; slot < Layout().SlotCount(); ++slot) {
+    ForEachSlot([&](KORSlot slot) {
         const KORValue& value = At(slot);
-        if (value.State() != KORValueState::Valued || slot == Layout().FatherSlot()) continue;
+        if (value.State() != KORValueState::Valued || slot == Layout().FatherSlot()) return;
         if (value.Kind() == KORAttributeKind::Component) {
             visit(*value.Component());
         } else if (value.Kind() == KORAttributeKind::ListOfComponents) {
@@ -113,5 +162,5 @@ void KORFeature::ForEachComponent(Visitor&& visit) const {
                 if (const KORBaseUnknown_var entry = value.ComponentAt(position); entry) visit(*entry);
             }
         }
-    }
+    });
 }

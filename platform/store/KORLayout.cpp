@@ -1,6 +1,7 @@
 #include "platform/store/KORLayout.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 namespace {
 
@@ -29,6 +30,13 @@ KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes, 
         if (attribute.isFather) father_ = slot;
         places_[attribute.name->Number() - firstNumber_] = {slot++, attribute.initial.Kind()};
     }
+}
+
+KORLayoutHandle KORLayout::OfUndeclaredType(const KORName* name) {
+    static auto& layouts = *new std::unordered_map<const KORName*, KORLayoutHandle>;
+    KORLayoutHandle& layout = layouts[name];
+    if (!layout) layout = std::make_shared<KORLayout>(name, std::vector<KORAttribute>());
+    return layout;
 }
 
 const KORValue& KORLayout::Initial(KORSlot slot) const {

@@ -14,6 +14,9 @@ struct KORAttribute {
     bool isFather = false;  ///< the feature on which the type's features hang; a component
 };
 
+class KORLayout;
+using KORLayoutHandle = std::shared_ptr<const KORLayout>;
+
 /// A late type as features see it: its name, its role, and which attribute lies in which slot. It knows no
 /// meaning, unit or release; that is the catalog's. It belongs to the catalog that was read and lives as long
 /// as a feature uses it.
@@ -39,6 +42,9 @@ public:
 
     /// The attributes in slot order; no name twice, at most one father, no more than kMostAttributes.
     KORLayout(const KORName* name, std::vector<KORAttribute> attributes, const KORName* role = nullptr);
+
+    /// The layout of a late type that no catalog declares: no attributes. One per name in the process.
+    static KORLayoutHandle OfUndeclaredType(const KORName* name);
 
     const KORName* Name() const { return name_; }
     const KORName* Role() const { return role_; }  ///< one of KORRoles.h; null: none
@@ -70,5 +76,3 @@ private:
     KORSlot father_ = 0;
     std::uint32_t ordinal_;
 };
-
-using KORLayoutHandle = std::shared_ptr<const KORLayout>;

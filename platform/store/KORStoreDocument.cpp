@@ -11,6 +11,11 @@ KORFeatureType& KORStoreDocument::TypeOf(const KORLayoutHandle& layout) {
     return *types_[ordinal];
 }
 
+void KORStoreDocument::DropUndeclaredOf(std::uint32_t number) noexcept {
+    // Out of the table first: what its values reference may go with them, with tables of their own.
+    const auto dropped = undeclared_.extract(number);
+}
+
 void KORStoreDocument::CloseStore() noexcept {
     log_.Clear();
     features_.ForEach([](KORFeature& feature) { feature.AddRef(); });

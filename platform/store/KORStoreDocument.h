@@ -1,7 +1,10 @@
 #pragma once
 
+#include <unordered_map>
+
 #include "platform/store/KORFeatureRegistry.h"
 #include "platform/store/KORFeatureType.h"
+#include "platform/store/KORUndeclaredAttributes.h"
 #include "platform/store/KORUndoLog.h"
 
 class KORDocument;
@@ -28,6 +31,10 @@ public:
 
     KORFeatureType& TypeOf(const KORLayoutHandle& layout);
 
+    /// The undeclared attributes of a living feature, by its number; an empty table is made when it has none.
+    KORUndeclaredAttributes& UndeclaredOf(std::uint32_t number) { return undeclared_[number]; }
+    void DropUndeclaredOf(std::uint32_t number) noexcept;
+
 protected:
     KORStoreDocument() = default;
     virtual ~KORStoreDocument();
@@ -39,6 +46,7 @@ protected:
 private:
     KORFeatureRegistry features_;
     KORUndoLog log_;
+    std::unordered_map<std::uint32_t, KORUndeclaredAttributes> undeclared_;  ///< of the few that have any
     std::vector<KORFeatureType*> types_;  ///< by the layout's ordinal; one reference each
     std::size_t members_ = 0;
 };

@@ -16,7 +16,7 @@ struct KORUndoEntry {
     void Apply() noexcept { feature->Swap(slot, other); }
 
     /// What changed, for reports: an attribute's name, or "Name", "Alias", "Container".
-    const char* AttributeName() const { return feature->Layout().SlotName(slot); }
+    const char* AttributeName() const { return feature->SlotName(slot); }
 };
 
 /// A committed step: its entries undo it when they are applied backwards and redo it forwards.

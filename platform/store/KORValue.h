@@ -9,8 +9,8 @@
 #include "platform/store/KORComponentList.h"
 
 /// Never valued and empty are different for a list: the first reads as no list at all. Scalars, strings and
-/// components are never empty.
-enum class KORValueState : std::uint8_t { NeverValued, Empty, Valued };
+/// components are never empty. Absent is the slot of an undeclared attribute that its feature does not have.
+enum class KORValueState : std::uint8_t { NeverValued, Empty, Valued, Absent };
 
 /// What one slot of a feature holds: an owning value of one of the attribute kinds, in 16 bytes. Strings and
 /// lists share their buffers with whoever handed them in or asked for them; a component is one counted
@@ -28,6 +28,7 @@ public:
     static KORValue OfListOfDoubles(const KORRawColldouble& list) noexcept;
     static KORValue OfComponent(KORBaseUnknown* component) noexcept;  ///< of null: never valued
     static KORValue EmptyList(KORAttributeKind kind) noexcept;        ///< `kind` is one of the lists
+    static KORValue Absent() noexcept;
 
     KORValue(const KORValue& other) : KORValue(other.kind_) {
         bits_ = other.OwnsNothing() ? other.bits_ : other.CopyOwned();
@@ -104,6 +105,12 @@ private:
 };
 
 static_assert(sizeof(KORValue) == 16);
+
+inline KORValue KORValue::Absent() noexcept {
+    KORValue absent(KORAttributeKind::Boolean);
+    absent.state_ = KORValueState::Absent;
+    return absent;
+}
 
 inline KORValue KORValue::OfBoolean(bool value) noexcept {
     return {KORAttributeKind::Boolean, value ? 1u : 0u};

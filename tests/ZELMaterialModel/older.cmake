@@ -4,6 +4,7 @@ zel_test(test_older_documents
         older/ZELConvertOnce_test.cpp
         older/ZELOlderDocument.cpp
         older/ZELOlderDocuments_test.cpp
+        older/ZELUndeclaredAttributes_test.cpp
         older/ZELUpgradeFailingCatalog_test.cpp
         older/ZELUpgradeMissingKeys_test.cpp
     LINKS module_src module_store ZELShared test_support)

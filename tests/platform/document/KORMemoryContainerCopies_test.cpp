@@ -39,6 +39,33 @@ TEST_F(KORMemoryContainerCopies, TakeAlongWhatIsReferencedInTheSameContainer) {
     EXPECT_EQ((std::vector<std::uint32_t>{1, 2, 3, 4}), KORNumbersOf(extracted));
 }
 
+TEST_F(KORMemoryContainerCopies, HaveWhatTheirLateTypesDoNotDeclareAndTakeAlongWhatThatReferences) {
+    const auto root = NewFeature();    // 1
+    const auto part = NewFeature();    // 2
+    const auto listed = NewFeature();  // 3
+    const auto foreign = KORFeature::New(*document, layout, "Foreign", *second);
+    KORValue all = KORValue::EmptyList(KORAttributeKind::ListOfComponents);
+    for (KORFeature* entry : {listed.Get(), foreign.Get(), static_cast<KORFeature*>(nullptr)})
+        all.Append(entry);
+    root->SetUndeclared("Damping", KORValue::OfDouble(0.02));
+    root->SetUndeclared("Next", KORValue::OfComponent(part.Get()));
+    root->SetUndeclared("All", std::move(all));
+    EXPECT_EQ(S_OK, own->Extract(List({root.Get()}), extracted));
+
+    EXPECT_EQ(S_OK, target->Paste(extracted, copies));
+
+    ASSERT_EQ((std::vector<std::uint32_t>{5, 6, 7}), KORNumbersOf(copies));
+    const KORVar<KORFeature> copy(copies[1]);
+    const KORUndeclaredAttributes& attributes = document->UndeclaredOf(copy->Number());
+    EXPECT_EQ(0.02, attributes.At(attributes.Find("Damping")).Double());
+    EXPECT_EQ(KORVar<KORFeature>(copies[2]).Get(), attributes.At(attributes.Find("Next")).Component());
+    const KORValue& list = attributes.At(attributes.Find("All"));
+    ASSERT_EQ(3, list.ListSize());
+    EXPECT_EQ(KORBaseUnknown_var(copies[3]), list.ComponentAt(1));
+    EXPECT_EQ(KORBaseUnknown_var(foreign.Get()), list.ComponentAt(2));
+    EXPECT_FALSE(list.ComponentAt(3));
+}
+
 TEST_F(KORMemoryContainerCopies, ReferenceEachOtherAndElsewhereWhatTheOriginalsReference) {
     const auto root = NewFeature();
     const auto part = NewFeature();

@@ -58,8 +58,6 @@ constexpr Mistake kMistakes[] = {
      "text:3: the id 1 is given twice"},
     {"NoType", "{\"format\": 1, \"features\": [\n{\"id\": 1}]}",
      "text:2: expected \"type\": a text that is not empty"},
-    {"UnknownType", "{\"format\": 1, \"features\": [\n{\"id\": 1, \"type\": \"KORNoLT\"}]}",
-     "text:2: the late type \"KORNoLT\" is in none of the catalogs"},
     {"NameNoText", "{\"format\": 1, \"features\": [\n{\"id\": 1, \"type\": \"KORMaterialLT\", \"name\": 1}]}",
      "text:2: expected \"name\": a text"},
     {"AliasNoText",
@@ -99,6 +97,8 @@ constexpr Mistake kWrongValues[] = {
     {"ListUnknown", R"("LayerList": {"refs": [1, 9]})", "there is no feature with the id 9"},
     {"KeptObject", R"("Unknown": {"x": 1})", "expected {\"ref\": id}"},
     {"KeptReference", R"("Unknown": {"ref": 9})", "there is no feature with the id 9"},
+    {"KeptTexts", R"("Unknown": [1, "red"])", "expected a number"},
+    {"KeptLists", R"("Unknown": [[1]])", "expected a number"},
     {"KeptReferences", R"("Unknown": {"refs": [9]})", "there is no feature with the id 9"},
 };
 
@@ -167,6 +167,14 @@ TEST_F(KORTextDocumentErrors, NameTheCatalogThatCannotBeOpenedAndOnlyOnce) {
                   "/Missing.KORfct: cannot be read: No such file or directory");
 
     EXPECT_EQ("", testing::internal::GetCapturedStderr());
+}
+
+TEST_F(KORTextDocumentErrors, RefuseMoreAttributesThanAFeatureCanHold) {
+    std::string text =
+        "{\"format\": 1, \"features\": [{\"id\": 1, \"type\": \"KORMaterialLT\",\n\"attributes\": {";
+    for (int number = 0; number <= 32768; ++number) text += "\"" + std::to_string(number) + "\": 1,\n";
+
+    ExpectRefused(text + "\"a\": 1}}]}", "text:2: more than 32768 attributes");
 }
 
 TEST_F(KORTextDocumentErrors, TellThatTheDocumentIsClosed) {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <limits>
+#include <map>
 
 #include "KORTestDocument.h"
 #include "interfaces/KORIMaterialFeature.h"
@@ -172,7 +173,7 @@ TEST_F(KORTextDocumentTest, LeavesTheUnitOfPressureWhenItNamesNone) {
         Written());
 }
 
-TEST_F(KORTextDocumentTest, KeepsAttributesThatTheCatalogDoesNotKnow) {
+TEST_F(KORTextDocumentTest, KeepsAttributesThatTheCatalogDoesNotKnowInTheOrderOfTheirNames) {
     Read(R"json({"format": 1, "features": [
       {"id": 30, "type": "KORMaterialLT", "attributes": {"Tint": "red", "Numbers": [1, 2.5], "Off": null,
           "Next": {"ref": 20}, "All": {"refs": [20, null]}, "ApplicativeData": {"refs": [20]}}},
@@ -189,7 +190,7 @@ TEST_F(KORTextDocumentTest, KeepsAttributesThatTheCatalogDoesNotKnow) {
        "ApplicativeData": {"refs": [2]},
        "All": {"refs": [2, null]},
        "Next": {"ref": 2},
-       "Numbers": [1,2.5],
+       "Numbers": [1, 2.5],
        "Off": null,
        "Tint": "red"
      }},
@@ -225,17 +226,101 @@ TEST_F(KORTextDocumentTest, KeepsWhatStandsBehindAnEmbeddedNul) {
     EXPECT_EQ(3u, text.Find(1)->GetName().size());
 }
 
-TEST_F(KORTextDocumentTest, ForgetsKeptReferencesToFeaturesThatAreGone) {
+/// Every form that an attribute without a declaration can have, and a late type without one.
+constexpr const char* kUndeclared = R"json({
+  "format": 1,
+  "catalogs": [],
+  "pressure_unit": "Pa",
+  "containers": [],
+  "features": [
+    {"id": 1, "type": "KORMaterialLT", "alias": "Steel",
+     "attributes": {
+       "ApplicativeData": {"refs": [2]},
+       "All": {"refs": [2, null]},
+       "Count": -7,
+       "Empty": [],
+       "Flag": true,
+       "Length": 0.1,
+       "Long": 12345678901,
+       "Next": {"ref": 2},
+       "None": {"refs": []},
+       "Numbers": [1, -0.0, "NaN", "Infinity", "-Infinity"],
+       "Off": null,
+       "Text": "re\u0001d",
+       "Zero": -0.0
+     }},
+    {"id": 2, "type": "KORFutureLT", "name": "Damping", "alias": "", "container": null,
+     "attributes": {
+       "Father": {"ref": 1},
+       "Table": [0.02, 0.03]
+     }}
+  ]
+}
+)json";
+
+TEST_F(KORTextDocumentTest, LosesNothingThatTheCatalogsDoNotDeclare) {
+    Read(kUndeclared);
+
+    EXPECT_EQ(kUndeclared, Written());
+}
+
+TEST_F(KORTextDocumentTest, IsWrittenWholeByAnotherThanTheOneThatReadIt) {
+    Read(kUndeclared);
+    std::string error;
+
+    EXPECT_EQ(kUndeclared, KORTextDocument(*document).Write(error));
+}
+
+TEST_F(KORTextDocumentTest, GivesUndeclaredAttributesTheKindThatTheyAreWrittenAs) {
+    Read(kUndeclared);
+    std::map<std::string_view, KORAttributeKind> kinds;
+
+    text.Find(1)->ForEachUndeclared([&](const KORUnicodeString& name, const KORValue& value) {
+        kinds.emplace(name.View(), value.Kind());
+    });
+
+    EXPECT_EQ(12u, kinds.size());
+    EXPECT_EQ(KORAttributeKind::Boolean, kinds["Flag"]);
+    EXPECT_EQ(KORAttributeKind::Integer, kinds["Count"]);
+    EXPECT_EQ(KORAttributeKind::Double, kinds["Length"]);
+    EXPECT_EQ(KORAttributeKind::Double, kinds["Long"]);
+    EXPECT_EQ(KORAttributeKind::String, kinds["Text"]);
+    EXPECT_EQ(KORAttributeKind::ListOfDoubles, kinds["Empty"]);
+    EXPECT_EQ(KORAttributeKind::Component, kinds["Next"]);
+    EXPECT_EQ(KORAttributeKind::ListOfComponents, kinds["None"]);
+}
+
+TEST_F(KORTextDocumentTest, KeepsWhatOnlyAnUndeclaredAttributeReferences) {
     Read(R"json({"format": 1, "features": [
-      {"id": 1, "type": "KORMaterialLT", "attributes": {"Next": {"ref": 2}, "All": {"refs": [2]}}},
+      {"id": 1, "type": "KORMaterialLT", "attributes": {"Next": {"ref": 2}}},
       {"id": 2, "type": "KORMaterialLT"}]})json");
 
     EXPECT_EQ(S_OK, document->Remove(text.Find(2).Get()));
 
-    EXPECT_FALSE(text.Find(2));
     const std::string written = Written();
-    EXPECT_NE(std::string::npos, written.find("\"Next\": null"));
-    EXPECT_NE(std::string::npos, written.find("\"All\": {\"refs\": [null]}"));
+    EXPECT_NE(std::string::npos, written.find("\"Next\": {\"ref\": 2}"));
+    EXPECT_NE(std::string::npos,
+              written.find("{\"id\": 2, \"type\": \"KORMaterialLT\", \"container\": null}"));
+}
+
+TEST_F(KORTextDocumentTest, ReadsAndWritesManyContainersAndFeaturesInTimeProportionalToTheirNumber) {
+    constexpr int kMany = 20'000;  // a search through all for each of them would take minutes
+    std::string many = R"({"format": 1, "containers": [)";
+    for (int number = 1; number <= kMany; ++number) {
+        many += (number > 1 ? ", \"" : "\"") + std::to_string(number) + "\"";
+    }
+    many += "], \"features\": [";
+    for (int number = 1; number <= kMany; ++number) {
+        const std::string digits = std::to_string(number);
+        many += (number > 1 ? ", " : "") + ("{\"id\": " + digits) +
+                ", \"type\": \"KORMaterialLT\", \"container\": \"" + digits + "\"}";
+    }
+    many += "]}";
+
+    Read(many);
+
+    EXPECT_EQ(20'000u, document->FeatureCount());
+    EXPECT_NE(std::string::npos, Written().find("\"container\": \"20000\"}"));
 }
 
 TEST_F(KORTextDocumentTest, LeavesOutWhatOnlyUndoOrAHandleStillHolds) {

@@ -1,0 +1,17 @@
+#include "platform/store/KORUndeclaredAttributes.h"
+
+#include <stdexcept>
+
+KORSlot KORUndeclaredAttributes::SlotOf(const KORUnicodeString& name) {
+    if (const KORSlot known = Find(name.View())) return known;
+    if (attributes_.size() == kMost) throw std::length_error("a feature has too many undeclared attributes");
+    const auto slot = static_cast<KORSlot>(KORLayout::kFirstUndeclared + attributes_.size());
+    attributes_.push_back({name});
+    slots_.emplace(attributes_.back().name.View(), slot);
+    return slot;
+}
+
+KORSlot KORUndeclaredAttributes::Find(std::string_view name) const {
+    const auto found = slots_.find(name);
+    return found != slots_.end() ? found->second : KORSlot{0};
+}
