@@ -65,9 +65,14 @@ CLI::App* AddUpgrade(CLI::App& program, zelmat::UpgradeCommand& upgrade) {
     CLI::App* command = program.add_subcommand(
         "upgrade",
         "Bring the materials of an older document up to the current release, in one step, and print\n"
-        "what changed on which feature. The document itself stays as it is.");
+        "what changed on which feature, and each coefficient before and after. The document itself stays\n"
+        "as it is. A run that would have to guess at units is refused.");
     command->add_option("DOCUMENT.json", upgrade.document, "Document in its text form")->required();
     command->add_option("--output", upgrade.output, "Write the upgraded document to this file");
+    command
+        ->add_option("--pressure-unit", upgrade.pressureUnit,
+                     "Unit of the coefficients in a document that names no unit of pressure")
+        ->check(CLI::IsMember(zelmat::UpgradeCommand::PressureUnits()));
     AddCatalogs(*command, upgrade.catalogs);
     command->add_flag("--json", upgrade.json, "Print one JSON object, findings included, instead of words");
     return command;

@@ -16,6 +16,9 @@ public:
     /// False, and nothing changes, for an unknown unit type or a symbol that is none of its units.
     bool SetCurrentUnit(std::string_view unitType, std::string_view symbol);
 
+    /// Whether somebody has set the current unit of that type: it is not just the one it starts with.
+    bool IsChosen(const KORUnitType& type) const { return current_.contains(&type); }
+
     const KORUnit& CurrentUnit(const KORUnitType& type) const;
 
 private:

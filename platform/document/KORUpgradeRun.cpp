@@ -23,8 +23,8 @@ KORVar<KORFeature> ReplacementOf(const KORFeature& feature, const KORISpecObject
 
 class Run {
 public:
-    Run(KORMemoryDocument& document, const KORUnicodeString& applicativeName)
-        : document_(document), applicativeName_(applicativeName) {}
+    Run(KORMemoryDocument& document, const KORUnicodeString& applicativeName, KORUpgradeWatch* watch)
+        : document_(document), applicativeName_(applicativeName), watch_(watch) {}
 
     void Ask(KORFeature& feature) {
         const auto upgrade = KORISamUpgrade_var::Of(&feature);
@@ -34,6 +34,10 @@ public:
     }
 
     KORUpgradeReport Report() {
+        if (report_.refused) {
+            report_.upgraded.clear();
+            return std::move(report_);
+        }
         for (const auto& [feature, cause] : unlisted_.Find(document_)) {
             report_.upgraded[cause].unlisted.push_back(feature);
         }
@@ -46,6 +50,10 @@ private:
         const auto father = KORISpecObject_var::Adopt(feature.GetFather());
         told.feature = feature.Number();
         told.name = NameOf(feature, father);
+        if (watch_ && !watch_->MayUpgrade(feature, told)) {
+            report_.refused = true;
+            return;
+        }
 
         // A scope of its own, so that a slot two upgrades write is told with both.
         KORStep step(document_, "Upgrade");
@@ -63,11 +71,13 @@ private:
         const KORISamUpgrade_var replaced(replacement);
         told.stillNeeded = replaced ? replaced->IsUpgradeNeeded() : upgrade.IsUpgradeNeeded();
         step.Commit();
+        if (watch_) watch_->Upgraded(replacement ? *replacement : feature, told);
         report_.upgraded.push_back(std::move(told));
     }
 
     KORMemoryDocument& document_;
     const KORUnicodeString& applicativeName_;
+    KORUpgradeWatch* watch_;
     KORUpgradeReport report_;
     KORUnlistedFeatures unlisted_;
 };
@@ -75,15 +85,15 @@ private:
 }  // namespace
 
 KORUpgradeReport KORRunUpgrade(KORMemoryDocument& document, const KORUnicodeString& lateType,
-                               const KORUnicodeString& applicativeName) {
+                               const KORUnicodeString& applicativeName, KORUpgradeWatch* watch) {
     // Those there are now: what the upgrades create is up to date.
     std::vector<KORVar<KORFeature>> features;
     document.ForEachFeature(KORName::Intern(lateType.View()),
                             [&](KORFeature& feature) { features.emplace_back(&feature); });
     KORStep step(document, "Upgrade");
-    Run run(document, applicativeName);
+    Run run(document, applicativeName, watch);
     for (const auto& feature : features) run.Ask(*feature);
     KORUpgradeReport report = run.Report();
-    step.Commit();
+    if (!report.refused) step.Commit();
     return report;
 }

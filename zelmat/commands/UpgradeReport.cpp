@@ -4,6 +4,7 @@
 
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "zelmat/materials/StatusText.h"
+#include "zelmat/text/NumberText.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -11,6 +12,7 @@ namespace zelmat {
 namespace {
 
 constexpr const char* kMaterialType = "ZELMaterialLT";
+constexpr const char* kPressure = "PRESSURE";
 
 /// A feature as the report names it: late type and number.
 std::string FeatureText(const UpgradeReport& report, std::uint32_t number) {
@@ -44,11 +46,42 @@ std::vector<FeatureChanges> ByFeature(const UpgradeReport& report, const KORUpgr
     return features;
 }
 
+void PrintConverted(std::ostream& out, const ConvertedCoefficients& converted) {
+    out << "  coefficients: " << converted.model << ", from " << converted.from << " to " << converted.to
+        << '\n';
+    for (std::size_t row = 0; row < converted.rows.size(); ++row) {
+        out << "    row " << row + 1 << ":\n";
+        for (const auto& [name, before, after, factor] : converted.rows[row]) {
+            out << "      " << name << ": " << NumberText(before) << " -> " << NumberText(after) << " (times "
+                << NumberText(factor) << ")\n";
+        }
+    }
+}
+
+nlohmann::ordered_json ToJson(const ConvertedCoefficients& converted) {
+    using nlohmann::ordered_json;
+    ordered_json rows = ordered_json::array();
+    for (const auto& row : converted.rows) {
+        ordered_json values = ordered_json::array();
+        for (const auto& [name, before, after, factor] : row) {
+            values.push_back({{"name", name}, {"before", before}, {"after", after}, {"factor", factor}});
+        }
+        rows.push_back(std::move(values));
+    }
+    return {{"model", converted.model},
+            {"order", converted.order},
+            {"from", converted.from},
+            {"to", converted.to},
+            {"rows", std::move(rows)}};
+}
+
 void PrintMaterial(std::ostream& out, const UpgradeReport& report, const KORUpgradedFeature& material) {
     out << '\n' << material.name.c_str() << '\n';
     for (const FeatureChanges& changed : ByFeature(report, material)) {
         out << "  " << changed.lateType << ' ' << changed.feature << ": " << WordList(changed.what) << '\n';
     }
+    const auto converted = report.converted.find(material.feature);
+    if (converted != report.converted.end()) PrintConverted(out, converted->second);
     out << "  upgrade: " << (SUCCEEDED(material.status) ? "done" : "failed, " + StatusText(material.status))
         << '\n'
         << "  still needed: " << (material.stillNeeded ? "yes" : "no") << '\n';
@@ -64,12 +97,17 @@ void PrintMaterial(std::ostream& out, const UpgradeReport& report, const KORUpgr
 
 }  // namespace
 
-UpgradeReport UpgradeMaterials(KORMemoryDocument& document) {
+UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& file, Findings& findings) {
     UpgradeReport report;
     document.ForEachFeature(nullptr, [&](const KORFeature& feature) {
         report.lastBefore = std::max(report.lastBefore, feature.Number());
     });
-    report.run = KORRunUpgrade(document, kMaterialType, ZELMaterial::GetApplicativeSpecName());
+    KORUnitsService& units = document.Platform().Units();
+    CoefficientWatch watch(units, file, findings);
+    report.run = KORRunUpgrade(document, kMaterialType, ZELMaterial::GetApplicativeSpecName(), &watch);
+    if (report.run.refused) return report;
+    units.SetCurrentUnit(kPressure, KORFindUnitType(kPressure)->units.front().symbol);
+    report.converted = watch.Converted();
     document.ForEachFeature(nullptr, [&](const KORFeature& feature) {
         report.lateTypes.emplace(feature.Number(), feature.Layout().NameText().c_str());
     });
@@ -98,12 +136,15 @@ void ReportUpgrade(const UpgradeReport& report, const std::string& file, Finding
 
 void PrintUpgrade(std::ostream& out, const UpgradeReport& report) {
     out << "materials: " << report.run.asked << ", upgraded: " << report.run.upgraded.size() << '\n';
+    if (report.run.refused) out << "refused: nothing was changed\n";
     for (const KORUpgradedFeature& material : report.run.upgraded) PrintMaterial(out, report, material);
 }
 
 nlohmann::ordered_json ToJson(const UpgradeReport& report) {
     using nlohmann::ordered_json;
-    ordered_json json = {{"materials", report.run.asked}, {"upgraded", ordered_json::array()}};
+    ordered_json json = {{"materials", report.run.asked},
+                         {"refused", report.run.refused},
+                         {"upgraded", ordered_json::array()}};
     for (const KORUpgradedFeature& material : report.run.upgraded) {
         ordered_json told = {{"name", material.name.c_str()},
                              {"feature", material.feature},
@@ -111,12 +152,15 @@ nlohmann::ordered_json ToJson(const UpgradeReport& report) {
                              {"status", material.status},
                              {"still_needed", material.stillNeeded},
                              {"changes", ordered_json::array()},
+                             {"coefficients", nullptr},
                              {"no_longer_listed", material.unlisted}};
         if (material.replacement != 0) told["replacement"] = material.replacement;
         for (const FeatureChanges& changed : ByFeature(report, material)) {
             told["changes"].push_back(
                 {{"feature", changed.feature}, {"late_type", changed.lateType}, {"what", changed.what}});
         }
+        const auto converted = report.converted.find(material.feature);
+        if (converted != report.converted.end()) told["coefficients"] = ToJson(converted->second);
         json["upgraded"].push_back(std::move(told));
     }
     return json;

@@ -7,6 +7,7 @@
 
 #include "platform/document/KORUpgradeRun.h"
 #include "zelmat/findings/Findings.h"
+#include "zelmat/materials/CoefficientWatch.h"
 
 namespace zelmat {
 
@@ -16,10 +17,14 @@ struct UpgradeReport {
     std::uint32_t lastBefore = 0;  ///< the highest feature number there was before the run
     /// Late types by feature number, of the features that lie in the document after the run.
     std::unordered_map<std::uint32_t, std::string> lateTypes = {};
+    /// What the conversion of units did, by the number of the material that was upgraded.
+    std::map<std::uint32_t, ConvertedCoefficients> converted = {};
 };
 
-/// Runs the upgrade of the document's materials.
-UpgradeReport UpgradeMaterials(KORMemoryDocument& document);
+/// Runs the upgrade of the document's materials, unless it would have to guess: then the run is refused, and
+/// `findings` say why. Otherwise the platform's unit of pressure is the stored one afterwards, as all
+/// coefficients are in it. `file` is what findings call the document.
+UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& file, Findings& findings);
 
 /// A finding for each material whose upgrade failed or that needs one still.
 void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings);

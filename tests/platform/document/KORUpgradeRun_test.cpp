@@ -193,6 +193,58 @@ TEST_F(KORUpgradeRunTest, AsksWhatHangsInThePlaceOfAFeatureThatMoved) {
     EXPECT_EQ(Numbers{}, report.upgraded[0].unlisted);  // the copy lists the part
 }
 
+/// Writes down what it is asked and told, and refuses features of one alias.
+class Watch final : public KORUpgradeWatch {
+public:
+    explicit Watch(const char* refused) : refused_(refused) {}
+
+    bool MayUpgrade(KORFeature& feature, const KORUpgradedFeature& told) override {
+        log.push_back("may " + std::to_string(told.feature) + " " + told.name.c_str());
+        return feature.GetAlias() != refused_;
+    }
+    void Upgraded(KORFeature& now, const KORUpgradedFeature& told) override {
+        log.push_back(std::to_string(told.feature) + " is " + std::to_string(now.Number()));
+    }
+
+    std::vector<std::string> log;
+
+private:
+    const char* refused_;
+};
+
+TEST_F(KORUpgradeRunTest, ShowsAWatchEveryUpgradeBeforeAndAfter) {
+    NewMaterial("old")->SetAlias("Steel");
+    NewMaterial("");
+    NewMaterial("stubborn");
+    Watch watch("none of these");
+
+    const KORUpgradeReport report = KORRunUpgrade(*document, kLateType, kHung, &watch);
+
+    EXPECT_EQ((std::vector<std::string>{"may 1 Steel", "1 is 1", "may 3 Material", "3 is 3"}), watch.log);
+    EXPECT_FALSE(report.refused);
+    EXPECT_EQ(2u, report.upgraded.size());
+}
+
+TEST_F(KORUpgradeRunTest, IsTakenBackWhenTheWatchRefusesOneOfThem) {
+    const auto first = NewMaterial("old");
+    const auto second = NewMaterial("old");
+    const auto third = NewMaterial("old");
+    second->SetAlias("Rubber");
+    Watch watch("Rubber");
+
+    const KORUpgradeReport report = KORRunUpgrade(*document, kLateType, kHung, &watch);
+
+    EXPECT_TRUE(report.refused);
+    EXPECT_EQ(3u, report.asked);
+    EXPECT_TRUE(report.upgraded.empty());
+    EXPECT_EQ("may 3 Material", watch.log[3]) << "the others are still asked";
+    EXPECT_EQ(KORUnicodeString("old"), first->GetString(kState, 0));
+    EXPECT_EQ(KORUnicodeString("old"), second->GetString(kState, 0));
+    EXPECT_EQ(KORUnicodeString("old"), third->GetString(kState, 0));
+    EXPECT_EQ(3u, document->FeatureCount());
+    EXPECT_FALSE(document->CanUndo());
+}
+
 TEST_F(KORUpgradeRunTest, LeavesNoReferencesBehind) {
     const auto old = NewMaterial("old");
 
