@@ -10,6 +10,7 @@ packages=(
     libcli11-dev
     libutfcpp-dev
     libudunits2-dev
+    locales
 )
 
 missing=()

@@ -47,8 +47,7 @@ double Rounded(long double result, long double doubt) {
 }  // namespace
 
 UnitConversion::UnitConversion(const Unit& from, const Unit& to, bool isPoint)
-    : numerator_(from.Factor().numerator * to.Factor().denominator),
-      denominator_(from.Factor().denominator * to.Factor().numerator),
+    : factor_((from.Factor() * to.Factor().Inverse()).Quotient()),
       shift_(isPoint ? (from.Offset() - to.Offset()) / to.Factor().Quotient() : 0.0L) {
     assert(from.Dimension() == to.Dimension());
 }
@@ -56,9 +55,9 @@ UnitConversion::UnitConversion(const Unit& from, const Unit& to, bool isPoint)
 std::optional<double> UnitConversion::operator()(double value) const {
     if (IsIdentity() || !std::isfinite(value)) return value;
     if (value == 0.0 && shift_ == 0.0L) return value;
-    const long double scaled = static_cast<long double>(value) * numerator_ / denominator_;
+    const long double scaled = static_cast<long double>(value) * factor_;
     const long double exact = scaled + shift_;
-    const long double doubt = shift_ == 0.0L ? HalfLastPlace(value) * numerator_ / denominator_
+    const long double doubt = shift_ == 0.0L ? HalfLastPlace(value) * factor_
                                              : HalfLastPlace(std::max(std::abs(scaled), std::abs(shift_)));
     const double result = Rounded(exact, doubt);
     const bool tooSmall = shift_ == 0.0L && std::abs(result) < std::numeric_limits<double>::min();

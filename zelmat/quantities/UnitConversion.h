@@ -40,11 +40,10 @@ public:
     std::optional<std::size_t> Convert(std::span<double> values) const;
 
     /// Nothing to do: the numbers stay as they are.
-    bool IsIdentity() const { return numerator_ == denominator_ && shift_ == 0.0L; }
+    bool IsIdentity() const { return factor_ == 1.0L && shift_ == 0.0L; }
 
 private:
-    long double numerator_;
-    long double denominator_;
+    long double factor_;
     long double shift_;  // in the unit of the result, added after the factor
 };
 

@@ -81,7 +81,7 @@ std::optional<UnitReader::Part> UnitReader::ReadProduct(int depth) {
         bool divides = false;
         if (product.factors > 0 || Here() == '/') {
             if (AtEnd() || Here() == ')') return product;
-            if (!TakeOperator(divides)) return std::nullopt;
+            divides = TakeOperator();
         }
         if (divided && !divides) return RefuseProductAfterQuotient();
         const auto factor = ReadFactor(depth);
@@ -96,13 +96,13 @@ std::optional<UnitReader::Part> UnitReader::ReadProduct(int depth) {
     }
 }
 
-/// The sign between two factors; without one they are multiplied.
-bool UnitReader::TakeOperator(bool& divides) {
-    divides = Here() == '/';
+/// The sign between two factors; without one they are multiplied. True for a division.
+bool UnitReader::TakeOperator() {
+    const bool divides = Here() == '/';
     const bool sign = divides || Here() == '*' || Here() == '.' || (Here() == '-' && IsLetter(After(1)));
     if (sign) ++at_;
     SkipBlanks();
-    return true;
+    return divides;
 }
 
 bool UnitReader::Multiply(Part& product, const Part& factor, bool divides) {

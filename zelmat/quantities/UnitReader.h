@@ -38,7 +38,7 @@ private:
     std::optional<Part> ReadNumber();
     bool ReadPower(Part& part);
     bool ReadInteger(int& integer);
-    bool TakeOperator(bool& divides);
+    bool TakeOperator();
     bool Multiply(Part& product, const Part& factor, bool divides);
 
     void SkipBlanks();

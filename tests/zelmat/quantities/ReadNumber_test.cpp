@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
 #include <string>
 
+#include "tests/zelmat/quantities/CommaLocale.h"
 #include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
@@ -88,7 +88,8 @@ TEST(NumberText, ReadsBackAsTheSame) {
 }
 
 TEST(NumberText, HasAPointInEveryLocale) {
-    if (!std::setlocale(LC_ALL, "de_DE.UTF-8")) GTEST_SKIP() << "no locale with a decimal comma is installed";
+    const CommaLocale comma;
+    if (!comma.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
 
     EXPECT_EQ(NumberText(0.5), "0.5");
     EXPECT_EQ(Read("0.5"), 0.5);

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "tests/zelmat/quantities/CommaLocale.h"
 #include "zelmat/quantities/Unit.h"
 
 namespace zelmat {
@@ -35,8 +36,8 @@ TEST(UnitDatabase, RefusesWhatIsNoUnitAndScalesThatAreNoFactor) {
 }
 
 TEST(UnitDatabase, ReadsItsFactorsInEveryLocale) {
-    const char* const found = std::setlocale(LC_ALL, "de_DE.UTF-8");
-    if (!found) GTEST_SKIP() << "no locale with a decimal comma is installed";
+    const CommaLocale comma;
+    if (!comma.IsSet()) GTEST_SKIP() << "no locale with a decimal comma is installed";
 
     EXPECT_DOUBLE_EQ(Size("fathom"), 1.8288036576073152);
     EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "de_DE.UTF-8");
