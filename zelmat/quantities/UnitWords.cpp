@@ -206,7 +206,7 @@ std::string NearUnitWord(std::string_view word) {
     for (const std::string_view prefix : kUsualPrefixes) {
         for (const Entry& entry : kEntries) {
             if (!prefix.empty() && entry.prefixes == Prefixes::NONE) continue;
-            const std::string whole = std::string(prefix) + std::string(entry.word);
+            std::string whole = std::string(prefix) + std::string(entry.word);
             if (EqualButForCapitals(whole, word)) return whole;
         }
     }
