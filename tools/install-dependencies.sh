@@ -10,6 +10,8 @@ packages=(
     libcli11-dev
     libutfcpp-dev
     libudunits2-dev
+    libeigen3-dev
+    libceres-dev
     locales
 )
 
