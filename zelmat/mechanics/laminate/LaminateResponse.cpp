@@ -1,0 +1,92 @@
+#include "zelmat/mechanics/laminate/LaminateResponse.h"
+
+#include <cmath>
+
+#include "zelmat/mechanics/laminate/PlyStiffness.h"
+
+namespace zelmat::mechanics {
+
+namespace {
+
+Vector3 Sum(const Vector3& a, const Vector3& b, double factor = 1.0) {
+    return {a[0] + factor * b[0], a[1] + factor * b[1], a[2] + factor * b[2]};
+}
+
+Vector3 TransposedTimes(const Matrix3& matrix, const Vector3& vector) {
+    Vector3 product{};
+    for (std::size_t i = 0; i < 3; ++i) {
+        for (std::size_t k = 0; k < 3; ++k) product[i] += matrix[k][i] * vector[k];
+    }
+    return product;
+}
+
+/// Forces and moments that would hold back the expansion of every ply at a change of temperature by 1.
+struct HeldBack {
+    Vector3 force{}, moment{};
+};
+
+HeldBack ThermalLoads(const Laminate& laminate) {
+    const auto z = Interfaces(laminate);
+    HeldBack held;
+    for (std::size_t k = 0; k < laminate.layers.size(); ++k) {
+        const Layer& layer = laminate.layers[k];
+        const PlyMaterial& material = laminate.materials[layer.material];
+        const Vector3 stress =
+            Times(RotatedStiffness(material.elastic, layer.angle), RotatedExpansion(material, layer.angle));
+        held.force = Sum(held.force, stress, layer.thickness);
+        held.moment = Sum(held.moment, stress, layer.thickness * 0.5 * (z[k] + z[k + 1]));
+    }
+    return held;
+}
+
+PlyPoint PointAt(const Laminate& laminate, const Layer& layer, double z, const LaminateResponse& plane,
+                 double temperatureChange) {
+    const PlyMaterial& material = laminate.materials[layer.material];
+    PlyPoint point{};
+    point.z = z;
+    point.strain = Sum(plane.strain, plane.curvature, z);
+    point.stress = Times(RotatedStiffness(material.elastic, layer.angle),
+                         Sum(point.strain, RotatedExpansion(material, layer.angle), -temperatureChange));
+    point.plyStrain = StrainInPly(point.strain, layer.angle);
+    point.plyStress = StressInPly(point.stress, layer.angle);
+    return point;
+}
+
+bool AllFinite(const LaminateLoad& load) {
+    for (std::size_t i = 0; i < 3; ++i) {
+        if (!std::isfinite(load.force[i]) || !std::isfinite(load.moment[i])) return false;
+    }
+    return std::isfinite(load.temperatureChange);
+}
+
+}  // namespace
+
+Outcome<LaminateResponse> RespondTo(const Laminate& laminate, const LaminateLoad& load) {
+    const auto stiffness = StiffnessOf(laminate);
+    if (!stiffness.Ok()) return stiffness.Refused();
+    if (!AllFinite(load)) return Refusal{"a load is not a finite number"};
+    const HeldBack held = ThermalLoads(laminate);
+    const Vector3 force = Sum(load.force, held.force, load.temperatureChange);
+    const Vector3 moment = Sum(load.moment, held.moment, load.temperatureChange);
+
+    LaminateResponse response{};
+    response.strain = Sum(Times(stiffness->aInverse, force), Times(stiffness->bInverse, moment));
+    response.curvature = Sum(TransposedTimes(stiffness->bInverse, force), Times(stiffness->dInverse, moment));
+    const auto z = Interfaces(laminate);
+    for (std::size_t k = 0; k < laminate.layers.size(); ++k) {
+        const Layer& layer = laminate.layers[k];
+        response.plies.push_back(
+            {.layer = k,
+             .bottom = PointAt(laminate, layer, z[k], response, load.temperatureChange),
+             .top = PointAt(laminate, layer, z[k + 1], response, load.temperatureChange)});
+    }
+    return response;
+}
+
+Outcome<LaminateExpansion> ExpansionOf(const Laminate& laminate) {
+    const auto free = RespondTo(laminate, {.force = {}, .moment = {}, .temperatureChange = 1.0});
+    if (!free.Ok()) return free.Refused();
+    return LaminateExpansion{.strain = free->strain, .curvature = free->curvature};
+}
+
+}  // namespace zelmat::mechanics
