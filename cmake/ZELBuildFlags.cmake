@@ -3,7 +3,13 @@ add_library(zel_build_flags INTERFACE)
 target_compile_features(zel_build_flags INTERFACE cxx_std_20)
 target_compile_options(zel_build_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wsign-conversion
-    -Wold-style-cast -Werror)
+    -Wold-style-cast $<$<BOOL:${ZEL_WARNINGS_AS_ERRORS}>:-Werror>)
+# When g++ 12 optimises, it takes what it inlined from std::string and its own containers for overlapping copies and for
+# reads of nothing: false alarms about code that is not ours. clang and the sanitizers look for the real ones.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(zel_build_flags INTERFACE
+        $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict> $<$<NOT:$<CONFIG:Debug>>:-Wno-maybe-uninitialized>)
+endif()
 if(ZEL_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(zel_build_flags INTERFACE ${sanitizers})
@@ -13,3 +19,8 @@ if(ZEL_COVERAGE)
     target_compile_options(zel_build_flags INTERFACE --coverage -fprofile-abs-path -O0)
     target_link_options(zel_build_flags INTERFACE --coverage)
 endif()
+
+# For code that has to leave the process with its library: no symbol of it may be unique to the process, since such a
+# symbol pins the library. Only g++ makes such symbols, and only g++ knows the option.
+add_library(zel_unloadable INTERFACE)
+target_compile_options(zel_unloadable INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)

@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building and testing need. Does nothing, and needs neither network nor
 # root, when all of them are there.
+#   tools/install-dependencies.sh [EXTRA...]     also what only some need: clang (the preset of that name), lint, peer
+#                                                (the document framework beside which tools/bench.sh measures)
 set -euo pipefail
 
 packages=(
@@ -14,6 +16,15 @@ packages=(
     libceres-dev
     locales
 )
+
+for extra in "$@"; do
+    case "$extra" in
+        clang) packages+=(clang) ;;
+        lint) packages+=(clang-tidy) ;;
+        peer) packages+=(libocct-ocaf-dev) ;;
+        *) echo "install-dependencies.sh: unknown extra $extra; known: clang lint peer" >&2; exit 2 ;;
+    esac
+done
 
 missing=()
 for package in "${packages[@]}"; do

@@ -44,7 +44,6 @@ public:
         return before;
     }
     friend bool operator==(const PlacedIterator& a, const PlacedIterator& b) { return a.at_ == b.at_; }
-    friend bool operator!=(const PlacedIterator& a, const PlacedIterator& b) { return a.at_ != b.at_; }
 
 private:
     const char* at_;

@@ -58,7 +58,7 @@ public:
     bool CanRedo() const { return Log().CanRedo(); }
     bool Undo() noexcept { return Log().Undo(); }  ///< false: nothing to undo, or a step stands open
     bool Redo() noexcept { return Log().Redo(); }
-    std::uint32_t Generation() const { return Log().Generation(); }
+    std::uint32_t Generation() const override { return Log().Generation(); }
 
     /// The features that lie in its containers.
     std::size_t FeatureCount() const { return MemberCount(); }

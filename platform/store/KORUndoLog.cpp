@@ -3,7 +3,7 @@
 #include <algorithm>
 
 void KORUndoLog::Log(KORFeature& feature, KORSlot slot, KORValue&& value) {
-    open_.emplace_back(KORVar<KORFeature>(&feature), slot, std::move(value));
+    open_.push_back({KORVar<KORFeature>(&feature), slot, std::move(value)});
     open_.back().Apply();
 }
 
