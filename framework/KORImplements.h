@@ -7,7 +7,9 @@
 template <class... I>
 class KORImplements : public KORBaseUnknown, public I... {
 public:
-    HRESULT QueryInterface(KORIID iid, void** out) final { return KORBaseUnknown::QueryInterface(iid, out); }
+    HRESULT QueryInterface(KORIID iid, void** out) override {
+        return KORBaseUnknown::QueryInterface(iid, out);
+    }
     std::uint32_t AddRef() final { return KORBaseUnknown::AddRef(); }
     std::uint32_t Release() final { return KORBaseUnknown::Release(); }
     HRESULT GetTypeInfoCount(std::uint32_t* count) final { return KORBaseUnknown::GetTypeInfoCount(count); }

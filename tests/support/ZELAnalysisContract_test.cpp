@@ -95,6 +95,14 @@ TEST_P(ZELAnalysisContract, ScansTheModelItsSetsOrBoth) {
     EXPECT_THAT(Scan(kSet, 3), ElementsAre(set));
 }
 
+TEST_P(ZELAnalysisContract, FindsNothingInAScanOfAnUnknownMode) {
+    Create(kLayup);
+
+    EXPECT_THAT(Scan(kLayup, 0), IsEmpty());
+    EXPECT_THAT(Scan(kLayup, 4), IsEmpty());
+    EXPECT_THAT(Scan(kLayup, -1), IsEmpty());
+}
+
 TEST_P(ZELAnalysisContract, TellsTheParentSetsOfALayup) {
     const auto first = Create(kSet);
     const auto second = Create(kSet);

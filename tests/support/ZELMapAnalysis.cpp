@@ -11,9 +11,16 @@ constexpr const char* kChildren = "Children";
 constexpr const char* kModel = "KORAnalysisModelLT";
 constexpr const char* kSet = "ZELZelmarPropertySetLT";
 
+enum ScanMode { kOwnChildren = 1, kChildrenOfSets = 2, kEverything = 3 };
+
 std::string TypeOf(const KORISpecObject_var& feature) {
     const ZELUnrecorded unrecorded;
     return feature ? std::string(feature->GetType().View()) : "null";
+}
+
+/// Null when there is none, and once the document is closed.
+KORISpecObject_var ModelOf(const ZELMapWorld& world) {
+    return world.document ? world.document->AnalysisModel() : nullptr;
 }
 
 /// None of no feature.
@@ -55,15 +62,16 @@ KORListValKORISpecObject_var ZELMapAnalysisFeature::Scan(const KORUnicodeString&
     const std::string details = std::string(lateType.View()) + " " + std::to_string(mode);
     KORListValKORISpecObject_var found;
     if (Calls().Record("Scan", details, true) != ZELVerdict::Answer) return found;
+    if (mode < kOwnChildren || mode > kEverything) return found;
     const ZELUnrecorded unrecorded;
-    Collect(KORISpecObject_var(this), lateType, mode != 2, mode != 1, found);
+    Collect(KORISpecObject_var(this), lateType, mode != kChildrenOfSets, mode != kOwnChildren, found);
     return found;
 }
 
 void ZELMapAnalysisFeature::AddChild(const KORISpecObject_var& child) {
     Calls().Record("AddChild", Label() + " " + TypeOf(child), false);
     const ZELUnrecorded unrecorded;
-    if (const KORISpecObject_var model = World()->document->AnalysisModel(); model) TakeAway(model, child);
+    if (const KORISpecObject_var model = ModelOf(*World()); model) TakeAway(model, child);
     ::AppendComponent(KORISpecObject_var(this), kChildren, child);
 }
 
@@ -82,7 +90,7 @@ KORListValKORBaseUnknown_var ZELMapAnalysisFeature::GetParentSets() {
     const ZELUnrecorded unrecorded;
     const KORISpecObject_var own(this);
     KORListValKORISpecObject_var sets;
-    Collect(World()->document->AnalysisModel(), kSet, true, true, sets);
+    Collect(ModelOf(*World()), kSet, true, true, sets);
     for (int position = 1; position <= sets.Size(); ++position) {
         const auto children = ChildrenOf(sets[position]);
         if (std::ranges::find(children, own) != children.end()) parents.Append(sets[position]);
@@ -95,6 +103,7 @@ KORBaseUnknown* ZELMapModelFactory::CreateEntity(const KORUnicodeString& lateTyp
     const std::string details =
         std::string(lateType.View()) + " \"" + std::string(name.View()) + "\" in " + TypeOf(model);
     if (Calls().Record("CreateEntity", details, true) != ZELVerdict::Answer || !model) return nullptr;
+    if (!World()->document) return nullptr;
     const ZELUnrecorded unrecorded;
     auto entity = World()->document->Container()->MakeMember(std::string(lateType.View()), name);
     if (entity) ::AppendComponent(KORISpecObject_var(model), kChildren, entity);

@@ -23,10 +23,11 @@ HRESULT ZELMapContainer::OpenCatalog(const KORUnicodeString& catalog, const KORU
                                      KORICatalog_var& opened) {
     const std::string details = std::string(catalog.View()) + " " + std::string(client.View());
     const ZELVerdict verdict = Calls().Record("OpenCatalog", details, true);
-    if (verdict == ZELVerdict::Refuse || catalog != "ZELMaterialPropertiesCatalog.KORfct") return E_FAIL;
+    if (verdict == ZELVerdict::Refuse) return Calls().StatusOf(verdict);
+    if (catalog != "ZELMaterialPropertiesCatalog.KORfct") return E_FAIL;
     opened =
         verdict == ZELVerdict::SuccessWithNull ? nullptr : KORICatalog_var::Adopt(new ZELMapCatalog(World()));
-    return S_OK;
+    return Calls().StatusOf(verdict);
 }
 
 bool ZELMapContainer::Holds(const KORISpecObject* feature) const {
@@ -37,8 +38,7 @@ HRESULT ZELMapContainer::Extract(const KORListValKORISpecObject_var& features,
                                  KORListValKORISpecObject_var& extracted) {
     const ZELVerdict verdict =
         Calls().Record("Extract", Label() + " " + std::to_string(features.Size()), true);
-    if (verdict == ZELVerdict::Refuse) return E_FAIL;
-    if (verdict == ZELVerdict::SuccessWithNull) return S_OK;
+    if (verdict != ZELVerdict::Answer) return Calls().StatusOf(verdict);
     const ZELUnrecorded unrecorded;
     KORListValKORISpecObject_var found;
     const auto isFound = [&found](const KORISpecObject* feature) {
@@ -64,8 +64,8 @@ HRESULT ZELMapContainer::Paste(const KORListValKORISpecObject_var& extracted,
                                KORListValKORISpecObject_var& copies) {
     const ZELVerdict verdict =
         Calls().Record("Paste", Label() + " " + std::to_string(extracted.Size()), true);
-    if (verdict == ZELVerdict::Refuse) return E_FAIL;
-    if (verdict == ZELVerdict::SuccessWithNull) return S_OK;
+    if (verdict != ZELVerdict::Answer) return Calls().StatusOf(verdict);
+    if (!World()->document) return E_FAIL;
     const ZELUnrecorded unrecorded;
     std::map<KORISpecObject*, ZELMapFeature*> copyOf;
     for (int position = 1; position <= extracted.Size(); ++position) {
@@ -80,9 +80,10 @@ HRESULT ZELMapContainer::Paste(const KORListValKORISpecObject_var& extracted,
 
 HRESULT ZELMapContainer::Remove(KORISpecObject* feature) {
     const ZELVerdict verdict = Calls().Record("Remove", Label(), true);
+    if (verdict != ZELVerdict::Answer) return Calls().StatusOf(verdict);
     const auto found =
         std::ranges::find_if(members_, [feature](const auto& member) { return member.Get() == feature; });
-    if (verdict != ZELVerdict::Answer || found == members_.end()) return E_FAIL;
+    if (found == members_.end()) return E_FAIL;
     (*found)->LeaveContainer();
     members_.erase(found);
     return S_OK;
@@ -93,8 +94,8 @@ HRESULT ZELMapCatalog::RetrieveStartUp(const KORUnicodeString& lateType, const c
     *out = nullptr;
     const std::string type(lateType.View());
     const ZELVerdict verdict = Calls().Record("RetrieveStartUp", type + " " + interfaceName, true);
-    if (verdict == ZELVerdict::SuccessWithNull) return S_OK;
-    if (verdict == ZELVerdict::Refuse || !World()->types.Find(type)) return E_FAIL;
+    if (verdict != ZELVerdict::Answer) return Calls().StatusOf(verdict);
+    if (!World()->types.Find(type)) return E_FAIL;
     const auto startUp = KORVar<ZELMapFeature>::Adopt(new ZELMapFeature(World(), type, "", nullptr));
     return SUCCEEDED(startUp->QueryInterface(KORName::Intern(interfaceName), out)) ? S_OK : E_FAIL;
 }
@@ -105,7 +106,12 @@ ZELMapDocument::ZELMapDocument(const std::shared_ptr<ZELMapWorld>& world)
     world->document = this;
 }
 
+ZELMapDocument::~ZELMapDocument() {
+    Close();
+}
+
 void ZELMapDocument::Close() {
+    if (!container_) return;
     World()->document = nullptr;
     // Held while they are emptied: one feature's value may be the last reference on another.
     std::vector<KORVar<ZELMapFeature>> all(World()->features.begin(), World()->features.end());
@@ -138,8 +144,8 @@ KORBaseUnknown* ZELMapDocument::GetFeatContainer() {
 
 HRESULT ZELMapDocument::LoadCatalog(const KORUnicodeString& catalog) {
     const ZELVerdict verdict = Calls().Record("LoadCatalog", std::string(catalog.View()), true);
-    const bool known = catalog == "ZELMaterialPropertiesCatalog.KORfct";
-    return verdict != ZELVerdict::Refuse && known ? S_OK : E_FAIL;
+    if (verdict != ZELVerdict::Answer) return Calls().StatusOf(verdict);
+    return catalog == "ZELMaterialPropertiesCatalog.KORfct" ? S_OK : E_FAIL;
 }
 
 KORISamAnalysisModelFactory* ZELMapDocument::GetFactory() {

@@ -55,10 +55,13 @@ class ZELMapDocument final
     : public ZELMapObject<KORDocument, KORIApplicativeContainers, KORIAnalysisDocument> {
 public:
     explicit ZELMapDocument(const std::shared_ptr<ZELMapWorld>& world);
+    ~ZELMapDocument() override;
 
     const KORVar<ZELMapContainer>& Container() const { return container_; }
     KORVar<ZELMapContainer> AddContainer(const std::string& name);
-    void Close();  ///< empties all features of the document, so that nothing keeps anything else alive
+    /// Empties all features of the document, so that nothing keeps anything else alive. Who still holds one
+    /// of its objects may go on calling it: nothing is found and nothing is made any more.
+    void Close();
 
     KORBaseUnknown* GetFeatContainer() override;
     KORBaseUnknown* FindContainer(const char* name) override;

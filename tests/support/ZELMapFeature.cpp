@@ -159,7 +159,10 @@ KORISpecAttrKey* ZELMapFeature::GetAttrKey(const char* name) {
     if (Note("GetAttrKey", name, "", true) != ZELVerdict::Answer) return nullptr;
     const bool known = std::ranges::any_of(
         attributes_, [&](const ZELAttribute& attribute) { return attribute.name == name; });
-    if (!known) return nullptr;
+    if (!known) {
+        Calls().NoteMiss();
+        return nullptr;
+    }
     KORISpecAttrKey* key = KORName::Intern(name);
     key->AddRef();
     return key;

@@ -25,21 +25,23 @@ KORISpecObject* ZELMapMaterial::GetApplicativeFeature(const KORUnicodeString& na
 
 HRESULT ZELMapMaterial::SetApplicativeFeature(const KORUnicodeString& name, KORISpecObject* feature) {
     const ZELVerdict verdict = Calls().Record("SetApplicativeFeature", std::string(name.View()), true);
-    if (verdict == ZELVerdict::Refuse || !feature) return E_FAIL;
+    if (verdict == ZELVerdict::Refuse) return Calls().StatusOf(verdict);
+    if (!feature) return E_FAIL;
     KORISpecObject_var& held = applicative_[std::string(name.View())];
     Hang(held, nullptr);
     held = feature;
     Hang(held, this);
-    return S_OK;
+    return Calls().StatusOf(verdict);
 }
 
 HRESULT ZELMapMaterial::RemoveApplicativeFeature(const KORUnicodeString& name) {
     const ZELVerdict verdict = Calls().Record("RemoveApplicativeFeature", std::string(name.View()), true);
     const auto found = applicative_.find(std::string(name.View()));
-    if (verdict == ZELVerdict::Refuse || found == applicative_.end()) return E_FAIL;
+    if (verdict == ZELVerdict::Refuse) return Calls().StatusOf(verdict);
+    if (found == applicative_.end()) return E_FAIL;
     Hang(found->second, nullptr);
     applicative_.erase(found);
-    return S_OK;
+    return Calls().StatusOf(verdict);
 }
 
 KORBaseUnknown* ZELMapMaterial::GetSupport() {

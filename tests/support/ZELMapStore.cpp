@@ -29,6 +29,7 @@ KORIContainer_var ZELMapStore::AddContainer(const char* name) {
 
 KORISpecObject_var ZELMapStore::MakeIn(const KORIContainer_var& container, const char* lateType) {
     const ZELUnrecorded unrecorded;
+    if (!container) return nullptr;
     return dynamic_cast<ZELMapContainer&>(*container).MakeMember(lateType, lateType);
 }
 

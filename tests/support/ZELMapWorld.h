@@ -27,6 +27,13 @@ struct ZELMapWorld {
 /// extensions included.
 template <class... I>
 class ZELMapObject : public KORImplements<I...> {
+public:
+    HRESULT QueryInterface(KORIID iid, void** out) final {
+        injected_ = S_OK;
+        const HRESULT status = KORImplements<I...>::QueryInterface(iid, out);
+        return SUCCEEDED(status) || SUCCEEDED(injected_) ? status : injected_;
+    }
+
 protected:
     ZELMapObject(std::shared_ptr<ZELMapWorld> world, std::string label)
         : world_(std::move(world)), label_(std::move(label)) {}
@@ -40,6 +47,7 @@ protected:
         const bool canFail = iid != IID_KORBaseUnknown;
         const ZELVerdict verdict = Calls().Record("QueryInterface", label_ + " " + iid->Text(), canFail);
         refusing_ = verdict != ZELVerdict::Answer || Calls().Refuses(label_, iid->Text());
+        if (verdict != ZELVerdict::Answer) injected_ = Calls().FailedStatus().value_or(S_OK);
         return refusing_ || !Offers(iid) ? nullptr : KORImplements<I...>::OwnInterface(iid);
     }
 
@@ -58,4 +66,5 @@ private:
     std::shared_ptr<ZELMapWorld> world_;
     std::string label_;
     mutable bool refusing_ = false;  ///< the query being answered is to fail
+    HRESULT injected_ = S_OK;        ///< the failure that an injected status makes of it
 };

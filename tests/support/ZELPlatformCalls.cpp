@@ -3,8 +3,22 @@
 int ZELUnrecorded::depth_ = 0;
 
 void ZELPlatformCalls::Inject(ZELFault fault, int n, const std::string& kind) {
-    fault_ = {fault, n, kind};
+    fault_ = {fault, n, kind, {}};
     failedCall_.clear();
+    failedStatus_.reset();
+}
+
+void ZELPlatformCalls::InjectStatus(HRESULT status, int n, const std::string& kind) {
+    Inject(SUCCEEDED(status) ? ZELFault::SuccessWithNull : ZELFault::Refuse, n, kind);
+    fault_.status = status;
+}
+
+void ZELPlatformCalls::NoteMiss() {
+    if (!ZELUnrecorded::IsActive()) log_.back() += " not found";
+}
+
+HRESULT ZELPlatformCalls::StatusOf(ZELVerdict verdict) const {
+    return failedStatus_.value_or(verdict == ZELVerdict::Refuse ? E_FAIL : S_OK);
 }
 
 void ZELPlatformCalls::RefuseInterface(const std::string& label, const std::string& interfaceName) {
@@ -30,6 +44,7 @@ ZELVerdict ZELPlatformCalls::Record(const std::string& kind, const std::string& 
                                 (canFail || fault_.fault == ZELFault::Throw);
     if (!countsForFault || --fault_.left > 0) return ZELVerdict::Answer;
     failedCall_ = log_.back();
+    failedStatus_ = fault_.status;
     switch (fault_.fault) {
         case ZELFault::Refuse:
             return ZELVerdict::Refuse;

@@ -40,6 +40,15 @@ TEST_F(ZELPlatformCallsTest, LogsEveryCallInOrderWithItsValues) {
     EXPECT_THAT(store_.Calls().Log("GetAttrKey"), ElementsAre("GetAttrKey TestLT.Data"));
 }
 
+TEST_F(ZELPlatformCallsTest, SaysThatAKeyWasNotFound) {
+    const KORISpecAttrAccess_var access = feature_;
+    store_.Calls().ClearLog();
+
+    EXPECT_EQ(access->GetAttrKey("Missing"), nullptr);
+
+    EXPECT_THAT(store_.Calls().Log(), ElementsAre("GetAttrKey TestLT.Missing not found"));
+}
+
 TEST_F(ZELPlatformCallsTest, DoesNotLogTheTestsOwnLookAtAFeature) {
     SetFlag(feature_, "Flag", true);
     EXPECT_TRUE(GetFlag(feature_, "Flag"));
@@ -168,4 +177,38 @@ TEST_F(ZELPlatformCallsTest, FailsCatalogStartUpAndInstantiation) {
     store_.Calls().Inject(ZELFault::Refuse, 1, "Instantiate");
     EXPECT_EQ(held->Instantiate("name", store_.Container().Get()), nullptr);
     EXPECT_EQ(store_.LiveFeatures(), 1);
+}
+
+TEST_F(ZELPlatformCallsTest, AnswersTheStatusThatAFaultCarries) {
+    constexpr HRESULT kOtherSuccess = 1;
+    const KORICatalogAccess_var catalogs(store_.Container());
+    const auto open = [&](HRESULT status) {
+        KORICatalog_var catalog;
+        store_.Calls().InjectStatus(status, 1, "OpenCatalog");
+        const HRESULT answer =
+            catalogs->OpenCatalog("ZELMaterialPropertiesCatalog.KORfct", "ZELMAR", catalog);
+        EXPECT_EQ(catalog, nullptr);
+        return answer;
+    };
+
+    EXPECT_EQ(open(E_OUTOFMEMORY), E_OUTOFMEMORY);
+    EXPECT_EQ(open(kOtherSuccess), kOtherSuccess);
+
+    KORICatalog_var catalog;
+    EXPECT_EQ(catalogs->OpenCatalog("ZELMaterialPropertiesCatalog.KORfct", "ZELMAR", catalog), S_OK);
+    EXPECT_NE(catalog, nullptr) << "a fault hits once";
+}
+
+TEST_F(ZELPlatformCallsTest, RefusesAQueryWithTheFailureThatAFaultCarries) {
+    void* found = this;
+    store_.Calls().InjectStatus(E_OUTOFMEMORY, 1);
+    EXPECT_EQ(feature_->QueryInterface(IID_KORISpecAttrAccess, &found), E_OUTOFMEMORY);
+    EXPECT_EQ(found, nullptr);
+
+    store_.Calls().InjectStatus(S_OK, 1);
+    EXPECT_EQ(feature_->QueryInterface(IID_KORISpecAttrAccess, &found), E_NOINTERFACE)
+        << "a query cannot succeed with nothing";
+
+    store_.Calls().Inject(ZELFault::Refuse, 1);
+    EXPECT_EQ(feature_->QueryInterface(IID_KORISpecAttrAccess, &found), E_NOINTERFACE);
 }
