@@ -2,9 +2,13 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <fstream>
 #include <map>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace bench {
@@ -28,11 +32,6 @@ std::string Show(double value, const std::string& unit) {
     if (value < 1e3) return Format("%.3g ns", value);
     if (value < 1e6) return Format("%.3g us", value / 1e3);
     return Format("%.3g ms", value / 1e6);
-}
-
-std::string ShowSpan(double low, double high, const std::string& unit) {
-    const std::string upper = Show(high, unit);
-    return low == high ? upper : Show(low, unit) + " - " + upper;
 }
 
 /// Keeps the medians; prints nothing while benchmarks run.
@@ -81,50 +80,75 @@ private:
     std::map<std::string, Result> results_;
 };
 
-struct Span {
-    double low;
-    double high;
-};
-
-/// Nothing when the benchmark was filtered out.
-std::optional<Span> ValueOf(const Figure& figure, const Medians& medians) {
-    if (figure.benchmark.empty()) return Span{figure.low, figure.high};
+/// Nothing when the benchmark did not run.
+std::optional<double> ValueOf(const Figure& figure, const Medians& medians) {
+    if (figure.benchmark.empty()) return figure.bound;
     const Result* result = medians.Find(figure.benchmark);
     if (!result) return std::nullopt;
-    if (figure.counter.empty()) return Span{result->time, result->time};
+    if (figure.counter.empty()) return result->time;
     const auto counter = result->counters.find(figure.counter);
     if (counter == result->counters.end()) return std::nullopt;
-    return Span{counter->second, counter->second};
+    return counter->second;
 }
 
-std::string Verdict(const Target& target, const Span& ratio) {
-    if (target.bound == 0.0) return "";
+std::string Verdict(const Target& target, double ratio) {
     const bool faster = target.kind == Target::Kind::TimesFaster;
-    const double strict = faster ? ratio.low : ratio.high;
-    const double lenient = faster ? ratio.high : ratio.low;
-    const auto meets = [&](double value) { return faster ? value >= target.bound : value <= target.bound; };
-    if (meets(strict)) return "met";
-    const double off = faster ? target.bound / strict : strict / target.bound;
-    const std::string missed = "missed by " + Format("%.0f %%", 100.0 * (off - 1.0));
-    return meets(lenient) ? missed + " (met against the peer's slower run)" : missed;
+    if (target.bound == 0.0) return "";
+    if (faster ? ratio >= target.bound : ratio <= target.bound) return "met";
+    const double off = faster ? target.bound / ratio : ratio / target.bound;
+    return "missed by " + Format("%.0f %%", 100.0 * (off - 1.0));
 }
 
-void PrintRow(const Ratio& row, const Medians& medians) {
+enum Column { kQuestion, kOurs, kBeside, kLabel, kRatio, kGoal, kVerdict, kColumns };
+using Line = std::array<std::string, kColumns>;
+
+/// Nothing when a side of the comparison was not measured.
+std::optional<Line> LineOf(const Ratio& row, const Medians& medians) {
     const auto ours = ValueOf(row.ours, medians);
     const auto beside = ValueOf(row.beside, medians);
-    if (!ours || !beside) return;
+    if (!ours || !beside) return std::nullopt;
     const bool faster = row.target.kind == Target::Kind::TimesFaster;
-    const Span ratio = faster ? Span{beside->low / ours->high, beside->high / ours->low}
-                              : Span{ours->low / beside->high, ours->high / beside->low};
-    std::string ratioText = Format("%.2f", ratio.low);
-    if (ratio.low != ratio.high) ratioText += Format(" - %.2f", ratio.high);
-    std::string target;
-    if (row.target.bound != 0.0) target = Format(faster ? ">= %g x faster" : "<= %g x", row.target.bound);
-    const std::string label = row.beside.label.empty() ? row.beside.benchmark : row.beside.label;
-    std::printf("%-52s %12s  %-20s %-30s %15s  %-16s %s\n", row.question.c_str(),
-                ShowSpan(ours->low, ours->high, row.ours.unit).c_str(),
-                ShowSpan(beside->low, beside->high, row.beside.unit).c_str(), label.c_str(),
-                ratioText.c_str(), target.c_str(), Verdict(row.target, ratio).c_str());
+    Line line;
+    line[kQuestion] = row.question;
+    line[kOurs] = row.ours.unit.empty() ? "none yet" : Show(*ours, row.ours.unit);
+    line[kBeside] = Show(*beside, row.beside.unit);
+    line[kLabel] = row.beside.benchmark.empty() ? "our bound" : row.beside.benchmark;
+    if (row.target.bound != 0.0)
+        line[kGoal] = Format(faster ? ">= %g x faster" : "<= %g x", row.target.bound);
+    if (row.ours.unit.empty()) return line;
+    const double ratio = faster ? *beside / *ours : *ours / *beside;
+    line[kRatio] = Format("%.2f", ratio);
+    line[kVerdict] = Verdict(row.target, ratio);
+    return line;
+}
+
+void Print(const Line& line) {
+    std::printf("%-56s %12s  %12s  %-28s %8s  %-16s %s\n", line[kQuestion].c_str(), line[kOurs].c_str(),
+                line[kBeside].c_str(), line[kLabel].c_str(), line[kRatio].c_str(), line[kGoal].c_str(),
+                line[kVerdict].c_str());
+}
+
+/// Appends the lines as a Markdown table. False when the file cannot be written.
+bool AppendMarkdown(const std::string& path, std::span<const Line> lines) {
+    std::ofstream file(path, std::ios::app);
+    file << "| Work | Ours | Beside it | | Ratio | Goal | |\n|---|--:|--:|---|--:|---|---|\n";
+    for (const Line& line : lines) {
+        for (const std::string& cell : line) file << "| " << cell << (cell.empty() ? "" : " ");
+        file << "|\n";
+    }
+    file.flush();
+    return file.good();
+}
+
+/// The file named by --markdown=FILE, which is taken out of the arguments; empty when there is none.
+std::string TakeMarkdownOption(std::vector<char*>& arguments) {
+    constexpr std::string_view kOption = "--markdown=";
+    const auto found = std::ranges::find_if(
+        arguments, [&](const char* argument) { return std::string_view(argument).starts_with(kOption); });
+    if (found == arguments.end()) return "";
+    const std::string path(std::string_view(*found).substr(kOption.size()));
+    arguments.erase(found);
+    return path;
 }
 
 }  // namespace
@@ -135,6 +159,7 @@ int RunWithRatios(int argc, char** argv, std::span<const Ratio> ratios) {
     std::string mixed = "--benchmark_enable_random_interleaving=true";
     std::vector<char*> arguments = {argv[0], repetitions.data(), minTime.data(), mixed.data()};
     arguments.insert(arguments.end(), argv + 1, argv + argc);  // later: what the user says holds
+    const std::string markdown = TakeMarkdownOption(arguments);
     arguments.push_back(nullptr);
     int count = static_cast<int>(arguments.size()) - 1;
     benchmark::Initialize(&count, arguments.data());
@@ -144,9 +169,17 @@ int RunWithRatios(int argc, char** argv, std::span<const Ratio> ratios) {
     benchmark::RunSpecifiedBenchmarks(&medians);
     benchmark::Shutdown();
     medians.Print();
-    std::printf("\n%-52s %12s  %-20s %-30s %15s  %-16s\n", "question", "ours", "beside it", "", "ratio",
-                "target");
-    for (const Ratio& row : ratios) PrintRow(row, medians);
+    std::vector<Line> lines;
+    for (const Ratio& row : ratios) {
+        if (auto line = LineOf(row, medians)) lines.push_back(*line);
+    }
+    std::printf("\n");
+    Print({"question", "ours", "beside it", "", "ratio", "goal", ""});
+    for (const Line& line : lines) Print(line);
+    if (!markdown.empty() && !AppendMarkdown(markdown, lines)) {
+        std::fprintf(stderr, "%s: cannot be written\n", markdown.c_str());
+        return 1;
+    }
     return 0;
 }
 

@@ -3,7 +3,6 @@
 #include <BinLDrivers.hxx>
 #include <PCDM_ReaderStatus.hxx>
 #include <PCDM_StoreStatus.hxx>
-#include <TColStd_HArray1OfReal.hxx>
 #include <TDataStd_Real.hxx>
 #include <TDataStd_RealArray.hxx>
 #include <TDocStd_Application.hxx>
@@ -16,7 +15,7 @@ namespace {
 
 constexpr const char* kFormat = "BinLOcaf";
 
-const Handle(TDocStd_Application) & Application() {
+const opencascade::handle<TDocStd_Application>& Application() {
     static const Handle(TDocStd_Application) application = [] {
         Handle(TDocStd_Application) made = new TDocStd_Application;
         BinLDrivers::DefineFormat(made);
@@ -71,7 +70,7 @@ TDF_Label NewScalars(const Document& document) {
 }
 
 void WriteColumn(const TDF_Label& feature, const Standard_GUID& key,
-                 const Handle(TColStd_HArray1OfReal) & column) {
+                 const opencascade::handle<TColStd_HArray1OfReal>& column) {
     Handle(TDataStd_RealArray) stored;
     if (!feature.FindAttribute(key, stored)) {
         stored = TDataStd_RealArray::Set(feature, key, column->Lower(), column->Upper());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <Standard_GUID.hxx>
+#include <TColStd_HArray1OfReal.hxx>
 #include <TDF_Label.hxx>
 #include <TDocStd_Document.hxx>
 #include <array>
@@ -56,6 +57,6 @@ TDF_Label NewScalars(const Document& document);
 
 /// Writes a column: a fresh array put in place of the stored one, without a comparison of the two.
 void WriteColumn(const TDF_Label& feature, const Standard_GUID& key,
-                 const Handle(TColStd_HArray1OfReal) & column);
+                 const opencascade::handle<TColStd_HArray1OfReal>& column);
 
 }  // namespace peer
