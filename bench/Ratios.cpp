@@ -117,13 +117,13 @@ std::optional<Line> LineOf(const Ratio& row, const Medians& medians) {
         line[kGoal] = Format(faster ? ">= %g x faster" : "<= %g x", row.target.bound);
     if (row.ours.unit.empty()) return line;
     const double ratio = faster ? *beside / *ours : *ours / *beside;
-    line[kRatio] = Format("%.2f", ratio);
+    line[kRatio] = Format(faster ? "%.3g x faster" : "%.3g x", ratio);
     line[kVerdict] = Verdict(row.target, ratio);
     return line;
 }
 
 void Print(const Line& line) {
-    std::printf("%-56s %12s  %12s  %-28s %8s  %-16s %s\n", line[kQuestion].c_str(), line[kOurs].c_str(),
+    std::printf("%-56s %12s  %12s  %-28s %14s  %-16s %s\n", line[kQuestion].c_str(), line[kOurs].c_str(),
                 line[kBeside].c_str(), line[kLabel].c_str(), line[kRatio].c_str(), line[kGoal].c_str(),
                 line[kVerdict].c_str());
 }

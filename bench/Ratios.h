@@ -30,7 +30,8 @@ struct Target {
 
     static Target AtLeast(double timesFaster) { return {Kind::TimesFaster, timesFaster}; }
     static Target AtMost(double timesTheCost) { return {Kind::TimesTheCost, timesTheCost}; }
-    static Target None() { return {}; }
+    static Target Faster() { return AtLeast(0.0); }  ///< shown as so many times faster
+    static Target None() { return {}; }              ///< shown as so many times the cost
 };
 
 /// One line of the closing table.
