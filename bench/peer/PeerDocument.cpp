@@ -8,6 +8,7 @@
 #include <TDocStd_Application.hxx>
 #include <limits>
 #include <stdexcept>
+#include <string>
 
 namespace peer {
 
@@ -47,7 +48,10 @@ void Document::Save(const char* path) const {
 
 void Document::Open(const char* path) {
     Handle(TDocStd_Document) opened;
-    if (Application()->Open(path, opened) != PCDM_RS_OK) throw std::runtime_error("the peer cannot open");
+    const PCDM_ReaderStatus status = Application()->Open(path, opened);
+    if (status != PCDM_RS_OK) {
+        throw std::runtime_error("the peer cannot open: status " + std::to_string(status));
+    }
     Application()->Close(opened);
 }
 

@@ -104,7 +104,7 @@ public:
 
 private:
     std::filesystem::path path_ =
-        std::filesystem::temp_directory_path() / ("peer-" + std::to_string(getpid()) + ".cbf");
+        std::filesystem::temp_directory_path() / ("peer-" + std::to_string(getpid()) + ".cbfl");
 };
 
 /// So many materials: a tree each, and a table of three columns and ten rows.
