@@ -117,7 +117,8 @@ std::optional<Line> LineOf(const Ratio& row, const Medians& medians) {
         line[kGoal] = Format(faster ? ">= %g x faster" : "<= %g x", row.target.bound);
     if (row.ours.unit.empty()) return line;
     const double ratio = faster ? *beside / *ours : *ours / *beside;
-    line[kRatio] = Format(faster ? "%.3g x faster" : "%.3g x", ratio);
+    const char* better = row.ours.unit == "ns" ? "%.3g x faster" : "%.3g x less";
+    line[kRatio] = Format(faster ? better : "%.3g x", ratio);
     line[kVerdict] = Verdict(row.target, ratio);
     return line;
 }

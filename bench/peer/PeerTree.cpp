@@ -1,8 +1,10 @@
 #include "bench/peer/PeerTree.h"
 
+#include <TCollection_ExtendedString.hxx>
 #include <TDF_CopyLabel.hxx>
 #include <TDF_Reference.hxx>
 #include <TDataStd_Integer.hxx>
+#include <TDataStd_Name.hxx>
 #include <TDataStd_Real.hxx>
 #include <stdexcept>
 #include <vector>
@@ -21,6 +23,9 @@ struct Keys {
     Standard_GUID flag = Key(100);
     Standard_GUID integer = Key(101);
     Standard_GUID number = Key(102);
+    TCollection_ExtendedString rootName = "BenchRootLT";
+    TCollection_ExtendedString wideName = "BenchWideLT";
+    TCollection_ExtendedString narrowName = "BenchNarrowLT";
 
     Keys() {
         for (int i = 0; i < kFlags; ++i) flags.push_back(RootFlag(i));
@@ -36,9 +41,11 @@ Standard_GUID RootFlag(int i) {
 TDF_Label GrowTree(const Document& document, double value) {
     static const Keys keys;
     const TDF_Label root = document.NewFeature();
+    TDataStd_Name::Set(root, keys.rootName);
     for (const Standard_GUID& flag : keys.flags) TDataStd_Integer::Set(root, flag, 1);
     for (int i = 0; i < kBranches; ++i) {
         const TDF_Label branch = root.FindChild(i + 1);
+        TDataStd_Name::Set(branch, i < kWideBranches ? keys.wideName : keys.narrowName);
         TDataStd_Integer::Set(branch, keys.flag, 1);
         TDataStd_Real::Set(branch, keys.number, value);
         if (i < kWideBranches) TDataStd_Integer::Set(branch, keys.integer, i + 1);

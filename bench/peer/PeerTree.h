@@ -4,10 +4,9 @@
 
 namespace peer {
 
-/// Grows what bench::StoreTree grows: fifteen labels with sixty-five attributes. A root with eleven flags;
-/// below it twelve labels with a flag, an integer, a real and a reference, and two without the integer. A
-/// label holds only one reference, so each of the fourteen lies on the branch's side. Names of features are
-/// left out: the framework needs none.
+/// Grows what bench::StoreTree grows: fifteen labels, each with its name, and sixty-five attributes. A root
+/// with eleven flags; below it twelve labels with a flag, an integer, a real and a reference, and two without
+/// the integer. A label holds only one reference, so each of the fourteen lies on the branch's side.
 TDF_Label GrowTree(const Document& document, double value);
 
 /// The i-th flag of a tree's root.
