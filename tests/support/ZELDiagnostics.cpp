@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-ZELDiagnostics::ZELDiagnostics() : standardOutput_(std::cout.rdbuf(taken_.rdbuf())) {}
+ZELDiagnostics::ZELDiagnostics() : standardOutput_(std::cout.rdbuf(&taken_)) {}
 
 ZELDiagnostics::~ZELDiagnostics() {
     std::cout.rdbuf(standardOutput_);
@@ -10,7 +10,9 @@ ZELDiagnostics::~ZELDiagnostics() {
 
 std::vector<std::string> ZELDiagnostics::Lines() const {
     std::vector<std::string> lines;
-    std::istringstream text(taken_.str());
-    for (std::string line; std::getline(text, line);) lines.push_back(line);
+    const std::string text = taken_.str();
+    std::istringstream flushed(text.substr(0, taken_.Flushed()));
+    for (std::string line; std::getline(flushed, line);) lines.push_back(line);
+    if (text.size() > taken_.Flushed()) lines.push_back("(not flushed) " + text.substr(taken_.Flushed()));
     return lines;
 }

@@ -4,7 +4,8 @@
 #include <string>
 #include <vector>
 
-/// Takes what is written to standard output while it lives, line by line.
+/// Takes what is written to standard output while it lives, line by line. Each diagnostic line is flushed by
+/// itself; what was written without a flush shows as one more line, "(not flushed) ...".
 class ZELDiagnostics {
 public:
     ZELDiagnostics();
@@ -15,6 +16,20 @@ public:
     std::vector<std::string> Lines() const;  ///< so far, without the ends of lines
 
 private:
-    std::ostringstream taken_;
+    /// Remembers how far it was flushed.
+    class Taken final : public std::stringbuf {
+    public:
+        std::size_t Flushed() const { return flushed_; }
+
+    private:
+        int sync() override {
+            flushed_ = view().size();
+            return 0;
+        }
+
+        std::size_t flushed_ = 0;
+    };
+
+    Taken taken_;
     std::streambuf* standardOutput_;
 };

@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <iostream>
+
 #include "framework/KORDiagnostic.h"
 
 TEST(ZELDiagnostics, TakesTheLinesWrittenDuringItsScope) {
@@ -14,4 +16,14 @@ TEST(ZELDiagnostics, TakesTheLinesWrittenDuringItsScope) {
 
     EXPECT_THAT(diagnostics.Lines(),
                 testing::ElementsAre("No material SpecObject !", "", "The Elastic data is inconsistent !"));
+}
+
+TEST(ZELDiagnostics, ShowsWhatWasNotFlushed) {
+    const ZELDiagnostics diagnostics;
+
+    KORDiagnosticLine("The Elastic data is inconsistent !");
+    std::cout << "kept back";
+
+    EXPECT_THAT(diagnostics.Lines(),
+                testing::ElementsAre("The Elastic data is inconsistent !", "(not flushed) kept back"));
 }
