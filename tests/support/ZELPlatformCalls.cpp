@@ -18,6 +18,7 @@ void ZELPlatformCalls::NoteMiss() {
 }
 
 HRESULT ZELPlatformCalls::StatusOf(ZELVerdict verdict) const {
+    if (verdict == ZELVerdict::Answer) return S_OK;
     return failedStatus_.value_or(verdict == ZELVerdict::Refuse ? E_FAIL : S_OK);
 }
 

@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "framework/KORStatus.h"
+
 /// What an injected fault does to the platform call that it hits.
 enum class ZELFault {
     Refuse,           ///< that call's own failing answer: a failure status, or a null key, list or feature
