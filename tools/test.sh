@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
 # Sets up, builds everything and runs every test.
 #   tools/test.sh [--build-only] [PRESET...]      presets of CMakePresets.json; debug when none is given
+# With --build-only it builds what is shipped, and no test.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-build_only=false
+testing=ON
 if [[ "${1:-}" == --build-only ]]; then
-    build_only=true
+    testing=OFF
     shift
 fi
 if (($# == 0)); then
@@ -20,9 +21,9 @@ for preset in "$@"; do
     fi
     tools/install-dependencies.sh "${extras[@]}"
     echo "== Building: $preset"
-    cmake --preset "$preset" >/dev/null
+    cmake --preset "$preset" -DBUILD_TESTING="$testing" >/dev/null
     cmake --build --preset "$preset"
-    if ! $build_only; then
+    if [[ $testing == ON ]]; then
         echo "== Testing: $preset"
         ctest --preset "$preset"
     fi
