@@ -1,10 +1,12 @@
-#include "zelmat/commands/LayupCommand.h"
-
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <filesystem>
 
-#include "zelmat/commands/JsonReport.h"
+#include "zelmat/commands/Command.h"
 #include "zelmat/commands/LayupReport.h"
+#include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/LayupDrawing.h"
@@ -39,90 +41,131 @@ std::optional<double> ReadThickness(const std::string& text, Findings& findings)
     return thickness;
 }
 
-/// Makes the layup, and the section if one is asked for, and reads it back.
-std::optional<StoredLayup> StoreLayup(const LayupCommand& command, const LayupCard& card,
-                                      Findings& findings) {
-    LayupHost host(command.catalogs);
-    if (!host.Make(card, findings)) return std::nullopt;
-    const bool placed = command.section.empty() ||
-                        host.AddSection(command.section == "composite" ? kComposite : kHomogeneous);
-    auto stored = placed ? host.Read() : std::nullopt;
-    if (!stored) {
-        findings.Add(
-            {FindingKind::UNREADABLE, {card.file, 0}, "not-stored", "the document gives no layup back", {}});
+/// Makes a layup from a stacking notation or from a card in a document in memory, reads it back from there,
+/// checks it, prints it and draws it. Keeps nothing on disk but the drawing.
+class Layup final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("NOTATION|CARD.json", layup_, "Stacking notation, or layup card")->required();
+        line.add_option("--material", material_, "Material of a notation's plies");
+        line.add_option("--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
+        line.add_option("--section", section_,
+                        "Reference the layup from a shell section: composite or homogeneous")
+            ->check(CLI::IsMember({"composite", "homogeneous"}));
+        line.add_option("--svg", drawing_, "Draw the stack into this SVG file");
     }
-    return stored;
-}
 
-}  // namespace
-
-ExitCode LayupCommand::Run(std::ostream& out, std::ostream& err) const {
-    Findings findings;
-    const auto card = Given(findings);
-    std::optional<StoredLayup> stored;
-    bool drawn = false;
-    if (card) stored = StoreLayup(*this, *card, findings);
-    if (stored) {
-        ReportValidity(*card, *stored, findings);
-        if (!drawing.empty()) {
-            drawn = WriteOutputFile(drawing, LayupDrawing(*stored, card->name), {card->file}, findings)
-                        .has_value();
+    void Work(CommandContext& context) override {
+        Findings& findings = context.findings;
+        card_ = Given(findings);
+        if (card_) stored_ = Store(context.options.catalogs, findings);
+        if (!stored_) return;
+        ReportValidity(*card_, *stored_, findings);
+        if (!drawing_.empty()) {
+            drawn_ = WriteOutputFile(drawing_, LayupDrawing(*stored_, card_->name), {card_->file}, findings)
+                         .has_value();
         }
     }
 
-    if (json) {
-        nlohmann::ordered_json told = {{"layup", nullptr}, {"drawing", nullptr}};
-        if (stored) told["layup"] = ToJson(*card, *stored);
-        if (drawn) told["drawing"] = drawing;
-        told["findings"] = ToJson(findings);
-        out << told.dump(2) << '\n';
-        return findings.Exit();
+    void Print(std::ostream& out) const override {
+        if (stored_) PrintLayup(out, *card_, *stored_);
+        if (drawn_) out << "\ndrawn: " << drawing_ << '\n';
     }
-    if (stored) PrintLayup(out, *card, *stored);
-    if (drawn) out << "\ndrawn: " << drawing << '\n';
-    for (const Finding& finding : findings.All()) err << FindingLine(finding) << '\n';
-    return findings.Exit();
-}
 
-bool LayupCommand::IsNotation() const {
-    return !layup.ends_with(".json") && !std::filesystem::exists(layup);
-}
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"layup", nullptr}, {"drawing", nullptr}};
+        if (stored_) json["layup"] = ToJson(*card_, *stored_);
+        if (drawn_) json["drawing"] = drawing_;
+        return json;
+    }
 
-std::optional<LayupCard> LayupCommand::Given(Findings& findings) const {
-    if (IsNotation()) return FromNotation(findings);
-    if (!material.empty() || !thickness.empty()) {
-        ReportUsage(findings, "--material, --thickness", "not-for-a-card",
-                    "a card gives material and thickness of each layer itself", {});
-        return std::nullopt;
+private:
+    /// A text that begins with a bracket, or one without any letter, is meant as a notation, unless it names
+    /// a file; any other is the path of a card, also of one that is not there.
+    bool IsNotation() const {
+        const bool letters = std::any_of(layup_.begin(), layup_.end(), [](unsigned char character) {
+            return std::isalpha(character) != 0;
+        });
+        std::error_code none;
+        return (layup_.starts_with('[') || !letters) && !std::filesystem::exists(layup_, none);
     }
-    return LayupCardReader(findings).Read(layup);
-}
 
-std::optional<LayupCard> LayupCommand::FromNotation(Findings& findings) const {
-    const auto read = ReadStackingNotation(layup);
-    if (const auto* mistake = std::get_if<NotationMistake>(&read)) {
-        ReportUsage(findings, kNotation, "wrong-notation", mistake->text,
-                    {"position " + std::to_string(mistake->position) + " of " + layup});
+    std::optional<LayupCard> Given(Findings& findings) const {
+        if (IsNotation()) return FromNotation(findings);
+        if (!material_.empty() || !thickness_.empty()) {
+            ReportUsage(findings, "--material, --thickness", "not-for-a-card",
+                        "a card gives material and thickness of each layer itself", {});
+            return std::nullopt;
+        }
+        auto card = LayupCardReader(findings).Read(layup_);
+        if (!card) NameRightCommand(layup_, FileForm::LAYUP_CARD, findings);
+        return card;
     }
-    if (material.empty()) {
-        ReportUsage(findings, "--material", "missing-option", "a notation needs the material of its plies",
-                    {});
-    }
-    if (thickness.empty()) {
-        ReportUsage(findings, "--thickness", "missing-option",
-                    "a notation needs the thickness of a ply with its unit", {"as in 0.125mm"});
-    }
-    const auto ply = thickness.empty() ? std::nullopt : ReadThickness(thickness, findings);
-    if (findings.HasErrors()) return std::nullopt;
 
-    LayupCard card;
-    card.file = kNotation;
-    card.name = layup + ", " + material;
-    card.materials.push_back({material, {}, {}});
-    for (const double angle : std::get<StackingSequence>(read)) {
-        card.layers.push_back({.material = material, .thickness = *ply, .angle = angle});
+    std::optional<LayupCard> FromNotation(Findings& findings) const {
+        const auto read = ReadStackingNotation(layup_);
+        if (const auto* mistake = std::get_if<NotationMistake>(&read)) {
+            ReportUsage(findings, kNotation, "wrong-notation", mistake->text,
+                        {"position " + std::to_string(mistake->position) + " of " + layup_});
+        }
+        if (material_.empty()) {
+            ReportUsage(findings, "--material", "missing-option",
+                        "a notation needs the material of its plies", {});
+        }
+        if (thickness_.empty()) {
+            ReportUsage(findings, "--thickness", "missing-option",
+                        "a notation needs the thickness of a ply with its unit", {"as in 0.125mm"});
+        }
+        const auto ply = thickness_.empty() ? std::nullopt : ReadThickness(thickness_, findings);
+        if (findings.HasErrors()) return std::nullopt;
+
+        LayupCard card;
+        card.file = kNotation;
+        card.name = layup_ + ", " + material_;
+        card.materials.push_back({material_, {}, {}});
+        for (const double angle : std::get<StackingSequence>(read)) {
+            card.layers.push_back({.material = material_, .thickness = *ply, .angle = angle});
+        }
+        return card;
     }
-    return card;
+
+    /// Makes the layup, and the section if one is asked for, and reads it back.
+    std::optional<StoredLayup> Store(const std::string& catalogs, Findings& findings) const {
+        LayupHost host(catalogs);
+        if (!host.Make(*card_, findings)) return std::nullopt;
+        const bool placed =
+            section_.empty() || host.AddSection(section_ == "composite" ? kComposite : kHomogeneous);
+        auto stored = placed ? host.Read() : std::nullopt;
+        if (!stored) {
+            findings.Add({FindingKind::UNREADABLE,
+                          {card_->file, 0},
+                          "not-stored",
+                          "the document gives no layup back",
+                          {}});
+        }
+        return stored;
+    }
+
+    std::string layup_;      // a stacking notation, or the path of a card
+    std::string material_;   // of a notation: the one that all plies are of
+    std::string thickness_;  // of a notation: of each ply, with its unit
+    std::string section_;    // "composite", "homogeneous": one that references the layup; empty: none
+    std::string drawing_;    // where the SVG picture goes; empty: nowhere
+    std::optional<LayupCard> card_;
+    std::optional<StoredLayup> stored_;
+    bool drawn_ = false;
+};
+
+}  // namespace
+
+CommandKind LayupCommand() {
+    return {.name = "layup",
+            .brief = "make, check and draw a composite layup",
+            .text =
+                "Make a composite layup from a stacking notation or a layup card in a document in memory,\n"
+                "read it back from there, check it and print its layers from the bottom up with the z of\n"
+                "their faces. Notation: [0/45/-45/90]s, [±45/0]2, [0_2/90]s, [0/90_bar]s.",
+            .make = &MakeCommand<Layup>};
 }
 
 }  // namespace zelmat

@@ -3,6 +3,7 @@
 #include "zelmat/materials/StatusText.h"
 #include "zelmat/text/LengthText.h"
 #include "zelmat/text/NumberText.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
 
@@ -40,7 +41,7 @@ void PrintLayers(std::ostream& out, const StoredLayup& stored) {
     printer.SetLeft(1);
     for (std::size_t i = 0; i < stored.layers.size(); ++i) {
         const StoredLayer& layer = stored.layers[i];
-        printer.AddRow({std::to_string(i + 1), layer.material.value_or(kNoMaterial),
+        printer.AddRow({std::to_string(i + 1), Printable(layer.material.value_or(kNoMaterial)),
                         Millimetres(layer.thickness), NumberText(layer.angle), Millimetres(z[i]),
                         Millimetres(z[i + 1])});
     }
@@ -53,10 +54,14 @@ void PrintMaterials(std::ostream& out, const LayupCard& card) {
         if (material.constants.empty()) continue;
         if (first) out << "\nPly materials, for reference: the layup keeps a link to the material\n";
         first = false;
-        out << "  " << material.name << ": " << WordList(material.constants, [](const auto& constant) {
-            return constant.first + " = " + WithUnit(constant.second, PlyConstantUnit(constant.first));
-        }) << '\n';
-        if (!material.source.empty()) out << "    source: " << material.source << '\n';
+        out << "  " << Printable(material.name) << ": "
+            << WordList(material.constants,
+                        [](const auto& constant) {
+                            return constant.first + " = " +
+                                   WithUnit(constant.second, PlyConstantUnit(constant.first));
+                        })
+            << '\n';
+        if (!material.source.empty()) out << "    source: " << Printable(material.source) << '\n';
     }
 }
 

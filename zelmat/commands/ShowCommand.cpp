@@ -1,51 +1,92 @@
-#include "zelmat/commands/ShowCommand.h"
-
+#include <CLI/CLI.hpp>
 #include <optional>
 
+#include "zelmat/cards/FitChoice.h"
 #include "zelmat/cards/MaterialCardReader.h"
 #include "zelmat/commands/CallTrace.h"
+#include "zelmat/commands/Command.h"
+#include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/ShowReport.h"
+#include "zelmat/commands/WrongForm.h"
 
 namespace zelmat {
 
 namespace {
 
-std::vector<const CardData*> FitsToShow(const ShowCommand& command, const MaterialCard& card,
-                                        Findings& findings) {
-    std::vector<const CardData*> fits;
-    if (command.allFits) {
-        for (const CardData& fit : card.fits) fits.push_back(&fit);
-    } else if (const CardData* fit = ChooseFit(card, command.fit, findings)) {
-        fits.push_back(fit);
+/// Reads a card, writes it into a document in memory, reads it back from there and prints what the document
+/// holds. Keeps nothing on disk.
+class Show final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("CARD.json", path_, "Material card, a JSON file")->required();
+        auto* model = line.add_option("--model", fit_.model, "Hyperelastic fit of this model: OGDEN, ...");
+        auto* variant =
+            line.add_option("--variant", fit_.variant, "Hyperelastic fit with this text in its variant");
+        line.add_flag("--all-models", allFits_, "Store and show each hyperelastic fit in turn")
+            ->excludes(model)
+            ->excludes(variant);
+        line.add_flag("--trace", trace_, "Print each call of a material interface on standard error");
     }
-    return fits;
-}
+
+    void Work(CommandContext& context) override {
+        Findings& findings = context.findings;
+        std::optional<CallTrace> calls;
+        if (trace_) calls.emplace(context.notes);
+
+        card_ = MaterialCardReader(findings).Read(path_);
+        if (!card_) {
+            NameRightCommand(path_, FileForm::MATERIAL_CARD, findings);
+            return;
+        }
+        const auto fits = FitsToShow(findings);
+        material_ = StoredMaterial{.card = &*card_};
+        if (findings.HasErrors()) return;
+        MaterialHost host(context.options.catalogs);
+        material_ = StoreMaterial(host, *card_, fits, findings);
+        stored_ = !findings.HasErrors();
+    }
+
+    void Print(std::ostream& out) const override {
+        if (stored_) PrintMaterial(out, *material_);
+    }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"material", nullptr}};
+        if (material_) json["material"] = ToJson(*material_);
+        return json;
+    }
+
+private:
+    std::vector<const CardData*> FitsToShow(Findings& findings) const {
+        std::vector<const CardData*> fits;
+        if (allFits_) {
+            for (const CardData& fit : card_->fits) fits.push_back(&fit);
+        } else if (const CardData* fit = ChooseFit(*card_, fit_, findings)) {
+            fits.push_back(fit);
+        }
+        return fits;
+    }
+
+    std::string path_;
+    FitChoice fit_;         // of several hyperelastic fits
+    bool allFits_ = false;  // show each in turn
+    bool trace_ = false;
+    std::optional<MaterialCard> card_;
+    std::optional<StoredMaterial> material_;
+    bool stored_ = false;
+};
 
 }  // namespace
 
-ExitCode ShowCommand::Run(std::ostream& out, std::ostream& err) const {
-    Findings findings;
-    std::optional<CallTrace> calls;
-    if (trace) calls.emplace(err);
-
-    const auto read = MaterialCardReader(findings).Read(card);
-    std::optional<StoredMaterial> material;
-    if (read) {
-        const auto fits = FitsToShow(*this, *read, findings);
-        material = StoredMaterial{.card = &*read};
-        if (!findings.HasErrors()) {
-            MaterialHost host(catalogs);
-            material = StoreMaterial(host, *read, fits, findings);
-        }
-    }
-
-    if (json) {
-        PrintMaterialJson(out, material ? &*material : nullptr, findings);
-        return findings.Exit();
-    }
-    if (material && !findings.HasErrors()) PrintMaterial(out, *material);
-    for (const Finding& finding : findings.All()) err << FindingLine(finding) << '\n';
-    return findings.Exit();
+CommandKind ShowCommand() {
+    return {.name = "show",
+            .brief = "print the properties on a material card as a document holds them",
+            .text =
+                "Print the properties on a material card as a document holds them.\n"
+                "The card is checked, written into a document in memory, read back from there and\n"
+                "printed behavior by behavior with units (SI). Nothing is kept on disk. A material\n"
+                "holds one hyperelastic fit: the one that is asked for, else the card's first.",
+            .make = &MakeCommand<Show>};
 }
 
 }  // namespace zelmat

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/commands/JsonReport.h"
 #include "zelmat/text/NumberText.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
 
@@ -18,7 +18,7 @@ std::string ValueText(const CardSetting& setting, const CardValue& value) {
         std::string operator()(bool flag) const { return flag ? "yes" : "no"; }
         std::string operator()(int count) const { return std::to_string(count); }
         std::string operator()(double number) const { return WithUnit(number, unit); }
-        std::string operator()(const std::string& text) const { return text; }
+        std::string operator()(const std::string& text) const { return Printable(text); }
     };
     return std::visit(ToText{setting.unit}, value);
 }
@@ -49,7 +49,7 @@ void PrintTable(std::ostream& out, const StoredTable& table) {
 
 void PrintSource(std::ostream& out, const StoredBlock& block, const StoredTable& table) {
     const CardTable* given = block.given ? block.given->Table(table.kind) : nullptr;
-    if (given && !given->source.empty()) out << "  source: " << given->source << '\n';
+    if (given && !given->source.empty()) out << "  source: " << Printable(given->source) << '\n';
 }
 
 const char* FlagWords(const StoredTable& table) {
@@ -86,10 +86,10 @@ void PrintFits(std::ostream& out, const StoredMaterial& material) {
         return;
     }
     out << '\n'
-        << "hyperelastic fits on the card: " << fits.size() << ", stored: " << FitName(*shown.front())
-        << '\n';
+        << "hyperelastic fits on the card: " << fits.size()
+        << ", stored: " << Printable(FitName(*shown.front())) << '\n';
     for (const CardData& fit : fits) {
-        if (&fit != shown.front()) out << "  not stored: " << FitName(fit) << '\n';
+        if (&fit != shown.front()) out << "  not stored: " << Printable(FitName(fit)) << '\n';
     }
     out << "  choose with --model and --variant, or show each with --all-models\n";
 }
@@ -109,9 +109,9 @@ void PrintNote(std::ostream& out, const char* note, const std::string& words) {
 
 void PrintMaterial(std::ostream& out, const StoredMaterial& material) {
     const MaterialCard& card = *material.card;
-    out << card.name << '\n';
-    if (!card.description.empty()) out << card.description << '\n';
-    for (const std::string& source : card.sources) out << "source: " << source << '\n';
+    out << Printable(card.name) << '\n';
+    if (!card.description.empty()) out << Printable(card.description) << '\n';
+    for (const std::string& source : card.sources) out << "source: " << Printable(source) << '\n';
     if (card.illustrative) out << "illustrative: the values are made up\n";
     out << '\n';
     PrintNote(out, "switched on", WordList(material.Names(true)));
@@ -120,13 +120,6 @@ void PrintMaterial(std::ostream& out, const StoredMaterial& material) {
     PrintFits(out, material);
     if (!card.information.empty()) out << '\n';
     PrintNote(out, "for information only, used by no behavior", WordList(card.information, InformationText));
-}
-
-void PrintMaterialJson(std::ostream& out, const StoredMaterial* material, const Findings& findings) {
-    nlohmann::ordered_json json = {{"material", nullptr}};
-    if (material) json["material"] = ToJson(*material);
-    json["findings"] = ToJson(findings);
-    out << json.dump(2) << '\n';
 }
 
 }  // namespace zelmat

@@ -1,10 +1,12 @@
-#include "zelmat/commands/SummaryCommand.h"
-
+#include <CLI/CLI.hpp>
 #include <deque>
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/cards/MaterialCardReader.h"
+#include "zelmat/commands/Command.h"
 #include "zelmat/commands/JsonReport.h"
+#include "zelmat/commands/WrongForm.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
 
@@ -28,8 +30,8 @@ std::string Notes(const StoredMaterial& material) {
     const MaterialCard& card = *material.card;
     if (card.illustrative) notes.push_back("illustrative");
     if (card.fits.size() > 1) {
-        notes.push_back("stored " + FitName(card.fits.front()) + " of " + std::to_string(card.fits.size()) +
-                        " fits");
+        notes.push_back("stored " + Printable(FitName(card.fits.front())) + " of " +
+                        std::to_string(card.fits.size()) + " fits");
     }
     for (const CardData& data : card.information) {
         notes.push_back(data.block->name + " for information");
@@ -43,47 +45,68 @@ void PrintTable(std::ostream& out, const std::deque<StoredMaterial>& materials) 
     for (const std::size_t words : {0u, 2u, 3u}) printer.SetLeft(words);
     for (const StoredMaterial& material : materials) {
         features += material.features;
-        printer.AddRow({material.card->name, std::to_string(material.features),
+        printer.AddRow({Printable(material.card->name), std::to_string(material.features),
                         WordList(material.SwitchedOn(), BlockText), Notes(material)});
     }
     printer.Print(out);
     out << "\nmaterials: " << materials.size() << ", features: " << features << '\n';
 }
 
-void PrintJson(std::ostream& out, const std::deque<StoredMaterial>& materials, const Findings& findings) {
-    nlohmann::ordered_json json = {{"materials", nlohmann::ordered_json::array()}};
-    for (const StoredMaterial& material : materials) json["materials"].push_back(ToJson(material));
-    json["findings"] = ToJson(findings);
-    out << json.dump(2) << '\n';
-}
+/// Puts the materials of several cards into one document in memory and prints one line for each: what is
+/// switched on with how many rows, how many features it made, and notes. A card with a mistake is left out;
+/// its findings say why. Keeps nothing on disk.
+class Summary final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("CARD.json", paths_, "Material cards, JSON files")->required();
+    }
+
+    void Work(CommandContext& context) override {
+        MaterialHost host(context.options.catalogs);
+        for (const std::string& path : paths_) {
+            Findings own;
+            Add(host, path, own);
+            for (const Finding& finding : own.All()) context.findings.Add(finding);
+        }
+    }
+
+    void Print(std::ostream& out) const override { PrintTable(out, materials_); }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"materials", nlohmann::ordered_json::array()}};
+        for (const StoredMaterial& material : materials_) json["materials"].push_back(ToJson(material));
+        return json;
+    }
+
+private:
+    void Add(MaterialHost& host, const std::string& path, Findings& findings) {
+        auto card = MaterialCardReader(findings).Read(path);
+        if (!card) {
+            NameRightCommand(path, FileForm::MATERIAL_CARD, findings);
+            return;
+        }
+        cards_.push_back(std::move(*card));
+        const CardData* fit = ChooseFit(cards_.back(), {}, findings);
+        auto material = StoreMaterial(host, cards_.back(),
+                                      fit ? std::vector{fit} : std::vector<const CardData*>(), findings);
+        if (!findings.HasErrors()) materials_.push_back(std::move(material));
+    }
+
+    std::vector<std::string> paths_;
+    std::deque<MaterialCard> cards_;  // does not move its elements, which the materials refer to
+    std::deque<StoredMaterial> materials_;
+};
 
 }  // namespace
 
-ExitCode SummaryCommand::Run(std::ostream& out, std::ostream& err) const {
-    Findings findings;
-    MaterialHost host(catalogs);
-    std::deque<MaterialCard> read;  // does not move its elements, which the materials refer to
-    std::deque<StoredMaterial> materials;
-    for (const std::string& path : cards) {
-        Findings own;
-        auto card = MaterialCardReader(own).Read(path);
-        if (card) {
-            read.push_back(std::move(*card));
-            const CardData* fit = ChooseFit(read.back(), {}, own);
-            auto material = StoreMaterial(host, read.back(),
-                                          fit ? std::vector{fit} : std::vector<const CardData*>(), own);
-            if (!own.HasErrors()) materials.push_back(std::move(material));
-        }
-        for (const Finding& finding : own.All()) findings.Add(finding);
-    }
-
-    if (json) {
-        PrintJson(out, materials, findings);
-        return findings.Exit();
-    }
-    PrintTable(out, materials);
-    for (const Finding& finding : findings.All()) err << FindingLine(finding) << '\n';
-    return findings.Exit();
+CommandKind SummaryCommand() {
+    return {.name = "summary",
+            .brief = "put the materials of several cards into one document, a line for each",
+            .text =
+                "Put the materials of several cards into one document in memory and print a line for each:\n"
+                "which behaviors are switched on with how many rows, and how many features the material\n"
+                "made.",
+            .make = &MakeCommand<Summary>};
 }
 
 }  // namespace zelmat

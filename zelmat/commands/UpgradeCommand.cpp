@@ -1,11 +1,11 @@
-#include "zelmat/commands/UpgradeCommand.h"
-
+#include <CLI/CLI.hpp>
 #include <optional>
 
 #include "platform/analysis/KORUnitsService.h"
 #include "platform/document/KORTextDocument.h"
-#include "zelmat/commands/JsonReport.h"
+#include "zelmat/commands/Command.h"
 #include "zelmat/commands/UpgradeReport.h"
+#include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/findings/DiagnosticLines.h"
@@ -22,6 +22,13 @@ bool ReadDocument(KORTextDocument& text, const std::string& path, Findings& find
     if (text.Read(path, error)) return true;
     findings.Add(UnreadableFile(path, error, "broken-document"));
     return false;
+}
+
+/// The units of pressure that there are.
+std::vector<std::string> PressureUnits() {
+    std::vector<std::string> symbols;
+    for (const KORUnit& unit : KORFindUnitType(kPressure)->units) symbols.emplace_back(unit.symbol);
+    return symbols;
 }
 
 /// False, and a finding, when the document names another unit of pressure than the one that is given.
@@ -49,44 +56,69 @@ bool WriteDocument(const KORTextDocument& text, const std::string& path, const s
     return false;
 }
 
+/// Reads a document's text form, brings the materials of older releases up to the current one, in one step,
+/// and prints what changed. The document on disk stays as it is; the upgraded one goes to another file if
+/// asked for, unless the run is refused because it would have to guess.
+class Upgrade final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("DOCUMENT.json", document_, "Document in its text form")->required();
+        line.add_option("--pressure-unit", pressureUnit_,
+                        "Unit of the coefficients in a document that names no unit of pressure")
+            ->check(CLI::IsMember(PressureUnits()));
+    }
+
+    void Work(CommandContext& context) override {
+        Findings& findings = context.findings;
+        HostPlatform host(context.options.catalogs);
+        KORTextDocument text(host.Document());
+        if (!host.OpenCatalog(findings)) return;
+        if (!ReadDocument(text, document_, findings)) {
+            NameRightCommand(document_, FileForm::DOCUMENT, findings);
+            return;
+        }
+        KORUnitsService& units = host.Document().Platform().Units();
+        if (!TakePressureUnit(units, pressureUnit_, document_, findings)) return;
+        {
+            const DiagnosticLines diagnostics(findings, document_, "upgrade");
+            report_ = UpgradeMaterials(host.Document(), document_, findings);
+        }
+        ReportUpgrade(*report_, document_, findings);
+        const std::string& output = context.options.output;
+        const bool wanted = !output.empty() && !report_->run.refused;
+        if (wanted && WriteDocument(text, output, document_, findings)) written_ = output;
+    }
+
+    void Print(std::ostream& out) const override {
+        if (report_) PrintUpgrade(out, *report_);
+        if (!written_.empty()) out << "\nwritten: " << written_ << '\n';
+    }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"upgrade", nullptr}, {"written", nullptr}};
+        if (report_) json["upgrade"] = ToJson(*report_);
+        if (!written_.empty()) json["written"] = written_;
+        return json;
+    }
+
+private:
+    std::string document_;      // path of the text form
+    std::string pressureUnit_;  // of the coefficients in a document that names none: "MPa"; empty: not given
+    std::optional<UpgradeReport> report_;
+    std::string written_;  // path of the upgraded document
+};
+
 }  // namespace
 
-std::vector<std::string> UpgradeCommand::PressureUnits() {
-    std::vector<std::string> symbols;
-    for (const KORUnit& unit : KORFindUnitType(kPressure)->units) symbols.emplace_back(unit.symbol);
-    return symbols;
-}
-
-ExitCode UpgradeCommand::Run(std::ostream& out, std::ostream& err) const {
-    Findings findings;
-    std::optional<UpgradeReport> report;
-    bool written = false;
-    HostPlatform host(catalogs);
-    KORTextDocument text(host.Document());
-    KORUnitsService& units = host.Document().Platform().Units();
-    if (host.OpenCatalog(findings) && ReadDocument(text, document, findings) &&
-        TakePressureUnit(units, pressureUnit, document, findings)) {
-        {
-            const DiagnosticLines diagnostics(findings, document, "upgrade");
-            report = UpgradeMaterials(host.Document(), document, findings);
-        }
-        ReportUpgrade(*report, document, findings);
-        const bool wanted = !output.empty() && !report->run.refused;
-        if (wanted) written = WriteDocument(text, output, document, findings);
-    }
-
-    if (json) {
-        nlohmann::ordered_json told = {{"upgrade", nullptr}, {"written", nullptr}};
-        if (report) told["upgrade"] = ToJson(*report);
-        if (written) told["written"] = output;
-        told["findings"] = ToJson(findings);
-        out << told.dump(2) << '\n';
-        return findings.Exit();
-    }
-    if (report) PrintUpgrade(out, *report);
-    if (written) out << "\nwritten: " << output << '\n';
-    for (const Finding& finding : findings.All()) err << FindingLine(finding) << '\n';
-    return findings.Exit();
+CommandKind UpgradeCommand() {
+    return {.name = "upgrade",
+            .brief = "bring the materials of an older document up to the current release",
+            .text =
+                "Bring the materials of an older document up to the current release, in one step, and print\n"
+                "what changed on which feature, and each coefficient before and after. The document itself stays\n"
+                "as it is. A run that would have to guess at units is refused.",
+            .output = "Write the upgraded document to this file",
+            .make = &MakeCommand<Upgrade>};
 }
 
 }  // namespace zelmat

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "zelmat/text/Printable.h"
+
 namespace zelmat {
 
 namespace {
@@ -27,7 +29,11 @@ std::string FindingLine(const Finding& finding) {
         separator = ", ";
     }
     if (!finding.details.empty()) line += ")";
-    return line;
+    return Printable(line);
+}
+
+void Findings::RemoveAbout(const std::string& file) {
+    std::erase_if(all_, [&](const Finding& finding) { return finding.place.file == file; });
 }
 
 std::vector<Finding> Findings::ByLine() const {

@@ -36,7 +36,8 @@ struct Finding {
     std::vector<std::string> details;  ///< the value, its bound, a hint; those that apply
 };
 
-/// `file:line: error[code]: text (value, bound, hint)`
+/// `file:line: error[code]: text (value, bound, hint)`, on one line and without control characters, whatever
+/// the file holds.
 std::string FindingLine(const Finding& finding);
 
 /// "error" or "warning"
@@ -46,6 +47,7 @@ const char* KindWord(FindingKind kind);
 class Findings {
 public:
     void Add(Finding finding) { all_.push_back(std::move(finding)); }
+    void RemoveAbout(const std::string& file);  ///< those with a place in the file
 
     const std::vector<Finding>& All() const { return all_; }
     std::vector<Finding> ByLine() const;  ///< in the order of their lines; of one file

@@ -130,31 +130,6 @@ TEST(ShowCommand, TracesEveryInterfaceCallOnStandardError) {
     EXPECT_THAT(RunZelmat({"show", "two_tables.json"}).err, Not(HasSubstr("trace:")));
 }
 
-TEST(Program, EndsWithTwoForAWrongCommandLine) {
-    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
-             {}, {"show"}, {"shwo", "two_tables.json"}, {"show", "two_tables.json", "--loud"}}) {
-        const ProgramRun run = RunZelmat(arguments);
-        EXPECT_EQ(run.exitCode, 2);
-        EXPECT_EQ(run.out, "");
-        EXPECT_THAT(run.err, Not(testing::IsEmpty()));
-    }
-}
-
-TEST(Program, ExplainsItselfWhenAsked) {
-    const ProgramRun run = RunZelmat({"--help"});
-    EXPECT_EQ(run.exitCode, 0);
-    EXPECT_THAT(run.out, HasSubstr("show"));
-    EXPECT_THAT(
-        run.out,
-        HasSubstr("Exit codes: 0 clean, 1 findings, 2 wrong command line, 3 could not read or write."));
-    EXPECT_EQ(run.err, "");
-
-    const ProgramRun show = RunZelmat({"show", "--help"});
-    EXPECT_EQ(show.exitCode, 0);
-    EXPECT_THAT(show.out, HasSubstr("--json"));
-    EXPECT_THAT(show.out, HasSubstr("--trace"));
-}
-
 /// The cards in samples/, and a line of what each shows.
 struct SampleCard {
     const char* file;

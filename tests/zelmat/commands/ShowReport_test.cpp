@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "tests/zelmat/support/CardFile.h"
+#include "zelmat/commands/JsonReport.h"
 
 namespace {
 
@@ -131,13 +132,8 @@ TEST(ShowReport, SaysWhenTheValuesAreMadeUp) {
 
 TEST(ShowReport, PrintsTheSameAsJson) {
     const StoredCard stored(kTwoFits);
-    zelmat::Findings findings;
-    findings.Add({zelmat::FindingKind::WARNING, {"small.json", 4}, "table-cut", "cut", {"1 kept"}});
-    std::ostringstream out;
-    zelmat::PrintMaterialJson(out, &stored.material, findings);
-
-    EXPECT_EQ(nlohmann::json::parse(out.str()), nlohmann::json::parse(R"json({
-        "material": {"name": "Rubber", "description": "", "source": [], "illustrative": false,
+    EXPECT_EQ(nlohmann::json(zelmat::ToJson(stored.material)), nlohmann::json::parse(R"json(
+           {"name": "Rubber", "description": "", "source": [], "illustrative": false,
             "switched_on": ["hyperelastic"],
             "switched_off": ["elastic", "plastic", "density", "thermal_expansion", "conductivity",
                 "specific_heat", "user_material", "gasket", "gasket_membrane", "gasket_transverse_shear"],
@@ -150,16 +146,15 @@ TEST(ShowReport, PrintsTheSameAsJson) {
                 "on_the_card": {"potential": {"value": "W = C10 (I1 - 3)"},
                     "rms_relative_deviation": {"value": 0.223}}}],
             "fits": ["NEO_HOOKE", "MOONEY_RIVLIN (uniaxial)"],
-            "for_information": {}},
-        "findings": [{"kind": "warning", "file": "small.json", "line": 4, "code": "table-cut", "text": "cut",
-            "details": ["1 kept"]}]})json"));
+            "for_information": {}})json"));
 }
 
-TEST(ShowReport, HasANullMaterialForACardThatWasRefused) {
-    std::ostringstream out;
-    zelmat::PrintMaterialJson(out, nullptr, {});
+TEST(ShowReport, LetsNoTextOfACardForgeALineOrReachTheTerminal) {
+    zelmat::MaterialCard card;
+    card.name = "Steel\nswitched on: everything";
+    card.description = "\x1b[2Jgone";
 
-    EXPECT_EQ(out.str(), "{\n  \"material\": null,\n  \"findings\": []\n}\n");
+    EXPECT_EQ(Printed({.card = &card}), "Steel\\nswitched on: everything\n\\x1b[2Jgone\n\n");
 }
 
 }  // namespace

@@ -68,4 +68,24 @@ TEST(Findings, CanBeReadInTheOrderOfLinesWithTiesAsFound) {
     EXPECT_EQ(codes, "bac");
 }
 
+TEST(Findings, StandOnOneLineWhateverTheFileHolds) {
+    EXPECT_EQ(FindingLine({FindingKind::ERROR,
+                           {"a\nb.json", 1},
+                           "unknown-key",
+                           "no key \"x\n\x1b[31m\xff\"",
+                           {"known: y"}}),
+              "a\\nb.json:1: error[unknown-key]: no key \"x\\n\\x1b[31m�\" (known: y)");
+}
+
+TEST(Findings, CanBeTakenBackForOneFile) {
+    Findings findings;
+    findings.Add({FindingKind::ERROR, {"a", 1}, "x", "", {}});
+    findings.Add({FindingKind::ERROR, {"b", 1}, "y", "", {}});
+
+    findings.RemoveAbout("a");
+
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(findings.All()[0].code, "y");
+}
+
 }  // namespace

@@ -1,9 +1,11 @@
 #include "tests/zelmat/support/Program.h"
 
 #include <gtest/gtest.h>
+#include <pty.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -21,12 +23,19 @@ std::string Quoted(const std::string& text) {
     return "'" + text + "'";
 }
 
+std::string CommandOf(const std::vector<std::string>& arguments) {
+    std::string command = Quoted(ZELMAT_PROGRAM);
+    for (const std::string& argument : arguments) command += " " + Quoted(argument);
+    return command;
+}
+
+constexpr const char* kTestData = ZELMAT_TEST_DATA;
+
 }  // namespace
 
 ProgramRun RunZelmat(const std::vector<std::string>& arguments) {
     const std::string output = testing::TempDir() + "zelmat-run-" + std::to_string(getpid());
-    std::string command = "cd " + Quoted(ZELMAT_TEST_DATA) + " && " + Quoted(ZELMAT_PROGRAM);
-    for (const std::string& argument : arguments) command += " " + Quoted(argument);
+    std::string command = "cd " + Quoted(kTestData) + " && " + CommandOf(arguments);
     command += " >" + Quoted(output + ".out") + " 2>" + Quoted(output + ".err");
 
     const int status = std::system(command.c_str());
@@ -35,6 +44,30 @@ ProgramRun RunZelmat(const std::vector<std::string>& arguments) {
                    Contents(output + ".err")};
     std::filesystem::remove(output + ".out");
     std::filesystem::remove(output + ".err");
+    return run;
+}
+
+ProgramRun RunZelmatOnTerminal(const std::vector<std::string>& arguments,
+                               const std::vector<std::string>& environment) {
+    std::string command = "cd " + Quoted(kTestData) + " && env -u NO_COLOR TERM=xterm";
+    for (const std::string& setting : environment) command += " " + Quoted(setting);
+    command += " " + CommandOf(arguments);
+
+    int terminal = -1;
+    const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
+    if (child == 0) {
+        ::execl("/bin/sh", "sh", "-c", command.c_str(), static_cast<char*>(nullptr));
+        ::_exit(127);
+    }
+    ProgramRun run;
+    std::array<char, 4096> buffer;
+    for (ssize_t read = 0; (read = ::read(terminal, buffer.data(), buffer.size())) > 0;) {
+        run.out.append(buffer.data(), static_cast<std::size_t>(read));
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ::close(terminal);
+    if (WIFEXITED(status)) run.exitCode = WEXITSTATUS(status);
     return run;
 }
 

@@ -13,5 +13,10 @@ struct ProgramRun {
 /// Runs the built program from the folder of the test cards, so that its messages name files by bare name.
 ProgramRun RunZelmat(const std::vector<std::string>& arguments);
 
+/// The same with standard output and standard error both on one terminal: everything is in `out`, with line
+/// ends as the terminal makes them. `environment`: settings such as "NO_COLOR=1".
+ProgramRun RunZelmatOnTerminal(const std::vector<std::string>& arguments,
+                               const std::vector<std::string>& environment = {});
+
 /// Path of a card in samples/.
 std::string Sample(const std::string& name);

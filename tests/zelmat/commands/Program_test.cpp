@@ -1,0 +1,94 @@
+#include <gmock/gmock.h>
+
+#include "tests/zelmat/support/Program.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+TEST(Program, EndsWithTwoForAWrongCommandLine) {
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+             {}, {"show"}, {"shwo", "two_tables.json"}, {"show", "two_tables.json", "--loud"}, {"--loud"}}) {
+        const ProgramRun run = RunZelmat(arguments);
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, Not(IsEmpty()));
+    }
+}
+
+TEST(Program, NamesAnUnknownCommandWithTheNearest) {
+    EXPECT_EQ(RunZelmat({"shwo", "two_tables.json"}).err,
+              "zelmat: error[unknown-command]: there is no command \"shwo\" (did you mean show?)\n");
+    EXPECT_THAT(RunZelmat({"frobnicate"}).err,
+                HasSubstr("there is no command \"frobnicate\" (known: show, summary, upgrade, layup"));
+    EXPECT_EQ(RunZelmat({"help", "shwo"}).err, RunZelmat({"shwo"}).err);
+}
+
+TEST(Program, NamesAnUnknownOptionWithTheNearest) {
+    const std::string told =
+        "zelmat show: error[unknown-option]: there is no option \"--modle\" (did you mean --model?)\n";
+    EXPECT_EQ(RunZelmat({"show", "two_tables.json", "--modle", "OGDEN"}).err, told);
+    EXPECT_EQ(RunZelmat({"show", "--modle=OGDEN"}).err, told);
+    EXPECT_EQ(RunZelmat({"show", "--modle=OGDEN"}).exitCode, 2);
+}
+
+TEST(Program, SaysWhatACommandLineLacksAndWhereToLook) {
+    const ProgramRun run = RunZelmat({"show"});
+    EXPECT_EQ(run.err, "zelmat show: error[usage]: CARD.json is required (see zelmat help show)\n");
+}
+
+TEST(Program, ExplainsItselfWhenAsked) {
+    const ProgramRun run = RunZelmat({"--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.out, HasSubstr("\n  show     print the properties on a material card"));
+    EXPECT_THAT(
+        run.out,
+        HasSubstr("Exit codes: 0 clean, 1 findings, 2 wrong command line, 3 could not read or write."));
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(RunZelmat({"help"}).out, run.out);
+}
+
+TEST(Program, ExplainsACommandWhenAsked) {
+    const ProgramRun run = RunZelmat({"show", "--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.out, HasSubstr("zelmat show"));
+    EXPECT_THAT(run.out, HasSubstr("--json"));
+    EXPECT_THAT(run.out, HasSubstr("--trace"));
+    EXPECT_THAT(run.out, HasSubstr("--color"));
+    EXPECT_THAT(run.out, Not(HasSubstr("--output")));
+    EXPECT_EQ(RunZelmat({"help", "show"}).out, run.out);
+    EXPECT_THAT(RunZelmat({"help", "upgrade"}).out, HasSubstr("--output"));
+}
+
+TEST(Program, TellsItsVersion) {
+    const ProgramRun run = RunZelmat({"--version"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(run.out, "zelmat 0.1\n");
+}
+
+TEST(Program, SaysThatACleanRunFoundNothingOnATerminalOnly) {
+    EXPECT_THAT(RunZelmatOnTerminal({"show", "two_tables.json", "--color", "never"}).out,
+                testing::EndsWith("\r\nno findings\r\n"));
+    EXPECT_EQ(RunZelmat({"show", "two_tables.json"}).err, "");
+}
+
+TEST(Program, ColoursOnATerminalUnlessToldOtherwise) {
+    const std::string red = "\033[31merror[ragged-row]\033[0m";
+    EXPECT_THAT(RunZelmatOnTerminal({"show", "ragged.json"}).out, HasSubstr(red));
+    EXPECT_THAT(RunZelmatOnTerminal({"show", "ragged.json"}, {"NO_COLOR=1"}).out, Not(HasSubstr("\033")));
+    EXPECT_THAT(RunZelmatOnTerminal({"show", "ragged.json"}, {"NO_COLOR="}).out, HasSubstr(red));
+    EXPECT_THAT(RunZelmatOnTerminal({"show", "ragged.json"}, {"TERM=dumb"}).out, Not(HasSubstr("\033")));
+    EXPECT_THAT(RunZelmatOnTerminal({"show", "ragged.json", "--color", "never"}).out, Not(HasSubstr("\033")));
+    EXPECT_THAT(RunZelmat({"show", "ragged.json"}).err, Not(HasSubstr("\033")));
+    EXPECT_THAT(RunZelmat({"show", "ragged.json", "--color=always"}).err, HasSubstr(red));
+}
+
+TEST(Program, WritesJsonAlsoForAPathThatIsNoUtf8) {
+    const ProgramRun run = RunZelmat({"show", "Z\xe4hne.json", "--json"});
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_THAT(run.out, HasSubstr("\"file\": \"Z\xef\xbf\xbdhne.json\""));
+}
+
+}  // namespace

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <string>
+
+#include "zelmat/findings/Findings.h"
+
+namespace CLI {
+class App;
+}
+
+namespace zelmat {
+
+/// The options that mean the same on every command that has them, as the user gave them.
+struct CommonOptions {
+    std::string catalogs;        ///< folder of the feature catalogs
+    std::string output;          ///< where the file goes that the command makes; empty: nowhere
+    std::string color = "auto";  ///< "auto": on a terminal, unless NO_COLOR is set; "always"; "never"
+    bool json = false;           ///< one JSON object on standard output, findings included
+};
+
+/// What a command works with.
+struct CommandContext {
+    const CommonOptions& options;
+    Findings& findings;
+    std::ostream& notes;  ///< standard error, for what is neither result nor finding
+};
+
+/// One run of a command. The frame declares its options, has it work, prints what it made, as text or as
+/// JSON, then what it found, and ends the program with the exit code that the findings ask for. A command
+/// itself prints nothing before it is asked to.
+class Command {
+public:
+    virtual ~Command() = default;
+
+    /// Adds the command's own arguments and options.
+    virtual void Declare(CLI::App& line) = 0;
+
+    virtual void Work(CommandContext& context) = 0;
+
+    /// What the work came to, for a reader; nothing when it came to nothing.
+    virtual void Print(std::ostream& out) const = 0;
+
+    /// The same as an object; the frame adds the findings. Numbers are SI, each with its unit beside it.
+    virtual nlohmann::ordered_json Json() const = 0;
+};
+
+/// All that tells one command from the next. The command line, the help and everything else that lists
+/// commands are made from it.
+struct CommandKind {
+    std::string name;         ///< "show"
+    std::string brief;        ///< what it does, in half a line
+    std::string text;         ///< the same in full
+    std::string output = {};  ///< what --output is for; empty: the command has no such option
+    std::unique_ptr<Command> (*make)() = nullptr;
+};
+
+template <class AnyCommand>
+std::unique_ptr<Command> MakeCommand() {
+    return std::make_unique<AnyCommand>();
+}
+
+}  // namespace zelmat

@@ -1,0 +1,30 @@
+#include "zelmat/commands/CommandTable.h"
+
+#include <algorithm>
+
+namespace zelmat {
+
+// One line a command.
+#define ZELMAT_COMMANDS(COMMAND) \
+    COMMAND(Show)                \
+    COMMAND(Summary)             \
+    COMMAND(Upgrade)             \
+    COMMAND(Layup)
+
+#define ZELMAT_DECLARE(name) CommandKind name##Command();
+ZELMAT_COMMANDS(ZELMAT_DECLARE)
+
+const std::vector<CommandKind>& Commands() {
+#define ZELMAT_ENTER(name) name##Command(),
+    static const std::vector<CommandKind> commands = {ZELMAT_COMMANDS(ZELMAT_ENTER)};
+    return commands;
+}
+
+const CommandKind* FindCommand(const std::string& name) {
+    const auto& commands = Commands();
+    const auto found = std::find_if(commands.begin(), commands.end(),
+                                    [&](const CommandKind& command) { return command.name == name; });
+    return found == commands.end() ? nullptr : &*found;
+}
+
+}  // namespace zelmat

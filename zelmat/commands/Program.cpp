@@ -1,0 +1,109 @@
+#include "zelmat/commands/Program.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <exception>
+#include <iostream>
+
+#include "zelmat/commands/CommandLine.h"
+#include "zelmat/commands/CommandTable.h"
+#include "zelmat/commands/FindingPrinter.h"
+#include "zelmat/commands/JsonReport.h"
+#include "zelmat/commands/Terminal.h"
+
+namespace zelmat {
+
+namespace {
+
+using Arguments = std::vector<std::string>;
+
+ExitCode EndWith(const Findings& findings, const std::string& color) {
+    const bool colored = IsColored(STDERR_FILENO, color);
+    PrintFindings(std::cerr, findings, colored);
+    if (findings.All().empty() && IsTerminal(STDERR_FILENO)) {
+        std::cerr << (colored ? "\033[32mno findings\033[0m\n" : "no findings\n");
+    }
+    return findings.Exit();
+}
+
+ExitCode EndWithMistake(const Finding& mistake) {
+    Findings findings;
+    findings.Add(mistake);
+    return EndWith(findings, "auto");
+}
+
+void PrintJson(std::ostream& out, const Command& command, const Findings& findings) {
+    nlohmann::ordered_json json = command.Json();
+    json["findings"] = ToJson(findings);
+    // A path can hold bytes that are no UTF-8; JSON cannot.
+    out << json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+}
+
+ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
+    const auto command = kind.make();
+    const CommandLine line = ReadCommandLine(kind, *command, std::move(arguments));
+    if (line.mistake) return EndWithMistake(*line.mistake);
+    if (line.help) {
+        std::cout << *line.help;
+        return EXIT_CLEAN;
+    }
+    Findings findings;
+    CommandContext context{line.options, findings, std::cerr};
+    command->Work(context);
+    // Standard output belongs to the file that the command makes, when that goes there.
+    std::ostream& out = line.options.output == "-" ? std::cerr : std::cout;
+    if (line.options.json) {
+        PrintJson(out, *command, findings);
+        return findings.Exit();
+    }
+    command->Print(out);
+    out.flush();  // where both go to one terminal, the result stands before what was found
+    return EndWith(findings, line.options.color);
+}
+
+/// `zelmat help`, `zelmat help COMMAND`
+ExitCode Help(const Arguments& arguments) {
+    if (arguments.empty()) {
+        std::cout << ProgramHelp();
+        return EXIT_CLEAN;
+    }
+    const CommandKind* kind = FindCommand(arguments.front());
+    if (!kind) return EndWithMistake(UnknownCommand(arguments.front()));
+    std::cout << CommandHelp(*kind);
+    return EXIT_CLEAN;
+}
+
+ExitCode Run(Arguments arguments) {
+    if (arguments.empty()) {
+        std::cerr << ProgramHelp();
+        return EXIT_USAGE;
+    }
+    const std::string first = arguments.front();
+    arguments.erase(arguments.begin());
+    if (first == "help" || first == "--help" || first == "-h") return Help(arguments);
+    if (first == "--version") {
+        std::cout << "zelmat " << ZELMAT_VERSION << '\n';
+        return EXIT_CLEAN;
+    }
+    const CommandKind* kind = FindCommand(first);
+    return kind ? RunCommand(*kind, std::move(arguments)) : EndWithMistake(UnknownCommand(first));
+}
+
+}  // namespace
+
+int RunProgram(int argc, char** argv) noexcept {
+    try {
+        const ExitCode code = Run(Arguments(argv + (argc > 0 ? 1 : 0), argv + argc));
+        errno = 0;
+        if (std::cout.flush()) return code;
+        std::cerr << "standard output: error[not-written]: cannot be written: "
+                  << (errno != 0 ? std::strerror(errno) : "the stream has failed") << '\n';
+    } catch (const std::exception& problem) {
+        std::cerr << "zelmat: error[failed]: " << problem.what() << '\n';
+    }
+    return EXIT_UNREADABLE;
+}
+
+}  // namespace zelmat
