@@ -24,33 +24,35 @@ struct SettingPath {
 
 }  // namespace
 
-std::optional<CardData> CardBlockReader::Read() const {
+std::optional<Block> CardBlockReader::Read() const {
+    Block block{.kind = &kind_};
+    block.origin = Origin([file = file_, node = node_](std::size_t) { return node.Line(); });
+    if (kind_.IsUnread()) {
+        block.kept.push_back({kind_.name, node_.Json().dump()});
+        return block;
+    }
     if (!node_.ExpectObject()) return std::nullopt;
-    CardData data;
-    data.block = &block_;
-    data.line = node_.Line();
-
     bool good = ReportUnknownKeys();
-    for (const CardSetting& setting : block_.settings) {
-        if (!ReadSetting(setting, data.values)) good = false;
+    for (const Setting& setting : kind_.settings) {
+        if (!ReadSetting(setting, block)) good = false;
     }
-    for (const CardTableKind& kind : block_.tables) {
-        if (!ReadTable(kind, data)) good = false;
+    for (const TableKind& kind : kind_.tables) {
+        if (!ReadTable(kind, block)) good = false;
     }
-    return good ? std::optional(std::move(data)) : std::nullopt;
+    return good ? std::optional(std::move(block)) : std::nullopt;
 }
 
 bool CardBlockReader::ReportUnknownKeys() const {
     std::vector<std::string> known;
     std::map<std::string, std::vector<std::string>> groups;
-    for (const CardTableKind& kind : block_.tables) {
+    for (const TableKind& kind : kind_.tables) {
         if (kind.name.empty()) {
             known = CardTableReader::Keys(kind);
         } else {
             known.push_back(kind.name);
         }
     }
-    for (const CardSetting& setting : block_.settings) {
+    for (const Setting& setting : kind_.settings) {
         const SettingPath path(setting.name);
         if (path.group.empty()) {
             known.push_back(path.key);
@@ -68,19 +70,22 @@ bool CardBlockReader::ReportUnknownKeys() const {
     return good;
 }
 
-bool CardBlockReader::ReadSetting(const CardSetting& setting, CardValues& values) const {
+bool CardBlockReader::ReadSetting(const Setting& setting, Block& block) const {
     const SettingPath path(setting.name);
     if (!path.group.empty() && !node_.Has(path.group)) return true;
     const JsonNode holder = path.group.empty() ? node_ : node_.At(path.group);
     if (!holder.Has(path.key)) return !setting.required || holder.Required(path.key).has_value();
-    if (setting.kind == SettingKind::UNREAD) return true;
+    if (setting.kind == SettingKind::UNREAD) {
+        block.kept.push_back({setting.name, holder.At(path.key).Json().dump()});
+        return true;
+    }
     auto value = ReadValue(setting, holder.At(path.key));
     if (!value) return false;
-    values.Set(setting.name, std::move(*value));
+    block.values.Set(setting.name, std::move(*value));
     return true;
 }
 
-std::optional<CardValue> CardBlockReader::ReadValue(const CardSetting& setting, const JsonNode& node) const {
+std::optional<Value> CardBlockReader::ReadValue(const Setting& setting, const JsonNode& node) const {
     switch (setting.kind) {
         case SettingKind::FLAG:
             return node.Flag();
@@ -96,7 +101,7 @@ std::optional<CardValue> CardBlockReader::ReadValue(const CardSetting& setting, 
     return std::nullopt;
 }
 
-std::optional<CardValue> CardBlockReader::ReadText(const CardSetting& setting, const JsonNode& node) const {
+std::optional<Value> CardBlockReader::ReadText(const Setting& setting, const JsonNode& node) const {
     const auto text = node.Text();
     if (!text || setting.choices.empty()) return text;
     if (std::find(setting.choices.begin(), setting.choices.end(), *text) != setting.choices.end())
@@ -107,14 +112,14 @@ std::optional<CardValue> CardBlockReader::ReadText(const CardSetting& setting, c
     return std::nullopt;
 }
 
-bool CardBlockReader::ReadTable(const CardTableKind& kind, CardData& data) const {
+bool CardBlockReader::ReadTable(const TableKind& kind, Block& block) const {
     if (!kind.name.empty() && !node_.Has(kind.name)) {
         return !kind.required || node_.Required(kind.name).has_value();
     }
     const JsonNode node = kind.name.empty() ? node_ : node_.At(kind.name);
-    auto table = CardTableReader(node, kind, data.values).Read();
-    if (table) data.tables.push_back(std::move(*table));
-    return data.Table(&kind) != nullptr;
+    auto table = CardTableReader(node, kind, block.values, file_).Read();
+    if (table) block.tables.push_back(std::move(*table));
+    return block.Find(&kind) != nullptr;
 }
 
 }  // namespace zelmat

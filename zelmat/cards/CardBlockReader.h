@@ -1,9 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "zelmat/files/JsonNode.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
@@ -11,19 +12,22 @@ namespace zelmat {
 /// and answers nothing if there is one.
 class CardBlockReader {
 public:
-    CardBlockReader(const JsonNode& node, const CardBlock& block) : node_(node), block_(block) {}
+    /// `file`: the one that the node is of.
+    CardBlockReader(const JsonNode& node, const BlockKind& kind, std::shared_ptr<const KORJsonFile> file)
+        : node_(node), kind_(kind), file_(std::move(file)) {}
 
-    std::optional<CardData> Read() const;
+    std::optional<Block> Read() const;
 
 private:
     bool ReportUnknownKeys() const;
-    bool ReadSetting(const CardSetting& setting, CardValues& values) const;
-    std::optional<CardValue> ReadValue(const CardSetting& setting, const JsonNode& node) const;
-    std::optional<CardValue> ReadText(const CardSetting& setting, const JsonNode& node) const;
-    bool ReadTable(const CardTableKind& kind, CardData& data) const;
+    bool ReadSetting(const Setting& setting, Block& block) const;
+    std::optional<Value> ReadValue(const Setting& setting, const JsonNode& node) const;
+    std::optional<Value> ReadText(const Setting& setting, const JsonNode& node) const;
+    bool ReadTable(const TableKind& kind, Block& block) const;
 
     JsonNode node_;
-    const CardBlock& block_;
+    const BlockKind& kind_;
+    std::shared_ptr<const KORJsonFile> file_;
 };
 
 }  // namespace zelmat

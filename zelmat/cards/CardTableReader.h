@@ -1,48 +1,57 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "zelmat/files/JsonNode.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
 /// Reads one table of a block. Reports every mistake in it, and answers nothing if there is one.
 class CardTableReader {
 public:
-    /// `values`: the block's, which say what form the table has.
-    CardTableReader(const JsonNode& node, const CardTableKind& kind, const CardValues& values)
-        : node_(node), kind_(kind), values_(values) {}
+    /// `values`: the block's, which say what form the table has. `file`: the one that the node is of.
+    CardTableReader(const JsonNode& node, const TableKind& kind, const Values& values,
+                    std::shared_ptr<const KORJsonFile> file)
+        : node_(node), kind_(kind), values_(values), file_(std::move(file)) {}
 
     /// The keys that a table of this kind takes.
-    static std::vector<std::string> Keys(const CardTableKind& kind);
+    static std::vector<std::string> Keys(const TableKind& kind);
 
-    std::optional<CardTable> Read() const;
+    std::optional<Table> Read();
 
 private:
-    using Rows = std::vector<std::vector<double>>;
+    /// Where in the card's columns each column of the table stands; nowhere when it may be left out and is.
     using Order = std::vector<std::optional<std::size_t>>;
 
-    std::optional<CardTable> ReadList() const;
-    std::optional<CardTable> ReadColumns() const;
-    bool ReadFlag(CardTable& table) const;
-    bool ReadSource(CardTable& table) const;
+    std::optional<Table> ReadList();
+    std::optional<Table> ReadColumns();
+    bool ReadFlag(Table& table) const;
+    bool ReadSource(Table& table) const;
 
-    /// Where in the card's columns each wanted column stands; nowhere when it may be left out and is.
-    std::optional<Order> ReadOrder(const CardTable& table, const std::vector<std::string>& given) const;
-    bool ReportColumn(const CardTable& table, const JsonNode& column, const std::string& name) const;
-    bool ReportMissing(const CardTable& table, const std::vector<std::string>& given) const;
-    std::optional<Rows> ReadRows(const std::vector<std::string>& columns) const;
-    std::optional<std::vector<double>> ReadRow(const JsonNode& row, std::size_t number,
-                                               const std::vector<std::string>& columns) const;
-    bool ReportSurplusRows(const CardTable& table) const;
+    std::optional<Order> ReadOrder(const std::vector<std::string>& given) const;
+    bool ReportColumn(const JsonNode& column, const std::string& name) const;
+    bool ReportMissing(const std::vector<std::string>& given) const;
+
+    /// Puts the numbers into the table's columns; without an order it only looks for mistakes.
+    bool ReadRows(const std::vector<std::string>& given, const std::optional<Order>& order,
+                  Table& table) const;
+    void ReportRow(const JsonNode& row, std::size_t number, const std::vector<std::string>& given) const;
+    bool ReportSurplusRows(const Table& table) const;
+
+    /// The place of a node and of its members, for as long as the file's text is kept for it.
+    Origin OriginOf(const JsonNode& node) const;
 
     /// How messages name the table: "plastic with isotropic hardening".
-    std::string Subject(const CardTable& table) const;
+    std::string Subject() const;
 
     JsonNode node_;
-    const CardTableKind& kind_;
-    const CardValues& values_;
+    const TableKind& kind_;
+    const Values& values_;
+    std::shared_ptr<const KORJsonFile> file_;
+    TableForm form_ = {};
+    std::vector<ColumnKind> wanted_ = {};
 };
 
 }  // namespace zelmat

@@ -6,7 +6,7 @@ namespace zelmat {
 
 namespace {
 
-bool Matches(const CardData& fit, const FitChoice& choice) {
+bool Matches(const Block& fit, const FitChoice& choice) {
     if (!choice.model.empty() && *fit.values.Get<std::string>("model") != choice.model) return false;
     const std::string variant = fit.values.Get<std::string>("variant").value_or("");
     return variant.find(choice.variant) != std::string::npos;
@@ -20,21 +20,22 @@ std::string Wanted(const FitChoice& choice) {
 
 }  // namespace
 
-const CardData* ChooseFit(const MaterialCard& card, const FitChoice& choice, Findings& findings) {
-    for (const CardData& fit : card.fits) {
+const Block* ChooseFit(const Material& material, const FitChoice& choice, Findings& findings) {
+    for (const Block& fit : material.fits) {
         if (Matches(fit, choice)) return &fit;
     }
     if (!choice.IsMade()) return nullptr;
-    const int line = card.fits.empty() ? 0 : card.fits.front().line;
-    findings.Add({FindingKind::USAGE,
-                  {card.file, line},
-                  "no-such-model",
-                  card.name + " has no hyperelastic fit " + Wanted(choice),
-                  {card.fits.empty() ? "the card has none" : "has: " + WordList(card.fits, FitName)}});
+    const int line = material.fits.empty() ? 0 : material.fits.front().origin.Line();
+    findings.Add(
+        {FindingKind::USAGE,
+         {material.file, line},
+         "no-such-model",
+         material.name + " has no hyperelastic fit " + Wanted(choice),
+         {material.fits.empty() ? "the card has none" : "has: " + WordList(material.fits, FitName)}});
     return nullptr;
 }
 
-std::string FitName(const CardData& fit) {
+std::string FitName(const Block& fit) {
     const auto variant = fit.values.Get<std::string>("variant");
     const std::string model = *fit.values.Get<std::string>("model");
     return variant ? model + " (" + *variant + ")" : model;

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "zelmat/findings/Findings.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
@@ -17,9 +17,9 @@ struct FitChoice {
 
 /// The first fit that the choice fits; without a choice the first. Null when the card has none; that is a
 /// finding only if the user asked for one.
-const CardData* ChooseFit(const MaterialCard& card, const FitChoice& choice, Findings& findings);
+const Block* ChooseFit(const Material& material, const FitChoice& choice, Findings& findings);
 
 /// "MOONEY_RIVLIN (fit to the uniaxial test)"
-std::string FitName(const CardData& fit);
+std::string FitName(const Block& fit);
 
 }  // namespace zelmat

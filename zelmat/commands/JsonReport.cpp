@@ -8,15 +8,15 @@ namespace {
 
 using nlohmann::ordered_json;
 
-ordered_json ToJson(const CardValue& value) {
+ordered_json ToJson(const Value& value) {
     return std::visit([](const auto& held) { return ordered_json(held); }, value);
 }
 
 /// The values beside the tables: those that are stored, or the notes that only the card has.
-ordered_json ToJson(const CardBlock& block, const CardValues& values, bool stored) {
+ordered_json ToJson(const BlockKind& kind, const Values& values, bool stored) {
     ordered_json json = ordered_json::object();
-    for (const CardSetting& setting : block.settings) {
-        const CardValue* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
+    for (const Setting& setting : kind.settings) {
+        const Value* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
         if (!value) continue;
         json[setting.name] = {{"value", ToJson(*value)}};
         if (!setting.unit.empty()) json[setting.name]["unit"] = setting.unit;
@@ -24,32 +24,36 @@ ordered_json ToJson(const CardBlock& block, const CardValues& values, bool store
     return json;
 }
 
-ordered_json ToJson(const StoredTable& table) {
+/// NaN, which stands for a number that the store does not have, becomes null.
+ordered_json ToJson(const Table& table) {
     ordered_json columns = ordered_json::array();
-    for (const CardColumn& column : table.columns) {
-        columns.push_back({{"name", column.name}, {"unit", column.unit}});
+    for (const Column& column : table.columns) {
+        columns.push_back({{"name", column.kind.name}, {"unit", column.kind.unit}});
     }
+    ordered_json rows = ordered_json::array();
+    for (std::size_t row = 0; row < table.Rows(); ++row) rows.push_back(table.Row(row));
     return {{"table", table.kind->name},
             {"temperature_dependent", table.temperatureDependent},
             {"columns", std::move(columns)},
-            {"rows", table.rows}};
+            {"rows", std::move(rows)}};
 }
 
-ordered_json ToJson(const StoredBlock& block) {
-    ordered_json json = {{"name", block.block->name},
-                         {"values", ToJson(*block.block, block.values, true)},
+ordered_json ToJson(const StoredBlock& stored) {
+    const Block& block = stored.block;
+    ordered_json json = {{"name", block.kind->name},
+                         {"values", ToJson(*block.kind, block.values, true)},
                          {"tables", ordered_json::array()}};
-    for (const StoredTable& table : block.tables) json["tables"].push_back(ToJson(table));
-    if (block.given) json["on_the_card"] = ToJson(*block.block, block.given->values, false);
+    for (const Table& table : block.tables) json["tables"].push_back(ToJson(table));
+    if (stored.given) json["on_the_card"] = ToJson(*block.kind, stored.given->values, false);
     return json;
 }
 
-ordered_json Information(const MaterialCard& card) {
+ordered_json Information(const Material& material) {
     ordered_json json = ordered_json::object();
-    for (const CardData& data : card.information) {
+    for (const Block& block : material.information) {
         ordered_json tables = ordered_json::object();
-        for (const CardTable& table : data.tables) tables[table.kind->name] = table.rows.size();
-        json[data.block->name] = {{"rows", std::move(tables)}};
+        for (const Table& table : block.tables) tables[table.kind->name] = table.Rows();
+        json[block.kind->name] = {{"rows", std::move(tables)}};
     }
     return json;
 }
@@ -57,19 +61,24 @@ ordered_json Information(const MaterialCard& card) {
 }  // namespace
 
 ordered_json ToJson(const StoredMaterial& material) {
-    const MaterialCard& card = *material.card;
-    ordered_json json = {{"name", card.name},
-                         {"description", card.description},
-                         {"source", card.sources},
-                         {"illustrative", card.illustrative},
+    const Material& given = *material.given;
+    ordered_json json = {{"name", given.name},
+                         {"description", given.description},
+                         {"class", given.materialClass},
+                         {"source", given.sources},
+                         {"notes", given.notes},
+                         {"illustrative", given.illustrative},
+                         {"heat_generation", material.heatGeneration.value_or(false)},
                          {"switched_on", material.Names(true)},
                          {"switched_off", material.Names(false)},
                          {"features", material.features},
                          {"behaviors", ordered_json::array()},
                          {"fits", ordered_json::array()},
-                         {"for_information", Information(card)}};
-    for (const StoredBlock* block : material.SwitchedOn()) json["behaviors"].push_back(ToJson(*block));
-    for (const CardData& fit : card.fits) json["fits"].push_back(FitName(fit));
+                         {"for_information", Information(given)},
+                         {"kept", ordered_json::object()}};
+    for (const StoredBlock* stored : material.SwitchedOn()) json["behaviors"].push_back(ToJson(*stored));
+    for (const Block& fit : given.fits) json["fits"].push_back(FitName(fit));
+    for (const KeptValue& kept : given.kept) json["kept"][kept.name] = ordered_json::parse(kept.json);
     return json;
 }
 

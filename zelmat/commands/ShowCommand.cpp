@@ -2,7 +2,7 @@
 #include <optional>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/cards/MaterialCardReader.h"
+#include "zelmat/cards/ReadCard.h"
 #include "zelmat/commands/CallTrace.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/JsonReport.h"
@@ -33,13 +33,13 @@ public:
         std::optional<CallTrace> calls;
         if (trace_) calls.emplace(context.notes);
 
-        card_ = MaterialCardReader(findings).Read(path_);
+        card_ = ReadCard(path_, findings);
         if (!card_) {
             NameRightCommand(path_, FileForm::MATERIAL_CARD, findings);
             return;
         }
         const auto fits = FitsToShow(findings);
-        material_ = StoredMaterial{.card = &*card_};
+        material_ = StoredMaterial{.given = &*card_};
         if (findings.HasErrors()) return;
         MaterialHost host(context.options.catalogs);
         material_ = StoreMaterial(host, *card_, fits, findings);
@@ -57,11 +57,11 @@ public:
     }
 
 private:
-    std::vector<const CardData*> FitsToShow(Findings& findings) const {
-        std::vector<const CardData*> fits;
+    std::vector<const Block*> FitsToShow(Findings& findings) const {
+        std::vector<const Block*> fits;
         if (allFits_) {
-            for (const CardData& fit : card_->fits) fits.push_back(&fit);
-        } else if (const CardData* fit = ChooseFit(*card_, fit_, findings)) {
+            for (const Block& fit : card_->fits) fits.push_back(&fit);
+        } else if (const Block* fit = ChooseFit(*card_, fit_, findings)) {
             fits.push_back(fit);
         }
         return fits;
@@ -71,7 +71,7 @@ private:
     FitChoice fit_;         // of several hyperelastic fits
     bool allFits_ = false;  // show each in turn
     bool trace_ = false;
-    std::optional<MaterialCard> card_;
+    std::optional<Material> card_;
     std::optional<StoredMaterial> material_;
     bool stored_ = false;
 };

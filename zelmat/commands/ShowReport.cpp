@@ -1,6 +1,7 @@
 #include "zelmat/commands/ShowReport.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/text/NumberText.h"
@@ -12,7 +13,7 @@ namespace zelmat {
 
 namespace {
 
-std::string ValueText(const CardSetting& setting, const CardValue& value) {
+std::string ValueText(const Setting& setting, const Value& value) {
     struct ToText {
         const std::string& unit;
         std::string operator()(bool flag) const { return flag ? "yes" : "no"; }
@@ -24,60 +25,67 @@ std::string ValueText(const CardSetting& setting, const CardValue& value) {
 }
 
 /// The values beside the tables: those that are stored, or the notes that only the card has.
-void PrintValues(std::ostream& out, const CardBlock& block, const CardValues& values, bool stored) {
-    for (const CardSetting& setting : block.settings) {
-        const CardValue* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
+void PrintValues(std::ostream& out, const BlockKind& kind, const Values& values, bool stored) {
+    for (const Setting& setting : kind.settings) {
+        const Value* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
         if (!value) continue;
         out << "  " << setting.title << (stored ? ": " : ", on the card: ") << ValueText(setting, *value)
             << '\n';
     }
 }
 
-void PrintTable(std::ostream& out, const StoredTable& table) {
+std::string Header(const ColumnKind& column) {
+    const std::string title = column.title.empty() ? "(no name)" : column.title;
+    return column.unit.empty() ? title : title + " [" + column.unit + "]";
+}
+
+void PrintTable(std::ostream& out, const Table& table) {
     std::vector<std::string> headers;
-    for (const CardColumn& column : table.columns) {
-        headers.push_back(column.unit.empty() ? column.title : column.title + " [" + column.unit + "]");
-    }
+    for (const Column& column : table.columns) headers.push_back(Header(column.kind));
     TablePrinter printer(headers);
-    for (const auto& row : table.rows) {
+    for (std::size_t row = 0; row < table.Rows(); ++row) {
         std::vector<std::string> cells;
-        for (const double value : row) cells.push_back(NumberText(value));
+        for (const Column& column : table.columns) {
+            const double number = column.values[row];
+            cells.push_back(std::isnan(number) ? "-" : NumberText(number));
+        }
         printer.AddRow(std::move(cells));
     }
     printer.Print(out);
 }
 
-void PrintSource(std::ostream& out, const StoredBlock& block, const StoredTable& table) {
-    const CardTable* given = block.given ? block.given->Table(table.kind) : nullptr;
+void PrintSource(std::ostream& out, const StoredBlock& stored, const Table& table) {
+    const Table* given = stored.given ? stored.given->Find(table.kind) : nullptr;
     if (given && !given->source.empty()) out << "  source: " << Printable(given->source) << '\n';
 }
 
-const char* FlagWords(const StoredTable& table) {
+const char* FlagWords(const Table& table) {
     if (!table.kind->flagged) return "";
     return table.temperatureDependent ? ", temperature dependent" : ", not temperature dependent";
 }
 
-void PrintBlock(std::ostream& out, const StoredBlock& block) {
-    const bool ownTable = block.block->FindTable("") != nullptr;
-    out << '\n' << block.block->title;
+void PrintBlock(std::ostream& out, const StoredBlock& stored) {
+    const Block& block = stored.block;
+    const bool ownTable = block.kind->FindTable("") != nullptr;
+    out << '\n' << block.kind->title;
     if (ownTable && !block.tables.empty()) out << FlagWords(block.tables.front());
     out << '\n';
-    PrintValues(out, *block.block, block.values, true);
-    for (const StoredTable& table : block.tables) {
+    PrintValues(out, *block.kind, block.values, true);
+    for (const Table& table : block.tables) {
         if (!ownTable) out << "  " << table.kind->title << FlagWords(table) << '\n';
         PrintTable(out, table);
-        PrintSource(out, block, table);
+        PrintSource(out, stored, table);
     }
-    if (block.given) PrintValues(out, *block.block, block.given->values, false);
+    if (stored.given) PrintValues(out, *block.kind, stored.given->values, false);
 }
 
 /// Which of several fits the material holds. Every fit that is shown tells its name itself.
 void PrintFits(std::ostream& out, const StoredMaterial& material) {
-    std::vector<const CardData*> shown;
-    for (const StoredBlock& block : material.blocks) {
-        if (block.given && block.block->alternatives) shown.push_back(block.given);
+    std::vector<const Block*> shown;
+    for (const StoredBlock& stored : material.blocks) {
+        if (stored.given && stored.given->kind->alternatives) shown.push_back(stored.given);
     }
-    const auto& fits = material.card->fits;
+    const auto& fits = material.given->fits;
     if (fits.size() < 2 || shown.empty()) return;
     if (shown.size() > 1) {
         out << '\n'
@@ -88,38 +96,48 @@ void PrintFits(std::ostream& out, const StoredMaterial& material) {
     out << '\n'
         << "hyperelastic fits on the card: " << fits.size()
         << ", stored: " << Printable(FitName(*shown.front())) << '\n';
-    for (const CardData& fit : fits) {
+    for (const Block& fit : fits) {
         if (&fit != shown.front()) out << "  not stored: " << Printable(FitName(fit)) << '\n';
     }
     out << "  choose with --model and --variant, or show each with --all-models\n";
 }
 
-std::string InformationText(const CardData& data) {
-    const std::string tables = WordList(data.tables, [](const CardTable& table) {
-        return table.kind->name + " " + CountText(table.rows.size(), "row");
+std::string InformationText(const Block& block) {
+    const std::string tables = WordList(block.tables, [](const Table& table) {
+        return table.kind->name + " " + CountText(table.Rows(), "row");
     });
-    return tables.empty() ? data.block->name : data.block->name + " (" + tables + ")";
+    return tables.empty() ? block.kind->name : block.kind->name + " (" + tables + ")";
 }
 
 void PrintNote(std::ostream& out, const char* note, const std::string& words) {
     if (!words.empty()) out << note << ": " << words << '\n';
 }
 
+/// Where the material comes from, and what is said of it as a whole.
+void PrintHead(std::ostream& out, const Material& given) {
+    out << Printable(given.name) << '\n';
+    if (!given.description.empty()) out << Printable(given.description) << '\n';
+    if (!given.materialClass.empty()) out << "class: " << Printable(given.materialClass) << '\n';
+    for (const std::string& source : given.sources) out << "source: " << Printable(source) << '\n';
+    for (const std::string& note : given.notes) out << "note: " << Printable(note) << '\n';
+    if (given.illustrative) out << "illustrative: the values are made up\n";
+}
+
 }  // namespace
 
 void PrintMaterial(std::ostream& out, const StoredMaterial& material) {
-    const MaterialCard& card = *material.card;
-    out << Printable(card.name) << '\n';
-    if (!card.description.empty()) out << Printable(card.description) << '\n';
-    for (const std::string& source : card.sources) out << "source: " << Printable(source) << '\n';
-    if (card.illustrative) out << "illustrative: the values are made up\n";
+    const Material& given = *material.given;
+    PrintHead(out, given);
     out << '\n';
     PrintNote(out, "switched on", WordList(material.Names(true)));
     PrintNote(out, "switched off", WordList(material.Names(false)));
-    for (const StoredBlock* block : material.SwitchedOn()) PrintBlock(out, *block);
+    if (material.heatGeneration.value_or(false)) out << "the material generates heat\n";
+    for (const StoredBlock* stored : material.SwitchedOn()) PrintBlock(out, *stored);
     PrintFits(out, material);
-    if (!card.information.empty()) out << '\n';
-    PrintNote(out, "for information only, used by no behavior", WordList(card.information, InformationText));
+    if (!given.information.empty() || !given.kept.empty()) out << '\n';
+    PrintNote(out, "for information only, used by no behavior", WordList(given.information, InformationText));
+    PrintNote(out, "unknown, kept as it is",
+              WordList(given.kept, [](const KeptValue& kept) { return Printable(kept.name); }));
 }
 
 }  // namespace zelmat

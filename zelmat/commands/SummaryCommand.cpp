@@ -2,7 +2,7 @@
 #include <deque>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/cards/MaterialCardReader.h"
+#include "zelmat/cards/ReadCard.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/WrongForm.h"
@@ -15,11 +15,11 @@ namespace zelmat {
 namespace {
 
 /// "elastic 12": the rows of its tables, added up per table: "gasket 8+12+12".
-std::string BlockText(const StoredBlock* block) {
-    std::string text = block->block->name;
+std::string BlockText(const StoredBlock* stored) {
+    std::string text = stored->block.kind->name;
     const char* separator = " ";
-    for (const StoredTable& table : block->tables) {
-        text += separator + std::to_string(table.rows.size());
+    for (const Table& table : stored->block.tables) {
+        text += separator + std::to_string(table.Rows());
         separator = "+";
     }
     return text;
@@ -27,15 +27,13 @@ std::string BlockText(const StoredBlock* block) {
 
 std::string Notes(const StoredMaterial& material) {
     std::vector<std::string> notes;
-    const MaterialCard& card = *material.card;
-    if (card.illustrative) notes.push_back("illustrative");
-    if (card.fits.size() > 1) {
-        notes.push_back("stored " + Printable(FitName(card.fits.front())) + " of " +
-                        std::to_string(card.fits.size()) + " fits");
+    const Material& given = *material.given;
+    if (given.illustrative) notes.push_back("illustrative");
+    if (given.fits.size() > 1) {
+        notes.push_back("stored " + Printable(FitName(given.fits.front())) + " of " +
+                        std::to_string(given.fits.size()) + " fits");
     }
-    for (const CardData& data : card.information) {
-        notes.push_back(data.block->name + " for information");
-    }
+    for (const Block& block : given.information) notes.push_back(block.kind->name + " for information");
     return WordList(notes);
 }
 
@@ -45,7 +43,7 @@ void PrintTable(std::ostream& out, const std::deque<StoredMaterial>& materials) 
     for (const std::size_t words : {0u, 2u, 3u}) printer.SetLeft(words);
     for (const StoredMaterial& material : materials) {
         features += material.features;
-        printer.AddRow({Printable(material.card->name), std::to_string(material.features),
+        printer.AddRow({Printable(material.given->name), std::to_string(material.features),
                         WordList(material.SwitchedOn(), BlockText), Notes(material)});
     }
     printer.Print(out);
@@ -80,20 +78,20 @@ public:
 
 private:
     void Add(MaterialHost& host, const std::string& path, Findings& findings) {
-        auto card = MaterialCardReader(findings).Read(path);
+        auto card = ReadCard(path, findings);
         if (!card) {
             NameRightCommand(path, FileForm::MATERIAL_CARD, findings);
             return;
         }
         cards_.push_back(std::move(*card));
-        const CardData* fit = ChooseFit(cards_.back(), {}, findings);
+        const Block* fit = ChooseFit(cards_.back(), {}, findings);
         auto material = StoreMaterial(host, cards_.back(),
-                                      fit ? std::vector{fit} : std::vector<const CardData*>(), findings);
+                                      fit ? std::vector{fit} : std::vector<const Block*>(), findings);
         if (!findings.HasErrors()) materials_.push_back(std::move(material));
     }
 
     std::vector<std::string> paths_;
-    std::deque<MaterialCard> cards_;  // does not move its elements, which the materials refer to
+    std::deque<Material> cards_;  // does not move its elements, which the materials refer to
     std::deque<StoredMaterial> materials_;
 };
 

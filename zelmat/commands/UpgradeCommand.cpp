@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <iostream>
 #include <optional>
 
 #include "platform/analysis/KORUnitsService.h"
@@ -51,6 +52,10 @@ bool WriteDocument(const KORTextDocument& text, const std::string& path, const s
                    Findings& findings) {
     std::string reason;
     const auto written = text.Write(reason);
+    if (written && path == "-") {
+        std::cout << *written;
+        return true;
+    }
     if (written) return WriteOutputFile(path, *written, {input}, findings).has_value();
     findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-written", "cannot be written: " + reason, {}});
     return false;

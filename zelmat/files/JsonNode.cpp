@@ -127,9 +127,9 @@ int JsonNode::Line() const {
     return file_->Line(*json_);
 }
 
-void JsonNode::Report(std::string code, std::string text, std::vector<std::string> details) const {
-    findings_->Add(
-        {FindingKind::ERROR, {file_->Name(), Line()}, std::move(code), std::move(text), std::move(details)});
+void JsonNode::Report(FindingKind kind, std::string code, std::string text,
+                      std::vector<std::string> details) const {
+    findings_->Add({kind, {file_->Name(), Line()}, std::move(code), std::move(text), std::move(details)});
 }
 
 void JsonNode::ReportKind(const char* expected) const {

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/catalog/KORJsonFile.h"
@@ -43,7 +44,14 @@ public:
     std::string Excerpt() const;
     int Line() const;
 
-    void Report(std::string code, std::string text, std::vector<std::string> details = {}) const;
+    /// The value itself, for those who walk through many.
+    const nlohmann::json& Json() const { return *json_; }
+
+    void Report(std::string code, std::string text, std::vector<std::string> details = {}) const {
+        Report(FindingKind::ERROR, std::move(code), std::move(text), std::move(details));
+    }
+    void Report(FindingKind kind, std::string code, std::string text,
+                std::vector<std::string> details = {}) const;
 
 private:
     JsonNode(const JsonNode& parent, nlohmann::json::json_pointer at);

@@ -77,46 +77,45 @@ struct BehaviorAccess {
     };
 
     /// Flags come before the rows: a behavior decides by them which columns it stores.
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data) {
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block) {
         BehaviorAnswers answers;
         const auto behavior = HandOut(material, Names::kHandOut);
         if (!behavior.IsObject()) return answers.NoBehavior();
         Behavior& object = *behavior.GetProxyObject();
 
-        const CardTable& table = data.tables.front();
-        answers.ToValue((object.*Names::kSetEnabled)(1));
-        answers.ToValue(object.SetTemperatureDependent(table.temperatureDependent ? 1 : 0));
+        answers.ToValue((object.*Names::kSetEnabled)(block.enabled ? 1 : 0));
         if constexpr (kHasReferenceTemperature) {
-            answers.ToValue(
-                object.SetReferenceTemperature(*data.values.Get<double>("reference_temperature")));
+            if (const auto kelvin = block.values.template Get<double>("reference_temperature")) {
+                answers.ToValue(object.SetReferenceTemperature(*kelvin));
+            }
         }
-        answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table.rows)));
+        for (const Table& table : block.tables) {
+            answers.ToValue(object.SetTemperatureDependent(table.temperatureDependent ? 1 : 0));
+            answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table)));
+        }
         return answers.All();
     }
 
-    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block) {
-        StoredBlock stored{.block = &block};
+    static HRESULT Read(ZELIMaterial& material, Block& block) {
         const auto behavior = HandOut(material, Names::kHandOut);
-        if (!behavior.IsObject()) {
-            stored.status = E_FAIL;
-            return stored;
-        }
+        if (!behavior.IsObject()) return E_FAIL;
         Behavior& object = *behavior.GetProxyObject();
-        stored.status = (object.*Names::kLoadEnabled)();
-        stored.enabled = (object.*Names::kEnabled)() != 0;
-        if (FAILED(stored.status) || !stored.enabled) return stored;
+        HRESULT status = (object.*Names::kLoadEnabled)();
+        block.enabled = SUCCEEDED(status) && (object.*Names::kEnabled)() != 0;
+        if (!block.enabled) return status;
 
         // The table's columns depend on the temperature flag, which therefore is read before it.
-        stored.status = object.GetPropertyTemperatureDependent();
-        if (SUCCEEDED(stored.status)) stored.status = (object.*Names::kLoadTable)();
+        status = object.GetPropertyTemperatureDependent();
+        if (SUCCEEDED(status)) status = (object.*Names::kLoadTable)();
         if constexpr (kHasReferenceTemperature) {
-            if (SUCCEEDED(stored.status)) stored.status = object.GetPropertyReferenceTemperature();
-            stored.values.Set("reference_temperature", object.GetReferenceTemperature());
+            if (SUCCEEDED(status)) status = object.GetPropertyReferenceTemperature();
+            if (SUCCEEDED(status))
+                block.values.Set("reference_temperature", object.GetReferenceTemperature());
         }
-        auto table = (object.*Names::kTable)();
-        stored.AddTable(block.tables.front(), object.GetTemperatureDependent() != 0,
-                        FromPropertyTable(table));
-        return stored;
+        if (FAILED(status)) return status;
+        AddTable(block, block.kind->tables.front(), object.GetTemperatureDependent() != 0,
+                 (object.*Names::kTable)());
+        return status;
     }
 };
 

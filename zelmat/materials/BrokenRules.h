@@ -3,12 +3,12 @@
 #include <vector>
 
 #include "zelmat/findings/Findings.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
 /// Why a behavior refused a table or complained about it, in words: each value with its row and its bound,
 /// and whether the data were stored. Empty when the table breaks no rule of its kind.
-std::vector<Finding> BrokenRules(const CardBlock& block, const CardTable& table, const std::string& file);
+std::vector<Finding> BrokenRules(const BlockKind& block, const Table& table, const std::string& file);
 
 }  // namespace zelmat

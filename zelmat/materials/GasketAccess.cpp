@@ -12,7 +12,7 @@ namespace {
 using Gasket = ZELGasketThicknessBehavior;
 
 struct YieldOnset {
-    const char* word;  ///< on the card
+    const char* word;  ///< in the block
     int method;        ///< in the store
 };
 
@@ -23,7 +23,7 @@ constexpr std::array<YieldOnset, 2> kYieldOnsets = {{
 
 /// Where one of the three tables goes.
 struct GasketTable {
-    const char* name;  ///< on the card
+    const char* name;  ///< in the block
     HRESULT (Gasket::*setFlag)(const unsigned char&);
     HRESULT (Gasket::*getFlag)(unsigned char&);
     HRESULT (Gasket::*setRows)(const ZELCftArrayZELCftArrayDouble&);
@@ -43,7 +43,7 @@ constexpr std::array<GasketTable, 3> kTables = {{
 }};
 
 /// Settings that the card leaves out keep the values of a new material.
-void WriteValues(Gasket& gasket, const CardValues& values, BehaviorAnswers& answers) {
+void WriteValues(Gasket& gasket, const Values& values, BehaviorAnswers& answers) {
     if (const auto type = values.Get<int>("behavior_type")) {
         answers.ToValue(
             gasket.SetGasketThicknessBehaviorType(static_cast<Gasket::GasketThicknessType>(*type)));
@@ -66,12 +66,12 @@ void WriteValues(Gasket& gasket, const CardValues& values, BehaviorAnswers& answ
     }
 }
 
-void WriteTables(Gasket& gasket, const CardData& data, BehaviorAnswers& answers) {
+/// A table that the block leaves out is stored empty.
+void WriteTables(Gasket& gasket, const Block& block, BehaviorAnswers& answers) {
     for (const GasketTable& place : kTables) {
-        const CardTable* table = data.Table(place.name);
+        const Table* table = block.Find(place.name);
         answers.ToValue((gasket.*place.setFlag)(table && table->temperatureDependent ? 1 : 0));
-        const auto rows = ToPropertyTable(table ? table->rows : std::vector<std::vector<double>>());
-        const HRESULT status = (gasket.*place.setRows)(rows);
+        const HRESULT status = (gasket.*place.setRows)(ToPropertyTable(table ? *table : Table()));
         if (table) {
             answers.ToTable(*table, status);
         } else {
@@ -88,7 +88,7 @@ std::string WordOf(int method) {
     return std::to_string(method);
 }
 
-HRESULT ReadValues(Gasket& gasket, CardValues& values) {
+HRESULT ReadValues(Gasket& gasket, Values& values) {
     auto type = Gasket::InitialThicknessType;
     auto method = Gasket::InitialYieldOnsetMethod;
     double relative = 0.0;
@@ -111,7 +111,7 @@ HRESULT ReadValues(Gasket& gasket, CardValues& values) {
     return S_OK;
 }
 
-HRESULT ReadTables(Gasket& gasket, StoredBlock& stored) {
+HRESULT ReadTables(Gasket& gasket, Block& block) {
     for (const GasketTable& place : kTables) {
         unsigned char temperatureDependent = 0;
         ZELCftArrayZELCftArrayDouble rows(0, nullptr);
@@ -119,8 +119,7 @@ HRESULT ReadTables(Gasket& gasket, StoredBlock& stored) {
         if (SUCCEEDED(status)) status = (gasket.*place.getRows)(rows);
         if (FAILED(status)) return status;
         if (rows.size() == 0) continue;
-        stored.AddTable(*stored.block->FindTable(place.name), temperatureDependent != 0,
-                        FromPropertyTable(rows));
+        AddTable(block, *block.kind->FindTable(place.name), temperatureDependent != 0, rows);
     }
     return S_OK;
 }
@@ -133,36 +132,32 @@ std::vector<std::string> GasketAccess::YieldOnsetWords() {
     return words;
 }
 
-std::vector<WriteStatus> GasketAccess::Write(ZELIMaterial& material, const CardData& data) {
+std::vector<WriteStatus> GasketAccess::Write(ZELIMaterial& material, const Block& block) {
     BehaviorAnswers answers;
     const auto behavior = HandOut(material, &ZELIMaterial::GetGasketThicknessBehaviorProperties);
     if (!behavior.IsObject()) return answers.NoBehavior();
 
     Gasket& gasket = *behavior.GetProxyObject();
-    const bool unloads = data.Table("unloading_elastic_plastic") || data.Table("unloading_damage");
-    answers.ToValue(gasket.SetGasketEnabled(1));
-    WriteValues(gasket, data.values, answers);
+    answers.ToValue(gasket.SetGasketEnabled(block.enabled ? 1 : 0));
+    if (!block.enabled) return answers.All();
+    const bool unloads = block.Find("unloading_elastic_plastic") || block.Find("unloading_damage");
+    WriteValues(gasket, block.values, answers);
     answers.ToValue(
-        gasket.SetGasketThicknessUnLoadingFlag(data.values.Get<bool>("unloading").value_or(unloads)));
-    WriteTables(gasket, data, answers);
+        gasket.SetGasketThicknessUnLoadingFlag(block.values.Get<bool>("unloading").value_or(unloads)));
+    WriteTables(gasket, block, answers);
     return answers.All();
 }
 
-StoredBlock GasketAccess::Read(ZELIMaterial& material, const CardBlock& block) {
-    StoredBlock stored{.block = &block};
+HRESULT GasketAccess::Read(ZELIMaterial& material, Block& block) {
     const auto behavior = HandOut(material, &ZELIMaterial::GetGasketThicknessBehaviorProperties);
-    if (!behavior.IsObject()) {
-        stored.status = E_FAIL;
-        return stored;
-    }
+    if (!behavior.IsObject()) return E_FAIL;
     Gasket& gasket = *behavior.GetProxyObject();
     unsigned char enabled = 0;
-    stored.status = gasket.GetGasketEnabled(enabled);
-    stored.enabled = enabled != 0;
-    if (FAILED(stored.status) || !stored.enabled) return stored;
-    stored.status = ReadValues(gasket, stored.values);
-    if (SUCCEEDED(stored.status)) stored.status = ReadTables(gasket, stored);
-    return stored;
+    HRESULT status = gasket.GetGasketEnabled(enabled);
+    block.enabled = SUCCEEDED(status) && enabled != 0;
+    if (!block.enabled) return status;
+    status = ReadValues(gasket, block.values);
+    return SUCCEEDED(status) ? ReadTables(gasket, block) : status;
 }
 
 }  // namespace zelmat

@@ -1,18 +1,18 @@
 #pragma once
 
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 class ZELIMaterial;
 
 namespace zelmat {
 
-/// The thickness behavior of a gasket: single values and three tables. An unloading table that the card
-/// leaves out is stored empty.
+/// The thickness behavior of a gasket: single values and three tables. An unloading table that is
+/// left out is stored empty.
 struct GasketAccess {
-    static std::vector<std::string> YieldOnsetWords();  ///< on the card: "relative", "closure"
+    static std::vector<std::string> YieldOnsetWords();  ///< in the block: "relative", "closure"
 
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data);
-    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block);
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block);
+    static HRESULT Read(ZELIMaterial& material, Block& block);
 };
 
 }  // namespace zelmat

@@ -36,39 +36,35 @@ struct GasketElasticAccess {
     using Behavior = typename Names::Behavior;
 
     /// Enabled comes before the rows: transverse shear checks them only while it is switched on.
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data) {
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block) {
         BehaviorAnswers answers;
         const auto behavior = HandOut(material, Names::kHandOut);
         if (!behavior.IsObject()) return answers.NoBehavior();
         Behavior& object = *behavior.GetProxyObject();
-        const CardTable& table = data.tables.front();
-        answers.ToValue((object.*Names::kSetEnabled)(1));
-        answers.ToValue((object.*Names::kSetFlag)(table.temperatureDependent ? 1 : 0));
-        answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table.rows)));
+        answers.ToValue((object.*Names::kSetEnabled)(block.enabled ? 1 : 0));
+        for (const Table& table : block.tables) {
+            answers.ToValue((object.*Names::kSetFlag)(table.temperatureDependent ? 1 : 0));
+            answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table)));
+        }
         return answers.All();
     }
 
-    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block) {
-        StoredBlock stored{.block = &block};
+    static HRESULT Read(ZELIMaterial& material, Block& block) {
         const auto behavior = HandOut(material, Names::kHandOut);
-        if (!behavior.IsObject()) {
-            stored.status = E_FAIL;
-            return stored;
-        }
+        if (!behavior.IsObject()) return E_FAIL;
         Behavior& object = *behavior.GetProxyObject();
         unsigned char enabled = 0;
-        stored.status = (object.*Names::kEnabled)(enabled);
-        stored.enabled = enabled != 0;
-        if (FAILED(stored.status) || !stored.enabled) return stored;
+        HRESULT status = (object.*Names::kEnabled)(enabled);
+        block.enabled = SUCCEEDED(status) && enabled != 0;
+        if (!block.enabled) return status;
 
         unsigned char temperatureDependent = 0;
         ZELCftArrayZELCftArrayDouble rows(0, nullptr);
-        stored.status = (object.*Names::kFlag)(temperatureDependent);
-        if (SUCCEEDED(stored.status)) stored.status = (object.*Names::kTable)(rows);
-        if (SUCCEEDED(stored.status)) {
-            stored.AddTable(block.tables.front(), temperatureDependent != 0, FromPropertyTable(rows));
-        }
-        return stored;
+        status = (object.*Names::kFlag)(temperatureDependent);
+        if (SUCCEEDED(status)) status = (object.*Names::kTable)(rows);
+        if (FAILED(status)) return status;
+        AddTable(block, block.kind->tables.front(), temperatureDependent != 0, rows);
+        return status;
     }
 };
 

@@ -15,11 +15,11 @@ ZELIHyperelasticMaterialModel_var ModelOf(ZELHyperelastic& behavior) {
     return ZELIHyperelasticMaterialModel_var::Of(feature.Get());
 }
 
-HRESULT ReadModel(ZELHyperelastic& behavior, StoredBlock& stored) {
+HRESULT ReadModel(ZELHyperelastic& behavior, Block& block) {
     KORUnicodeString type;
     HRESULT status = behavior.GetMaterialModelType(type);
     if (FAILED(status)) return status;
-    stored.values.Set("model", std::string(type.c_str()));
+    block.values.Set("model", std::string(type.View()));
     const auto model = ModelOf(behavior);
     if (!model) return E_FAIL;
 
@@ -30,44 +30,44 @@ HRESULT ReadModel(ZELHyperelastic& behavior, StoredBlock& stored) {
     if (SUCCEEDED(status)) status = model->GetPropertyTemperatureDependent(temperatureDependent);
     if (SUCCEEDED(status)) status = model->GetPropertyData(rows);
     if (FAILED(status)) return status;
-    stored.values.Set("order", order);
-    stored.AddTable(stored.block->tables.front(), temperatureDependent != 0, FromPropertyTable(rows));
+    block.values.Set("order", order);
+    AddTable(block, block.kind->tables.front(), temperatureDependent != 0, rows);
     return S_OK;
 }
 
 }  // namespace
 
-std::vector<WriteStatus> HyperelasticAccess::Write(ZELIMaterial& material, const CardData& data) {
+std::vector<WriteStatus> HyperelasticAccess::Write(ZELIMaterial& material, const Block& block) {
     BehaviorAnswers answers;
     const auto behavior = HandOut(material, &ZELIMaterial::GetHyperelasticProperties);
     if (!behavior.IsObject()) return answers.NoBehavior();
 
-    answers.ToValue(behavior->SetHyperelasticEnabled(1));
-    answers.ToValue(behavior->SetMaterialModelType(data.values.Get<std::string>("model")->c_str()));
-    const CardTable& table = data.tables.front();
+    answers.ToValue(behavior->SetHyperelasticEnabled(block.enabled ? 1 : 0));
+    const auto type = block.values.Get<std::string>("model");
+    if (!block.enabled || !type) return answers.All();
+    answers.ToValue(behavior->SetMaterialModelType(type->c_str()));
     const auto model = ModelOf(*behavior.GetProxyObject());
-    if (!model) {
-        answers.ToTable(table, E_FAIL);
-        return answers.All();
+    if (const auto order = block.values.Get<int>("order"); model && order) {
+        answers.ToValue(model->SetStrainEnergyPotentialOrder(*order));
     }
-    answers.ToValue(model->SetStrainEnergyPotentialOrder(*data.values.Get<int>("order")));
-    answers.ToValue(model->SetPropertyTemperatureDependent(table.temperatureDependent ? 1 : 0));
-    answers.ToTable(table, model->SetPropertyData(ToPropertyTable(table.rows)));
+    for (const Table& table : block.tables) {
+        if (!model) {
+            answers.ToTable(table, E_FAIL);
+            continue;
+        }
+        answers.ToValue(model->SetPropertyTemperatureDependent(table.temperatureDependent ? 1 : 0));
+        answers.ToTable(table, model->SetPropertyData(ToPropertyTable(table)));
+    }
     return answers.All();
 }
 
-StoredBlock HyperelasticAccess::Read(ZELIMaterial& material, const CardBlock& block) {
-    StoredBlock stored{.block = &block};
+HRESULT HyperelasticAccess::Read(ZELIMaterial& material, Block& block) {
     const auto behavior = HandOut(material, &ZELIMaterial::GetHyperelasticProperties);
-    if (!behavior.IsObject()) {
-        stored.status = E_FAIL;
-        return stored;
-    }
+    if (!behavior.IsObject()) return E_FAIL;
     unsigned char enabled = 0;
-    stored.status = behavior->GetHyperelasticEnabled(enabled);
-    stored.enabled = enabled != 0;
-    if (stored.enabled) stored.status = ReadModel(*behavior.GetProxyObject(), stored);
-    return stored;
+    const HRESULT status = behavior->GetHyperelasticEnabled(enabled);
+    block.enabled = SUCCEEDED(status) && enabled != 0;
+    return block.enabled ? ReadModel(*behavior.GetProxyObject(), block) : status;
 }
 
 }  // namespace zelmat

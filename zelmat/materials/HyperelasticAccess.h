@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 class ZELIMaterial;
 
@@ -9,8 +9,8 @@ namespace zelmat {
 /// Hyperelasticity: the potential's keyword on the behavior; its order and its coefficients on a feature of
 /// their own. A material holds one potential; writing another takes its place.
 struct HyperelasticAccess {
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data);
-    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block);
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block);
+    static HRESULT Read(ZELIMaterial& material, Block& block);
 };
 
 }  // namespace zelmat

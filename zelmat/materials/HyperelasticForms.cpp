@@ -6,17 +6,17 @@ namespace zelmat {
 
 namespace {
 
-using Columns = std::vector<CardColumn>;
+using Columns = std::vector<ColumnKind>;
 
-CardColumn Modulus(const std::string& name) {
+ColumnKind Modulus(const std::string& name) {
     return {name, name, "Pa"};
 }
 
-CardColumn Number(const std::string& name) {
+ColumnKind Number(const std::string& name) {
     return {name, name, "-"};
 }
 
-CardColumn Compressibility(const std::string& name) {
+ColumnKind Compressibility(const std::string& name) {
     return {name, name, "1/Pa", 0.0};
 }
 
@@ -101,11 +101,11 @@ const std::vector<std::string>& HyperelasticModels() {
     return models;
 }
 
-std::optional<CardTableForm> HyperelasticForm(const std::string& model, int order) {
+std::optional<TableForm> HyperelasticForm(const std::string& model, int order) {
     for (const Potential& potential : kPotentials) {
         if (model != potential.model) continue;
-        return CardTableForm{.columns = potential.columns(order),
-                             .with = model + " of order " + std::to_string(order)};
+        return TableForm{.columns = potential.columns(order),
+                         .with = model + " of order " + std::to_string(order)};
     }
     return std::nullopt;
 }

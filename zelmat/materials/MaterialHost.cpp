@@ -33,21 +33,21 @@ KORISpecObject_var NewAnalysisData(KORIMaterialFeature* material, HRESULT& statu
 
 }  // namespace
 
-KORISpecObject_var MaterialHost::NewMaterial(const MaterialCard& card, Findings& findings) {
-    const DiagnosticLines diagnostics(findings, card.file, card.name);
+KORISpecObject_var MaterialHost::NewMaterial(const Material& material, Findings& findings) {
+    const DiagnosticLines diagnostics(findings, material.file, material.name);
     // Opened here first, to have the reason and its place; the factory then finds the catalog already read.
     if (!platform_.OpenCatalog(findings)) return nullptr;
     const KORVar<KORFeature> feature =
-        platform_.Document().NewPlatformFeature(kPlatformMaterial, card.name.c_str());
-    KORIAlias_var::Of(feature.Get())->SetAlias(card.name.c_str());
-    const auto material = KORIMaterialFeature_var::Of(feature.Get());
+        platform_.Document().NewPlatformFeature(kPlatformMaterial, material.name.c_str());
+    KORIAlias_var::Of(feature.Get())->SetAlias(material.name.c_str());
+    const auto made = KORIMaterialFeature_var::Of(feature.Get());
     HRESULT status = S_OK;
-    KORISpecObject_var data = NewAnalysisData(material.Get(), status);
+    KORISpecObject_var data = NewAnalysisData(made.Get(), status);
     if (!data) {
         findings.Add({FindingKind::UNREADABLE,
                       {platform_.CatalogPath(), 0},
                       "bad-catalog",
-                      "the analysis data of " + card.name + " cannot be made from it",
+                      "the analysis data of " + material.name + " cannot be made from it",
                       {StatusText(status)}});
     }
     return data;

@@ -4,7 +4,7 @@
 
 #include "interfaces/KORISpecObject.h"
 #include "zelmat/materials/HostPlatform.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
@@ -15,9 +15,9 @@ public:
     /// `catalogs`: the folder of the feature catalogs.
     explicit MaterialHost(const std::string& catalogs) : platform_(catalogs) {}
 
-    /// A new material of the platform, named as on the card, with analysis data hung on it; answers the
+    /// A new material of the platform, of that name, with analysis data hung on it; answers the
     /// latter. Null, and a finding, when that cannot be made.
-    KORISpecObject_var NewMaterial(const MaterialCard& card, Findings& findings);
+    KORISpecObject_var NewMaterial(const Material& material, Findings& findings);
 
     std::size_t FeatureCount() { return platform_.Document().FeatureCount(); }  ///< in the document
 

@@ -1,36 +1,48 @@
 #include "zelmat/materials/MaterialReader.h"
 
-#include "ZELMaterialModel/include/ZELIMaterial.h"
+#include "ZELMaterialModel/include/ZELMaterial.h"
 #include "zelmat/findings/DiagnosticLines.h"
+#include "zelmat/materials/AnalysisData.h"
 #include "zelmat/materials/StatusText.h"
 
 namespace zelmat {
 
-std::vector<StoredBlock> ReadMaterial(KORISpecObject* material, const std::string& file,
-                                      const std::string& name, Findings& findings) {
+namespace {
+
+void ReadHeatGeneration(ZELIMaterial& behaviors, Material& material) {
+    bool enabled = false;
+    const auto data = KORGetImplementation<ZELMaterial>(&behaviors);
+    if (data && SUCCEEDED(data->GetHeatGenerationEnabled(enabled))) material.heatGeneration = enabled;
+}
+
+}  // namespace
+
+Material ReadMaterial(KORISpecObject* feature, const std::string& file, const std::string& name,
+                      Findings& findings) {
     const DiagnosticLines diagnostics(findings, file, name);
-    std::vector<StoredBlock> stored;
-    const auto behaviors = ZELIMaterial_var::Of(material);
+    Material material{.file = file, .name = name};
+    const auto behaviors = AnalysisDataOf(feature);
     if (!behaviors) {
         findings.Add({FindingKind::ERROR,
                       {file, 0},
                       "no-material-interface",
                       name + " offers no material properties to read",
                       {}});
-        return stored;
+        return material;
     }
-    for (const CardBlock& block : CardBlocks()) {
-        if (!block.read) continue;
-        stored.push_back(block.read(*behaviors, block));
-        if (FAILED(stored.back().status)) {
-            findings.Add({FindingKind::ERROR,
-                          {file, 0},
-                          "not-read",
-                          block.name + " of " + name + " could not be read back",
-                          {StatusText(stored.back().status)}});
-        }
+    ReadHeatGeneration(*behaviors, material);
+    for (const BlockKind& kind : BlockKinds()) {
+        if (!kind.read) continue;
+        Block& block = material.blocks.emplace_back(Block{.kind = &kind, .enabled = false});
+        const HRESULT status = kind.read(*behaviors, block);
+        if (SUCCEEDED(status)) continue;
+        findings.Add({FindingKind::ERROR,
+                      {file, 0},
+                      "not-read",
+                      kind.name + " of " + name + " could not be read back",
+                      {StatusText(status)}});
     }
-    return stored;
+    return material;
 }
 
 }  // namespace zelmat

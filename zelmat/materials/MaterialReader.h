@@ -1,18 +1,18 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "interfaces/KORISpecObject.h"
 #include "zelmat/findings/Findings.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
-/// What the store holds for a material: every behavior reads its data from there again, as the writer of an
-/// analysis input would have it. One entry for each, switched on or not, in the order of CardBlocks().
-/// `file` and `name` say in findings which material it is about.
-std::vector<StoredBlock> ReadMaterial(KORISpecObject* material, const std::string& file,
-                                      const std::string& name, Findings& findings);
+/// What a document holds of a material: every behavior reads its data from there again, as the writer of an
+/// analysis input would have it. `feature` is a material of the platform or its analysis data. The answer has
+/// one block for each behavior, switched on or not, in the order of BlockKinds(); a block that cannot be read
+/// is a finding and as far as it was read. `file` and `name` are the material's, for findings.
+Material ReadMaterial(KORISpecObject* feature, const std::string& file, const std::string& name,
+                      Findings& findings);
 
 }  // namespace zelmat

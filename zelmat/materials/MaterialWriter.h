@@ -4,13 +4,16 @@
 
 #include "interfaces/KORISpecObject.h"
 #include "zelmat/findings/Findings.h"
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
-/// Writes data of a card into a material feature, through the material interface and its behaviors. What a
-/// behavior answers, a warning or a failure, becomes a finding; the blocks after it are written all the same.
-void WriteMaterial(KORISpecObject* material, const MaterialCard& card,
-                   const std::vector<const CardData*>& data, Findings& findings);
+/// Writes blocks into a material of a document, through the material interface and its behaviors; any
+/// number of them, in any order. `feature` is a material of the platform or its analysis data. The blocks are
+/// of `material`, or of its fits; from the material itself come the names for findings, and the heat
+/// generation if it says something of it. What a behavior answers, a warning or a failure, becomes a finding;
+/// the blocks after it are written all the same.
+void WriteBlocks(KORISpecObject* feature, const Material& material, const std::vector<const Block*>& blocks,
+                 Findings& findings);
 
 }  // namespace zelmat

@@ -10,7 +10,7 @@ namespace zelmat {
 namespace {
 
 struct Hardening {
-    const char* word;     ///< on the card
+    const char* word;     ///< in the block
     const char* keyword;  ///< in the store
 };
 
@@ -52,39 +52,37 @@ std::vector<std::string> PlasticAccess::HardeningWords() {
     return words;
 }
 
-std::vector<WriteStatus> PlasticAccess::Write(ZELIMaterial& material, const CardData& data) {
+std::vector<WriteStatus> PlasticAccess::Write(ZELIMaterial& material, const Block& block) {
     BehaviorAnswers answers;
     const auto plastic = HandOut(material, &ZELIMaterial::GetPlasticProperties);
     if (!plastic.IsObject()) return answers.NoBehavior();
 
     // The hardening type decides where the table goes and has to stand before it.
-    const CardTable& table = data.tables.front();
-    answers.ToValue(plastic->SetPlasticEnabled(1));
-    answers.ToValue(
-        SetHardening(*plastic.GetProxyObject(), KeywordOf(*data.values.Get<std::string>("hardening"))));
-    answers.ToValue(plastic->SetTemperatureDependent(table.temperatureDependent ? 1 : 0));
-    answers.ToTable(table, plastic->SetPlasticDataArray(ToPropertyTable(table.rows)));
+    answers.ToValue(plastic->SetPlasticEnabled(block.enabled ? 1 : 0));
+    if (const auto hardening = block.values.Get<std::string>("hardening")) {
+        answers.ToValue(SetHardening(*plastic.GetProxyObject(), KeywordOf(*hardening)));
+    }
+    for (const Table& table : block.tables) {
+        answers.ToValue(plastic->SetTemperatureDependent(table.temperatureDependent ? 1 : 0));
+        answers.ToTable(table, plastic->SetPlasticDataArray(ToPropertyTable(table)));
+    }
     return answers.All();
 }
 
-StoredBlock PlasticAccess::Read(ZELIMaterial& material, const CardBlock& block) {
-    StoredBlock stored{.block = &block};
+HRESULT PlasticAccess::Read(ZELIMaterial& material, Block& block) {
     const auto plastic = HandOut(material, &ZELIMaterial::GetPlasticProperties);
-    if (!plastic.IsObject()) {
-        stored.status = E_FAIL;
-        return stored;
-    }
-    stored.enabled = plastic->GetPlasticEnabled() != 0;
-    if (!stored.enabled) return stored;
+    if (!plastic.IsObject()) return E_FAIL;
+    block.enabled = plastic->GetPlasticEnabled() != 0;
+    if (!block.enabled) return S_OK;
 
     KORUnicodeString keyword;
-    stored.status = plastic->GetHardeningType(keyword);
-    if (SUCCEEDED(stored.status)) stored.status = plastic->GetPropertyTemperatureDependent();
-    if (FAILED(stored.status)) return stored;
-    stored.values.Set("hardening", WordOf(keyword.c_str()));
-    auto table = plastic->GetPlasticDataArray();
-    stored.AddTable(block.tables.front(), plastic->GetTemperatureDependent() != 0, FromPropertyTable(table));
-    return stored;
+    HRESULT status = plastic->GetHardeningType(keyword);
+    if (SUCCEEDED(status)) status = plastic->GetPropertyTemperatureDependent();
+    if (FAILED(status)) return status;
+    block.values.Set("hardening", WordOf(std::string(keyword.View())));
+    AddTable(block, block.kind->tables.front(), plastic->GetTemperatureDependent() != 0,
+             plastic->GetPlasticDataArray());
+    return S_OK;
 }
 
 }  // namespace zelmat

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 class ZELIMaterial;
 
 namespace zelmat {
 
-/// Plasticity: a hardening type, which the card has in words of its own, and the table that belongs to it.
+/// Plasticity: a hardening type, which the block has in words of its own, and the table that belongs to it.
 struct PlasticAccess {
-    static std::vector<std::string> HardeningWords();  ///< on the card: "isotropic", ...
+    static std::vector<std::string> HardeningWords();  ///< in the block: "isotropic", ...
 
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data);
-    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block);
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block);
+    static HRESULT Read(ZELIMaterial& material, Block& block);
 };
 
 }  // namespace zelmat

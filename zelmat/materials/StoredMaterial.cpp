@@ -10,25 +10,27 @@ namespace zelmat {
 
 namespace {
 
-using Given = std::vector<const CardData*>;
+using Given = std::vector<const Block*>;
 
-/// What the material holds once it was given these; empty when some of it could not be stored.
-std::vector<StoredBlock> WriteAndRead(KORISpecObject* material, const MaterialCard& card, const Given& given,
-                                      Findings& findings) {
-    WriteMaterial(material, card, given, findings);
-    if (findings.HasErrors()) return {};
-    auto stored = ReadMaterial(material, card.file, card.name, findings);
-    for (StoredBlock& block : stored) {
+/// What the document holds once it was given these; without blocks when some of it could not be stored.
+StoredMaterial WriteAndRead(KORISpecObject* feature, const Material& material, const Given& given,
+                            Findings& findings) {
+    StoredMaterial stored{.given = &material};
+    WriteBlocks(feature, material, given, findings);
+    if (findings.HasErrors()) return stored;
+    Material read = ReadMaterial(feature, material.file, material.name, findings);
+    stored.heatGeneration = read.heatGeneration;
+    for (Block& block : read.blocks) {
         const auto found = std::find_if(given.begin(), given.end(),
-                                        [&](const CardData* data) { return data->block == block.block; });
-        if (found != given.end()) block.given = *found;
+                                        [&](const Block* each) { return each->kind == block.kind; });
+        stored.blocks.push_back({std::move(block), found == given.end() ? nullptr : *found});
     }
     return stored;
 }
 
 /// Puts what was read of a further fit behind the ones before it.
-void AddFit(std::vector<StoredBlock>& blocks, std::vector<StoredBlock> read, const CardBlock* fit) {
-    const auto isFit = [fit](const StoredBlock& block) { return block.block == fit; };
+void AddFit(std::vector<StoredBlock>& blocks, std::vector<StoredBlock> read, const BlockKind* fit) {
+    const auto isFit = [fit](const StoredBlock& stored) { return stored.block.kind == fit; };
     const auto added = std::find_if(read.begin(), read.end(), isFit);
     const auto last = std::find_if(blocks.rbegin(), blocks.rend(), isFit);
     if (added != read.end()) blocks.insert(last.base(), std::move(*added));
@@ -38,35 +40,36 @@ void AddFit(std::vector<StoredBlock>& blocks, std::vector<StoredBlock> read, con
 
 std::vector<const StoredBlock*> StoredMaterial::SwitchedOn() const {
     std::vector<const StoredBlock*> on;
-    for (const StoredBlock& block : blocks) {
-        if (block.enabled) on.push_back(&block);
+    for (const StoredBlock& stored : blocks) {
+        if (stored.block.enabled) on.push_back(&stored);
     }
     return on;
 }
 
 std::vector<std::string> StoredMaterial::Names(bool switchedOn) const {
     std::vector<std::string> names;
-    for (const StoredBlock& block : blocks) {
-        const bool told = !names.empty() && names.back() == block.block->name;
-        if (block.enabled == switchedOn && !told) names.push_back(block.block->name);
+    for (const StoredBlock& stored : blocks) {
+        const std::string& name = stored.block.kind->name;
+        const bool told = !names.empty() && names.back() == name;
+        if (stored.block.enabled == switchedOn && !told) names.push_back(name);
     }
     return names;
 }
 
-StoredMaterial StoreMaterial(MaterialHost& host, const MaterialCard& card, const Given& fits,
+StoredMaterial StoreMaterial(MaterialHost& host, const Material& material, const Given& fits,
                              Findings& findings) {
-    StoredMaterial stored{.card = &card};
     const std::size_t before = host.FeatureCount();
-    const KORISpecObject_var material = host.NewMaterial(card, findings);
-    if (!material) return stored;
+    const KORISpecObject_var feature = host.NewMaterial(material, findings);
+    if (!feature) return {.given = &material};
 
     Given given;
-    for (const CardData& data : card.data) given.push_back(&data);
+    for (const Block& block : material.blocks) given.push_back(&block);
     if (!fits.empty()) given.push_back(fits.front());
-    stored.blocks = WriteAndRead(material.Get(), card, given, findings);
+    StoredMaterial stored = WriteAndRead(feature.Get(), material, given, findings);
     stored.features = host.FeatureCount() - before;
     for (std::size_t i = 1; i < fits.size(); ++i) {
-        AddFit(stored.blocks, WriteAndRead(material.Get(), card, {fits[i]}, findings), fits[i]->block);
+        auto next = WriteAndRead(feature.Get(), material, {fits[i]}, findings);
+        AddFit(stored.blocks, std::move(next.blocks), fits[i]->kind);
     }
     return stored;
 }

@@ -1,15 +1,23 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "zelmat/materials/MaterialHost.h"
 
 namespace zelmat {
 
-/// What a document holds of a card's material.
+/// What a document holds of one block, beside what was given for it.
+struct StoredBlock {
+    Block block;
+    const Block* given = nullptr;  ///< null when nothing was
+};
+
+/// What a document holds of a material, beside what was given.
 struct StoredMaterial {
-    const MaterialCard* card = nullptr;
-    /// One for each behavior, in the order of CardBlocks(); of the hyperelastic one as many as were asked
+    const Material* given = nullptr;
+    std::optional<bool> heatGeneration = std::nullopt;
+    /// One for each behavior, in the order of BlockKinds(); of the hyperelastic one as many as were asked
     /// for, each as it was stored in its turn. Empty when something could not be stored.
     std::vector<StoredBlock> blocks = {};
     std::size_t features = 0;  ///< that the material made in the document
@@ -18,10 +26,10 @@ struct StoredMaterial {
     std::vector<std::string> Names(bool switchedOn) const;  ///< of the behaviors that are on, or off
 };
 
-/// Makes a material of a card in the host's document, gives it the card's data and reads everything back from
-/// there. Between the two no reference is held, so that reading starts from the document alone. With several
-/// fits each takes the place of the one before and is read back in turn.
-StoredMaterial StoreMaterial(MaterialHost& host, const MaterialCard& card,
-                             const std::vector<const CardData*>& fits, Findings& findings);
+/// Makes a material in the host's document, gives it the data and reads everything back from there. Between
+/// the two no reference is held, so that reading starts from the document alone. With several fits each takes
+/// the place of the one before and is read back in turn.
+StoredMaterial StoreMaterial(MaterialHost& host, const Material& material,
+                             const std::vector<const Block*>& fits, Findings& findings);
 
 }  // namespace zelmat

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zelmat/materials/MaterialCard.h"
+#include "zelmat/materials/Material.h"
 
 class ZELIMaterial;
 
@@ -8,8 +8,8 @@ namespace zelmat {
 
 /// User material: what a routine of the analyst's own is given.
 struct UserMaterialAccess {
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const CardData& data);
-    static StoredBlock Read(ZELIMaterial& material, const CardBlock& block);
+    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block);
+    static HRESULT Read(ZELIMaterial& material, Block& block);
 };
 
 }  // namespace zelmat

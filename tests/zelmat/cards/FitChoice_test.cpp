@@ -7,7 +7,7 @@
 namespace {
 
 /// Two Mooney-Rivlin fits behind one of Neo-Hooke.
-zelmat::MaterialCard ThreeFits() {
+zelmat::Material ThreeFits() {
     auto card = CardOf(R"({"name": "Rubber", "hyperelastic":
 [{"model": "NEO_HOOKE", "order": 1, "temperature_dependent": false, "columns": ["C10"], "rows": [[195000]]},
  {"model": "MOONEY_RIVLIN", "order": 1, "temperature_dependent": false, "columns": ["C10", "C01"],
@@ -19,7 +19,7 @@ zelmat::MaterialCard ThreeFits() {
 }
 
 /// Which of the card's fits is chosen, from 0; -1 for none.
-long Chosen(const zelmat::MaterialCard& card, const zelmat::FitChoice& choice) {
+long Chosen(const zelmat::Material& card, const zelmat::FitChoice& choice) {
     zelmat::Findings findings;
     const auto* fit = zelmat::ChooseFit(card, choice, findings);
     EXPECT_EQ(fit == nullptr, findings.Exit() == zelmat::EXIT_USAGE);
@@ -60,7 +60,7 @@ TEST(FitChoice, TellsWhatTheCardHasWhenItHasNoSuchFit) {
 }
 
 TEST(FitChoice, IsAFindingForACardWithoutFitsOnlyWhenItIsMade) {
-    zelmat::MaterialCard card;
+    zelmat::Material card;
     card.file = "card.json";
     card.name = "Steel";
     zelmat::Findings findings;

@@ -123,17 +123,18 @@ TEST(ShowReport, SaysNothingAboutASingleFit) {
 }
 
 TEST(ShowReport, SaysWhenTheValuesAreMadeUp) {
-    zelmat::MaterialCard card;
+    zelmat::Material card;
     card.name = "Small";
     card.illustrative = true;
 
-    EXPECT_EQ(Printed({.card = &card}), "Small\nillustrative: the values are made up\n\n");
+    EXPECT_EQ(Printed({.given = &card}), "Small\nillustrative: the values are made up\n\n");
 }
 
 TEST(ShowReport, PrintsTheSameAsJson) {
     const StoredCard stored(kTwoFits);
     EXPECT_EQ(nlohmann::json(zelmat::ToJson(stored.material)), nlohmann::json::parse(R"json(
-           {"name": "Rubber", "description": "", "source": [], "illustrative": false,
+           {"name": "Rubber", "description": "", "class": "", "source": [], "notes": [], "illustrative": false,
+            "heat_generation": false,
             "switched_on": ["hyperelastic"],
             "switched_off": ["elastic", "plastic", "density", "thermal_expansion", "conductivity",
                 "specific_heat", "user_material", "gasket", "gasket_membrane", "gasket_transverse_shear"],
@@ -146,15 +147,15 @@ TEST(ShowReport, PrintsTheSameAsJson) {
                 "on_the_card": {"potential": {"value": "W = C10 (I1 - 3)"},
                     "rms_relative_deviation": {"value": 0.223}}}],
             "fits": ["NEO_HOOKE", "MOONEY_RIVLIN (uniaxial)"],
-            "for_information": {}})json"));
+            "for_information": {}, "kept": {}})json"));
 }
 
 TEST(ShowReport, LetsNoTextOfACardForgeALineOrReachTheTerminal) {
-    zelmat::MaterialCard card;
+    zelmat::Material card;
     card.name = "Steel\nswitched on: everything";
     card.description = "\x1b[2Jgone";
 
-    EXPECT_EQ(Printed({.card = &card}), "Steel\\nswitched on: everything\n\\x1b[2Jgone\n\n");
+    EXPECT_EQ(Printed({.given = &card}), "Steel\\nswitched on: everything\n\\x1b[2Jgone\n\n");
 }
 
 }  // namespace

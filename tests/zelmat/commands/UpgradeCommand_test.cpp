@@ -102,6 +102,14 @@ TEST_F(UpgradeCommand, LeavesTheDocumentAloneAndWritesTheUpgradedOneElsewhere) {
     EXPECT_EQ(features[6]["attributes"]["CoeffN"], 0.31);
 }
 
+TEST_F(UpgradeCommand, WritesTheDocumentToStandardOutputAndTheReportBesideIt) {
+    const ProgramRun run = Upgrade(kOlderCopper, {"--output", "-"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.out, testing::StartsWith("{"));
+    EXPECT_THAT(run.err, HasSubstr("\nwritten: -\n"));
+}
+
 TEST_F(UpgradeCommand, HasNothingToDoTheSecondTime) {
     ASSERT_EQ(Upgrade(kOlderCopper, {"--output", newer_}).exitCode, 0);
     const ProgramRun again = RunZelmat({"upgrade", newer_});

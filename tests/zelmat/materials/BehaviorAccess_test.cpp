@@ -4,6 +4,7 @@
 
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "framework/KORImplements.h"
+#include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/CatalogFolder.h"
 #include "zelmat/materials/MaterialHost.h"
 #include "zelmat/materials/MaterialReader.h"
@@ -57,17 +58,17 @@ public:
 TEST(BehaviorAccess, FailsForEveryBehaviorThatTheMaterialDoesNotHave) {
     const auto material = KORVar<EmptyMaterial>::Adopt(new EmptyMaterial);
     int behaviors = 0;
-    for (const auto& block : zelmat::CardBlocks()) {
-        if (block.use != zelmat::CardUse::BEHAVIOR) continue;
+    for (const auto& block : zelmat::BlockKinds()) {
+        if (block.use != zelmat::BlockUse::BEHAVIOR) continue;
         ++behaviors;
-        const auto answers = block.write(*material, {.block = &block});
+        const auto answers = block.write(*material, {.kind = &block});
         ASSERT_EQ(answers.size(), 1u) << block.name;
         EXPECT_EQ(answers[0].table, nullptr) << block.name;
         EXPECT_EQ(answers[0].status, E_FAIL) << block.name;
 
-        const auto stored = block.read(*material, block);
-        EXPECT_EQ(stored.status, E_FAIL) << block.name;
-        EXPECT_FALSE(stored.enabled) << block.name;
+        zelmat::Block read{.kind = &block, .enabled = false};
+        EXPECT_EQ(block.read(*material, read), E_FAIL) << block.name;
+        EXPECT_FALSE(read.enabled) << block.name;
     }
     EXPECT_EQ(behaviors, 11);
 }
@@ -76,17 +77,15 @@ TEST(BehaviorAccess, FailsForEveryBehaviorThatTheMaterialDoesNotHave) {
 class ForeignData : public testing::Test {
 protected:
     ForeignData() {
-        zelmat::MaterialCard card;
+        zelmat::Material card;
         card.name = "x";
         material_ = host_.NewMaterial(card, findings_);
         behaviors_ = ZELIMaterial_var::Of(material_.Get());
     }
 
-    zelmat::StoredBlock Read(const char* block) {
-        for (auto& stored : zelmat::ReadMaterial(material_.Get(), "card.json", "x", findings_)) {
-            if (stored.block->name == block) return stored;
-        }
-        return {};
+    zelmat::Block Read(const char* block) {
+        const auto read = zelmat::ReadMaterial(material_.Get(), "card.json", "x", findings_);
+        return *read.Find(block);
     }
 
     std::vector<std::string> Lines() const {
@@ -111,7 +110,7 @@ TEST_F(ForeignData, WithAHardeningOfItsOwnIsShownByItsKeyword) {
     EXPECT_THAT(Lines(), IsEmpty());
     EXPECT_TRUE(stored.enabled);
     EXPECT_EQ(stored.values.Get<std::string>("hardening"), "MixedHardening");
-    EXPECT_THAT(stored.tables.at(0).rows, IsEmpty());
+    EXPECT_THAT(Rows(stored.tables.at(0)), IsEmpty());
 }
 
 TEST_F(ForeignData, WithoutAHyperelasticModelCannotBeReadBack) {

@@ -19,7 +19,7 @@ TEST(BrokenRules, NameAFirstPlasticStrainOtherThanZeroAndTheDataAreStored) {
     EXPECT_THAT(stored.findings,
                 ElementsAre("card.json:4: warning[first-plastic-strain]: row 1 of plastic: plastic strain is "
                             "0.002 (has to be 0, the table was stored all the same)"));
-    EXPECT_THAT(stored.Block("plastic").tables.at(0).rows,
+    EXPECT_THAT(Rows(stored.Block("plastic").tables.at(0)),
                 ElementsAre(ElementsAre(235e6, 0.002, 293.15), ElementsAre(341e6, 0.05, 293.15)));
 }
 
@@ -39,7 +39,7 @@ TEST(BrokenRules, NameALoadingCurveThatDoesNotStartAtTheOrigin) {
                     "Pa (has to be 0, the table was stored all the same)",
                     "card.json:3: warning[first-closure]: row 1 of gasket.loading: closure is 1e-06 m "
                     "(has to be 0, the table was stored all the same)"));
-    EXPECT_THAT(stored.Block("gasket").tables.at(0).rows,
+    EXPECT_THAT(Rows(stored.Block("gasket").tables.at(0)),
                 ElementsAre(ElementsAre(1000.0, 1e-6, 293.15), ElementsAre(2e6, 4e-5, 293.15),
                             ElementsAre(5e6, 8e-5, 293.15)));
 }
@@ -49,7 +49,7 @@ TEST(BrokenRules, NameALoadingCurveOfTooFewRows) {
     EXPECT_THAT(two.findings,
                 ElementsAre("card.json:2: warning[too-few-rows]: gasket.loading has 2 rows (has to have 3 or "
                             "more, the table was stored all the same)"));
-    EXPECT_THAT(two.Block("gasket").tables.at(0).rows,
+    EXPECT_THAT(Rows(two.Block("gasket").tables.at(0)),
                 ElementsAre(ElementsAre(0.0, 0.0, 293.15), ElementsAre(2e6, 4e-5, 293.15)));
 
     const StoredCard one(Gasket("[0, 0, 293.15]"));
@@ -76,7 +76,7 @@ TEST(BrokenRules, NameEveryPoissonsRatioOfAMembraneOutOfBounds) {
                             "is 0.5 (has to be above -1 and below 0.5, the table was stored all the same)",
                             "card.json:5: warning[poissons-ratio]: row 3 of gasket_membrane: Poisson's ratio "
                             "is -1 (has to be above -1 and below 0.5, the table was stored all the same)"));
-    EXPECT_THAT(stored.Block("gasket_membrane").tables.at(0).rows,
+    EXPECT_THAT(Rows(stored.Block("gasket_membrane").tables.at(0)),
                 ElementsAre(ElementsAre(2e9, 0.49, 293.15), ElementsAre(2e9, 0.5, 293.15),
                             ElementsAre(2e9, -1.0, 293.15)));
 }

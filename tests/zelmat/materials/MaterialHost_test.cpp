@@ -82,7 +82,7 @@ TEST(MaterialHost, ReportsAnAttributeThatTheMaterialLacks) {
 }
 
 TEST(MaterialHost, HangsTheFactorysDataOnAMaterialOfThePlatform) {
-    zelmat::MaterialCard card;
+    zelmat::Material card;
     card.name = "S235";
     zelmat::Findings findings;
     zelmat::MaterialHost host(CatalogFolderOfTheModule());

@@ -23,10 +23,10 @@ TEST(MaterialPasses, WriteToTheStoreAndReadFromItAgain) {
     EXPECT_THAT(stored.material.Names(true), ElementsAre("density", "thermal_expansion"));
     const auto& density = stored.Block("density").tables.at(0);
     EXPECT_TRUE(density.temperatureDependent);
-    EXPECT_THAT(density.rows, ElementsAre(ElementsAre(7850.0, 293.15), ElementsAre(7700.0, 773.15)));
+    EXPECT_THAT(Rows(density), ElementsAre(ElementsAre(7850.0, 293.15), ElementsAre(7700.0, 773.15)));
     const auto& expansion = stored.Block("thermal_expansion");
     EXPECT_FALSE(expansion.tables.at(0).temperatureDependent);
-    EXPECT_THAT(expansion.tables.at(0).rows, ElementsAre(ElementsAre(1.2e-5)));
+    EXPECT_THAT(Rows(expansion.tables.at(0)), ElementsAre(ElementsAre(1.2e-5)));
     EXPECT_EQ(expansion.values.Get<double>("reference_temperature"), 300.0);
 }
 
@@ -40,7 +40,7 @@ TEST(MaterialPasses, StoreBothHardeningCurves) {
         const auto& plastic = stored.Block("plastic");
         EXPECT_TRUE(plastic.enabled);
         EXPECT_EQ(plastic.values.Get<std::string>("hardening"), hardening);
-        EXPECT_THAT(plastic.tables.at(0).rows,
+        EXPECT_THAT(Rows(plastic.tables.at(0)),
                     ElementsAre(ElementsAre(235e6, 0.0, 293.15), ElementsAre(341e6, 0.05, 293.15)));
     }
 }
@@ -53,7 +53,7 @@ TEST(MaterialPasses, StoreJohnsonCook) {
 
     EXPECT_THAT(stored.findings, IsEmpty());
     EXPECT_EQ(stored.Block("plastic").values.Get<std::string>("hardening"), "johnson-cook");
-    EXPECT_THAT(stored.Block("plastic").tables.at(0).rows,
+    EXPECT_THAT(Rows(stored.Block("plastic").tables.at(0)),
                 ElementsAre(ElementsAre(9e7, 2.92e8, 0.31, 1.09, 1356.0, 298.0)));
 }
 
@@ -68,7 +68,7 @@ TEST(MaterialPasses, StoreAHyperelasticModelWithItsOrder) {
     EXPECT_EQ(hyperelastic.values.Get<std::string>("model"), "REDUCED_POLYNOMIAL");
     EXPECT_EQ(hyperelastic.values.Get<int>("order"), 2);
     EXPECT_TRUE(hyperelastic.tables.at(0).temperatureDependent);
-    EXPECT_THAT(hyperelastic.tables.at(0).rows,
+    EXPECT_THAT(Rows(hyperelastic.tables.at(0)),
                 ElementsAre(ElementsAre(197800.0, -3114.0, 1e-9, 2e-9, 293.15),
                             ElementsAre(180000.0, -3000.0, 1e-9, 2e-9, 353.15)));
 }
@@ -90,11 +90,11 @@ TEST(MaterialPasses, StoreEveryFitInTurn) {
     EXPECT_THAT(stored.Names(true), ElementsAre("hyperelastic"));
     const auto on = stored.SwitchedOn();
     ASSERT_EQ(on.size(), 3u);
-    EXPECT_THAT(on[0]->tables.at(0).rows, ElementsAre(ElementsAre(195000.0, 0.0)));
-    EXPECT_EQ(on[1]->values.Get<std::string>("model"), "ARRUDA_BOYCE");
-    EXPECT_THAT(on[1]->tables.at(0).rows, ElementsAre(ElementsAre(270000.0, 5.14782, 0.0)));
+    EXPECT_THAT(Rows(on[0]->block.tables.at(0)), ElementsAre(ElementsAre(195000.0, 0.0)));
+    EXPECT_EQ(on[1]->block.values.Get<std::string>("model"), "ARRUDA_BOYCE");
+    EXPECT_THAT(Rows(on[1]->block.tables.at(0)), ElementsAre(ElementsAre(270000.0, 5.14782, 0.0)));
     EXPECT_EQ(on[1]->given, &card.fits[1]);
-    EXPECT_EQ(on[2]->values.Get<std::string>("model"), "YEOH");
+    EXPECT_EQ(on[2]->block.values.Get<std::string>("model"), "YEOH");
 }
 
 TEST(MaterialPasses, StoreAUserMaterial) {
@@ -107,7 +107,7 @@ TEST(MaterialPasses, StoreAUserMaterial) {
     EXPECT_EQ(user.values.Get<std::string>("type"), "MECHANICAL");
     EXPECT_EQ(user.values.Get<bool>("unsymmetric"), true);
     EXPECT_EQ(user.values.Get<int>("state_variables"), 13);
-    EXPECT_THAT(user.tables.at(0).rows,
+    EXPECT_THAT(Rows(user.tables.at(0)),
                 ElementsAre(ElementsAre(210e9), ElementsAre(0.3), ElementsAre(250e6)));
 }
 
@@ -133,11 +133,11 @@ TEST(MaterialPasses, StoreAGasketWithAllItsSettings) {
     ASSERT_EQ(gasket.tables.size(), 2u);
     EXPECT_EQ(gasket.tables[0].kind->name, "loading");
     EXPECT_TRUE(gasket.tables[0].temperatureDependent);
-    EXPECT_THAT(gasket.tables[0].rows,
+    EXPECT_THAT(Rows(gasket.tables[0]),
                 ElementsAre(ElementsAre(0.0, 0.0, 293.15), ElementsAre(2e6, 4e-5, 293.15),
                             ElementsAre(5e6, 8e-5, 293.15)));
     EXPECT_EQ(gasket.tables[1].kind->name, "unloading_damage");
-    EXPECT_THAT(gasket.tables[1].rows,
+    EXPECT_THAT(Rows(gasket.tables[1]),
                 ElementsAre(ElementsAre(0.0, 0.0, 8e-5, 293.15), ElementsAre(5e6, 8e-5, 8e-5, 293.15)));
 }
 
@@ -169,11 +169,11 @@ TEST(MaterialPasses, StoreTheElasticBehaviorsOfAGasket) {
     EXPECT_THAT(stored.material.Names(true), ElementsAre("gasket_membrane", "gasket_transverse_shear"));
     const auto& membrane = stored.Block("gasket_membrane").tables.at(0);
     EXPECT_TRUE(membrane.temperatureDependent);
-    EXPECT_THAT(membrane.rows,
+    EXPECT_THAT(Rows(membrane),
                 ElementsAre(ElementsAre(2e9, 0.49, 293.15), ElementsAre(1.5e9, -0.99, 373.15)));
     const auto& shear = stored.Block("gasket_transverse_shear").tables.at(0);
     EXPECT_FALSE(shear.temperatureDependent);
-    EXPECT_THAT(shear.rows, ElementsAre(ElementsAre(4e11, 293.15)));
+    EXPECT_THAT(Rows(shear), ElementsAre(ElementsAre(4e11, 293.15)));
 }
 
 TEST(MaterialPasses, SwitchNothingOnThatTheCardLeavesOut) {
@@ -197,7 +197,7 @@ TEST(MaterialPasses, HoldNoReferenceOnTheMaterialAfterwards) {
     const KORBaseUnknown_var object = material;
     const int before = object->References();
 
-    zelmat::WriteMaterial(material.Get(), card, {&card.data[0]}, findings);
+    zelmat::WriteBlocks(material.Get(), card, {&card.blocks[0]}, findings);
     EXPECT_EQ(object->References(), before);
 
     zelmat::ReadMaterial(material.Get(), card.file, card.name, findings);
@@ -205,13 +205,13 @@ TEST(MaterialPasses, HoldNoReferenceOnTheMaterialAfterwards) {
 }
 
 TEST(MaterialPasses, ReportAFeatureThatIsNoMaterial) {
-    zelmat::MaterialCard card;
+    zelmat::Material card;
     card.file = "card.json";
     card.name = "x";
     zelmat::Findings findings;
 
-    zelmat::WriteMaterial(nullptr, card, {}, findings);
-    EXPECT_THAT(zelmat::ReadMaterial(nullptr, card.file, card.name, findings), IsEmpty());
+    zelmat::WriteBlocks(nullptr, card, {}, findings);
+    EXPECT_THAT(zelmat::ReadMaterial(nullptr, card.file, card.name, findings).blocks, IsEmpty());
 
     ASSERT_EQ(findings.All().size(), 2u);
     EXPECT_EQ(zelmat::FindingLine(findings.All()[0]),
@@ -270,6 +270,34 @@ TEST(MaterialPasses, ReportAHyperelasticModelThatIsNotThere) {
 "rows": [[195000]]}]})"),
         testing::HasSubstr("card.json:3: error[not-written]: hyperelastic could not be written (status "
                            "0x80004005)\n"));
+}
+
+TEST(MaterialPasses, StoreTheHeatGenerationOfTheMaterial) {
+    EXPECT_EQ(StoredCard(R"({"name": "x", "heat_generation": true})").material.heatGeneration, true);
+    EXPECT_EQ(StoredCard(R"({"name": "x"})").material.heatGeneration, false);
+}
+
+TEST(MaterialPasses, WriteSingleBlocksAndSwitchOneOffWithoutLosingItsData) {
+    const auto card = CardOf(R"({"name": "x",
+        "density": {"temperature_dependent": false, "columns": ["density"], "rows": [[7850]]},
+        "conductivity": {"temperature_dependent": false, "columns": ["conductivity"], "rows": [[45]]}})");
+    zelmat::Findings findings;
+    zelmat::MaterialHost host(CatalogFolderOfTheModule());
+    const auto feature = host.NewMaterial(card, findings);
+    zelmat::WriteBlocks(feature.Get(), card, {card.Find("density"), card.Find("conductivity")}, findings);
+
+    const zelmat::Block off{.kind = zelmat::FindBlockKind("density"), .enabled = false};
+    zelmat::WriteBlocks(feature.Get(), card, {&off}, findings);
+    const auto without = zelmat::ReadMaterial(feature.Get(), "doc", "x", findings);
+    EXPECT_FALSE(without.Find("density")->enabled);
+    EXPECT_THAT(without.Find("density")->tables, IsEmpty());
+    EXPECT_THAT(Rows(without.Find("conductivity")->tables.at(0)), ElementsAre(ElementsAre(45.0)));
+
+    const zelmat::Block on{.kind = off.kind};
+    zelmat::WriteBlocks(feature.Get(), card, {&on}, findings);
+    const auto with = zelmat::ReadMaterial(feature.Get(), "doc", "x", findings);
+    EXPECT_THAT(Rows(with.Find("density")->tables.at(0)), ElementsAre(ElementsAre(7850.0)));
+    EXPECT_THAT(findings.All(), IsEmpty());
 }
 
 }  // namespace

@@ -27,34 +27,40 @@ std::string CardFile::Shorten(std::string line) const {
 std::vector<std::string> FindingsOf(const std::string& text) {
     const CardFile file(text);
     zelmat::Findings findings;
-    const auto card = zelmat::MaterialCardReader(findings).Read(file.Path());
-    EXPECT_EQ(card.has_value(), findings.All().empty());
+    const auto card = zelmat::JsonCardReader(findings).Read(file.Path());
+    EXPECT_EQ(card.has_value(), !findings.HasErrors());
     std::vector<std::string> lines;
     for (const auto& finding : findings.All()) lines.push_back(file.Shorten(zelmat::FindingLine(finding)));
     return lines;
 }
 
-zelmat::MaterialCard CardOf(const std::string& text) {
+zelmat::Material CardOf(const std::string& text) {
     const CardFile file(text);
     zelmat::Findings findings;
-    const auto card = zelmat::MaterialCardReader(findings).Read(file.Path());
+    const auto card = zelmat::JsonCardReader(findings).Read(file.Path());
     for (const auto& finding : findings.All()) ADD_FAILURE() << zelmat::FindingLine(finding);
-    return card.value_or(zelmat::MaterialCard());
+    return card.value_or(zelmat::Material());
+}
+
+std::vector<std::vector<double>> Rows(const zelmat::Table& table) {
+    std::vector<std::vector<double>> rows;
+    for (std::size_t row = 0; row < table.Rows(); ++row) rows.push_back(table.Row(row));
+    return rows;
 }
 
 StoredCard::StoredCard(const std::string& text) : card(CardOf(text)) {
     card.file = "card.json";
     zelmat::Findings found;
     zelmat::MaterialHost host(CatalogFolderOfTheModule());
-    std::vector<const zelmat::CardData*> fits;
+    std::vector<const zelmat::Block*> fits;
     if (!card.fits.empty()) fits.push_back(&card.fits.front());
     material = zelmat::StoreMaterial(host, card, fits, found);
     for (const auto& finding : found.All()) findings.push_back(zelmat::FindingLine(finding));
 }
 
-const zelmat::StoredBlock& StoredCard::Block(const std::string& name) const {
-    for (const auto& block : material.blocks) {
-        if (block.block->name == name) return block;
+const zelmat::Block& StoredCard::Block(const std::string& name) const {
+    for (const auto& stored : material.blocks) {
+        if (stored.block.kind->name == name) return stored.block;
     }
     throw std::out_of_range(name + " was not stored");
 }

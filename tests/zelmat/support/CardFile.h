@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "zelmat/cards/MaterialCardReader.h"
+#include "zelmat/cards/JsonCardReader.h"
 #include "zelmat/materials/StoredMaterial.h"
 
 /// A card written to a file of its own for as long as a test needs it.
@@ -31,12 +31,15 @@ std::vector<std::string> FindingsOf(const std::string& text);
 struct StoredCard {
     explicit StoredCard(const std::string& text);
 
-    const zelmat::StoredBlock& Block(const std::string& name) const;
+    const zelmat::Block& Block(const std::string& name) const;
 
-    zelmat::MaterialCard card;
+    zelmat::Material card;
     std::vector<std::string> findings;  ///< one line each, of the file card.json
     zelmat::StoredMaterial material;
 };
 
+/// The numbers of a table row by row.
+std::vector<std::vector<double>> Rows(const zelmat::Table& table);
+
 /// What reading a card without mistakes gives.
-zelmat::MaterialCard CardOf(const std::string& text);
+zelmat::Material CardOf(const std::string& text);

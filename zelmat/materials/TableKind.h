@@ -6,17 +6,22 @@
 
 namespace zelmat {
 
-class CardValues;
+class Values;
 
-/// A quantity of a table, as the card and the report name it.
-struct CardColumn {
-    std::string name;   ///< on the card: "youngs_modulus"
-    std::string title;  ///< in the report: "Young's modulus"
-    std::string
-        unit;  ///< SI, of the card and of the store; "-" for pure numbers, empty when it has none here
-    /// What the store gets when the card leaves the column out; without it the column is required.
+/// What the numbers of a column are.
+struct ColumnKind {
+    std::string name;   ///< "youngs_modulus"
+    std::string title;  ///< for a reader: "Young's modulus"
+    std::string unit;   ///< SI, as stored; "-" for pure numbers, empty when it has none of its own
+    /// What the store gets when the column is left out; without it the column is required.
     std::optional<double> whenAbsent = std::nullopt;
 };
+
+/// The column whose numbers a list attribute holds: title and unit as the catalog has them.
+ColumnKind StoredColumn(const char* name, const char* lateType, const char* attribute);
+
+/// The column that closes every table with temperatures.
+const ColumnKind& TemperatureColumn();
 
 /// Whether a table carries a temperature column, which then is its last one.
 enum class TemperatureRule {
@@ -26,23 +31,20 @@ enum class TemperatureRule {
 };
 
 /// The shape that the rows of a table have.
-struct CardTableForm {
-    std::vector<CardColumn> columns;
+struct TableForm {
+    std::vector<ColumnKind> columns;
     TemperatureRule temperature = TemperatureRule::AS_FLAGGED;
     std::string with = {};   ///< what selected the form, for messages: "isotropic hardening"; may be empty
     bool singleRow = false;  ///< the store has room for one row only
 
     /// The columns of a table of this form, the temperature column included.
-    std::vector<CardColumn> ColumnsOf(bool temperatureDependent) const;
+    std::vector<ColumnKind> ColumnsOf(bool temperatureDependent) const;
 };
 
-/// The column that closes every table with temperatures.
-const CardColumn& TemperatureColumn();
-
 /// A bound that a behavior holds a column against when it is given a table.
-struct CardRule {
+struct TableRule {
     std::string code;      ///< of the finding: "poissons-ratio"
-    std::string column;    ///< by its name on the card
+    std::string column;    ///< by its name
     bool everyRow = true;  ///< false: the first row only
     bool (*broken)(double value) = nullptr;
     std::string bound;  ///< "has to be above 0"
@@ -55,15 +57,15 @@ enum class BrokenRule {
 };
 
 /// All that tells one table of a block from the next.
-struct CardTableKind {
-    std::string name = {};   ///< key inside the block; empty when the block itself is the table
-    std::string title = {};  ///< in the report, after the block's own; empty for the block's only table
+struct TableKind {
+    std::string name = {};   ///< inside the block; empty for the block's only table
+    std::string title = {};  ///< for a reader, after the block's own; empty for the block's only table
     /// Nothing when the block's values do not say which form it is.
-    std::optional<CardTableForm> (*form)(const CardValues& values) = nullptr;
+    std::optional<TableForm> (*form)(const Values& values) = nullptr;
     bool required = true;
-    bool flagged = true;  ///< has the key `temperature_dependent`
+    bool flagged = true;  ///< says whether it is temperature dependent
     bool list = false;    ///< is a plain list of numbers; each is a row of one column
-    std::vector<CardRule> rules = {};
+    std::vector<TableRule> rules = {};
     int leastRows = 1;  ///< a shorter table breaks a rule, too
     BrokenRule whenBroken = BrokenRule::STORED;
 };

@@ -1,4 +1,4 @@
-#include "zelmat/cards/MaterialCardReader.h"
+#include "zelmat/cards/JsonCardReader.h"
 
 #include <gmock/gmock.h>
 
@@ -9,7 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-TEST(MaterialCardReader, ReadsEveryTableOfACard) {
+TEST(JsonCardReader, ReadsEveryTableOfACard) {
     const auto card = CardOf(R"json({
         "name": "S235", "description": "Plain steel.", "source": ["EN 1993-1-1:2005", "EN 10025-2"],
         "units": {"stress": "Pa", "length": "m", "temperature": "K", "density": "kg/m3",
@@ -27,76 +27,77 @@ TEST(MaterialCardReader, ReadsEveryTableOfACard) {
     EXPECT_THAT(card.fits, IsEmpty());
     EXPECT_THAT(card.information, IsEmpty());
 
-    ASSERT_EQ(card.data.size(), 2u);
-    EXPECT_EQ(card.data[0].block->name, "elastic");
-    EXPECT_EQ(card.data[0].line, 5);
-    const zelmat::CardTable& elastic = card.data[0].tables.front();
+    ASSERT_EQ(card.blocks.size(), 2u);
+    EXPECT_EQ(card.blocks[0].kind->name, "elastic");
+    EXPECT_EQ(card.blocks[0].origin.Line(), 5);
+    const zelmat::Table& elastic = card.blocks[0].tables.front();
     EXPECT_TRUE(elastic.temperatureDependent);
-    EXPECT_THAT(elastic.rows, ElementsAre(ElementsAre(210e9, 0.3, 293.15), ElementsAre(189e9, 0.3, 473.15)));
+    EXPECT_THAT(Rows(elastic), ElementsAre(ElementsAre(210e9, 0.3, 293.15), ElementsAre(189e9, 0.3, 473.15)));
     EXPECT_EQ(elastic.source, "3.2.6");
-    EXPECT_EQ(elastic.line, 6);
-    EXPECT_THAT(elastic.lines, ElementsAre(6, 7));
+    EXPECT_EQ(elastic.origin.Line(), 6);
+    EXPECT_EQ(elastic.origin.Line(0), 6);
+    EXPECT_EQ(elastic.origin.Line(1), 7);
 
-    EXPECT_EQ(card.data[1].block->name, "density");
-    const zelmat::CardTable& density = card.data[1].tables.front();
+    EXPECT_EQ(card.blocks[1].kind->name, "density");
+    const zelmat::Table& density = card.blocks[1].tables.front();
     EXPECT_FALSE(density.temperatureDependent);
-    EXPECT_THAT(density.rows, ElementsAre(ElementsAre(7850.0)));
+    EXPECT_THAT(Rows(density), ElementsAre(ElementsAre(7850.0)));
 }
 
-TEST(MaterialCardReader, GoesByTheNamesOfTheColumnsNotTheirOrder) {
+TEST(JsonCardReader, GoesByTheNamesOfTheColumnsNotTheirOrder) {
     const auto card = CardOf(R"({"name": "x", "elastic": {"temperature_dependent": true,
         "columns": ["temperature", "poissons_ratio", "youngs_modulus"], "rows": [[293.15, 0.3, 210e9]]}})");
 
-    ASSERT_EQ(card.data.size(), 1u);
-    EXPECT_THAT(card.data[0].tables[0].rows, ElementsAre(ElementsAre(210e9, 0.3, 293.15)));
+    ASSERT_EQ(card.blocks.size(), 1u);
+    EXPECT_THAT(Rows(card.blocks[0].tables[0]), ElementsAre(ElementsAre(210e9, 0.3, 293.15)));
 }
 
-TEST(MaterialCardReader, ReadsTheReferenceTemperatureOfThermalExpansion) {
+TEST(JsonCardReader, ReadsTheReferenceTemperatureOfThermalExpansion) {
     const auto card = CardOf(R"({"name": "x", "thermal_expansion": {"temperature_dependent": false,
         "columns": ["thermal_expansion"], "rows": [[1.2e-5]], "reference_temperature": 293.15, "kind": "mean"}})");
 
-    ASSERT_EQ(card.data.size(), 1u);
-    EXPECT_EQ(card.data[0].values.Get<double>("reference_temperature"), 293.15);
-    EXPECT_EQ(card.data[0].values.Get<std::string>("kind"), "mean");
+    ASSERT_EQ(card.blocks.size(), 1u);
+    EXPECT_EQ(card.blocks[0].values.Get<double>("reference_temperature"), 293.15);
+    EXPECT_EQ(card.blocks[0].values.Get<std::string>("kind"), "mean");
 }
 
-TEST(MaterialCardReader, TakesASingleTextAsTheSource) {
+TEST(JsonCardReader, TakesASingleTextAsTheSource) {
     EXPECT_THAT(CardOf(R"({"name": "x", "source": "Handbook"})").sources, ElementsAre("Handbook"));
 }
 
-TEST(MaterialCardReader, KeepsWhatNoBehaviorUsesApart) {
+TEST(JsonCardReader, KeepsWhatNoBehaviorUsesApart) {
     const auto card = CardOf(R"({"name": "x", "illustrative": true, "strength": {"f_ck": 3e7},
         "test_data": {"note": "room temperature",
             "uniaxial": {"columns": ["nominal_stress", "stretch"], "rows": [[25500, 1.02], [134400, 1.125]]}}})");
 
     EXPECT_TRUE(card.illustrative);
-    EXPECT_THAT(card.data, IsEmpty());
+    EXPECT_THAT(card.blocks, IsEmpty());
     ASSERT_EQ(card.information.size(), 2u);
-    EXPECT_EQ(card.information[0].block->name, "test_data");
+    EXPECT_EQ(card.information[0].kind->name, "test_data");
     ASSERT_EQ(card.information[0].tables.size(), 1u);
     EXPECT_EQ(card.information[0].tables[0].kind->name, "uniaxial");
-    EXPECT_THAT(card.information[0].tables[0].rows,
+    EXPECT_THAT(Rows(card.information[0].tables[0]),
                 ElementsAre(ElementsAre(1.02, 25500.0), ElementsAre(1.125, 134400.0)));
-    EXPECT_EQ(card.information[1].block->name, "strength");
+    EXPECT_EQ(card.information[1].kind->name, "strength");
 }
 
-TEST(MaterialCardReader, KeepsTheHyperelasticFitsInTheirOrder) {
+TEST(JsonCardReader, KeepsTheHyperelasticFitsInTheirOrder) {
     const auto card = CardOf(R"({"name": "x", "hyperelastic": [
         {"model": "NEO_HOOKE", "order": 1, "temperature_dependent": false, "columns": ["C10"], "rows": [[195000]]},
         {"model": "OGDEN", "order": 2, "temperature_dependent": true, "variant": "cold",
          "columns": ["temperature", "alpha_1", "mu_1", "mu_2", "alpha_2", "D2"],
          "rows": [[293.15, 1.3, 630000, 1200, 5, 2e-9]]}]})");
 
-    EXPECT_THAT(card.data, IsEmpty());
+    EXPECT_THAT(card.blocks, IsEmpty());
     ASSERT_EQ(card.fits.size(), 2u);
     EXPECT_EQ(card.fits[0].values.Get<std::string>("model"), "NEO_HOOKE");
-    EXPECT_THAT(card.fits[0].tables[0].rows, ElementsAre(ElementsAre(195000.0, 0.0)));
+    EXPECT_THAT(Rows(card.fits[0].tables[0]), ElementsAre(ElementsAre(195000.0, 0.0)));
     EXPECT_EQ(card.fits[1].values.Get<int>("order"), 2);
-    EXPECT_THAT(card.fits[1].tables[0].rows,
+    EXPECT_THAT(Rows(card.fits[1].tables[0]),
                 ElementsAre(ElementsAre(630000.0, 1.3, 1200.0, 5.0, 0.0, 2e-9, 293.15)));
 }
 
-TEST(MaterialCardReader, WantsATemperatureInEveryPlasticCurve) {
+TEST(JsonCardReader, WantsATemperatureInEveryPlasticCurve) {
     EXPECT_THAT(
         FindingsOf(R"({"name": "x", "plastic": {"temperature_dependent": false, "hardening": "kinematic",
         "columns": ["yield_stress", "plastic_strain", "temperature"], "rows": [[235e6, 0, 293.15]]}})"),
@@ -108,9 +109,9 @@ TEST(MaterialCardReader, WantsATemperatureInEveryPlasticCurve) {
                     "temperature column (expected yield_stress, plastic_strain, temperature)"));
 }
 
-TEST(MaterialCardReader, RefusesAFileThatIsNotThere) {
+TEST(JsonCardReader, RefusesAFileThatIsNotThere) {
     zelmat::Findings findings;
-    EXPECT_FALSE(zelmat::MaterialCardReader(findings).Read("no/such/card.json"));
+    EXPECT_FALSE(zelmat::JsonCardReader(findings).Read("no/such/card.json"));
 
     ASSERT_EQ(findings.All().size(), 1u);
     EXPECT_EQ(zelmat::FindingLine(findings.All()[0]),
@@ -118,16 +119,16 @@ TEST(MaterialCardReader, RefusesAFileThatIsNotThere) {
     EXPECT_EQ(findings.Exit(), 3);
 }
 
-TEST(MaterialCardReader, RefusesAFolder) {
+TEST(JsonCardReader, RefusesAFolder) {
     zelmat::Findings findings;
-    EXPECT_FALSE(zelmat::MaterialCardReader(findings).Read("/"));
+    EXPECT_FALSE(zelmat::JsonCardReader(findings).Read("/"));
 
     ASSERT_EQ(findings.All().size(), 1u);
     EXPECT_EQ(zelmat::FindingLine(findings.All()[0]), "/: error[unreadable]: cannot be read: Is a directory");
     EXPECT_EQ(findings.Exit(), 3);
 }
 
-TEST(MaterialCardReader, NamesTheLineAndColumnOfBrokenJson) {
+TEST(JsonCardReader, NamesTheLineAndColumnOfBrokenJson) {
     EXPECT_THAT(FindingsOf("{\n  \"name\": \"x\",\n  \"density\": {,}\n}\n"),
                 ElementsAre(testing::StartsWith("card.json:3: error[broken-json]: syntax error")));
     EXPECT_THAT(FindingsOf("{\n  \"name\": \"x\",\n  \"density\": {,}\n}\n"),
@@ -135,7 +136,7 @@ TEST(MaterialCardReader, NamesTheLineAndColumnOfBrokenJson) {
     EXPECT_THAT(FindingsOf(""), ElementsAre(testing::StartsWith("card.json:1: error[broken-json]: ")));
 }
 
-TEST(MaterialCardReader, RefusesNaNAndInfinityAsBareWords) {
+TEST(JsonCardReader, RefusesNaNAndInfinityAsBareWords) {
     for (const char* word : {"NaN", "Infinity", "-Infinity", "nan"}) {
         const std::string text = std::string(R"({"name": "x", "density": {"temperature_dependent": false,
 "columns": ["density"],
@@ -145,31 +146,31 @@ TEST(MaterialCardReader, RefusesNaNAndInfinityAsBareWords) {
     }
 }
 
-TEST(MaterialCardReader, RefusesANumberTooLargeForADouble) {
+TEST(JsonCardReader, RefusesANumberTooLargeForADouble) {
     EXPECT_THAT(FindingsOf("{\"name\": \"x\",\n\"density\": 1e999}"),
                 ElementsAre(testing::StartsWith("card.json:2: error[broken-json]: ")));
 }
 
-TEST(MaterialCardReader, RefusesAKeyGivenTwice) {
+TEST(JsonCardReader, RefusesAKeyGivenTwice) {
     EXPECT_THAT(
         FindingsOf("{\"name\": \"x\",\n\"name\": \"y\"}"),
         ElementsAre(testing::StartsWith("card.json:2: error[broken-json]: the key \"name\" is given twice")));
 }
 
-TEST(MaterialCardReader, RefusesACardThatIsNoObject) {
+TEST(JsonCardReader, RefusesACardThatIsNoObject) {
     EXPECT_THAT(
         FindingsOf("[1, 2]"),
         ElementsAre("card.json:1: error[wrong-type]: the card is not an object in braces (got [1,2])"));
 }
 
-TEST(MaterialCardReader, WantsAName) {
+TEST(JsonCardReader, WantsAName) {
     EXPECT_THAT(FindingsOf("\n{}"),
                 ElementsAre("card.json:2: error[missing-key]: the card lacks the key \"name\""));
     EXPECT_THAT(FindingsOf("{\n\"name\": 12}"),
                 ElementsAre("card.json:2: error[wrong-type]: name is not a text (got 12)"));
 }
 
-TEST(MaterialCardReader, ChecksTheTypesOfTheCardsOwnKeys) {
+TEST(JsonCardReader, ChecksTheTypesOfTheCardsOwnKeys) {
     EXPECT_THAT(FindingsOf("{\"name\": \"x\",\n\"description\": [],\n\"source\": [\"a\",\n7],\n"
                            "\"illustrative\": \"yes\",\n\"units\": \"SI\"}"),
                 ElementsAre("card.json:2: error[wrong-type]: description is not a text (got [])",
@@ -178,13 +179,13 @@ TEST(MaterialCardReader, ChecksTheTypesOfTheCardsOwnKeys) {
                             "card.json:6: error[wrong-type]: units is not an object in braces (got \"SI\")"));
 }
 
-TEST(MaterialCardReader, CutsALongValueInAMessage) {
+TEST(JsonCardReader, CutsALongValueInAMessage) {
     EXPECT_THAT(FindingsOf("{\"name\": [\"0123456789012345678901234567890123456789\"]}"),
                 ElementsAre("card.json:1: error[wrong-type]: name is not a text "
                             "(got [\"01234567890123456789012345678901234567...)"));
 }
 
-TEST(MaterialCardReader, AcceptsSiUnitsOnly) {
+TEST(JsonCardReader, AcceptsSiUnitsOnly) {
     EXPECT_THAT(
         FindingsOf(
             "{\"name\": \"x\", \"units\": {\n\"stress\": \"MPa\",\n\"force\": \"N\",\n\"density\": 1}}"),
@@ -195,22 +196,50 @@ TEST(MaterialCardReader, AcceptsSiUnitsOnly) {
                     "card.json:4: error[wrong-type]: units.density is not a text (got 1)"));
 }
 
-TEST(MaterialCardReader, NamesAnUnknownBlock) {
+TEST(JsonCardReader, NamesAnUnknownBlock) {
     EXPECT_THAT(
         FindingsOf("{\"name\": \"x\",\n\"elastc\": {}}"),
-        ElementsAre("card.json:2: error[unknown-block]: there is no block \"elastc\" (known: elastic, "
+        ElementsAre("card.json:2: warning[unknown-block]: there is no block \"elastc\" (known: elastic, "
                     "plastic, density, thermal_expansion, conductivity, specific_heat, "
                     "user_material, hyperelastic, gasket, gasket_membrane, gasket_transverse_shear, "
-                    "test_data, strength)"));
+                    "test_data, strength, it is kept, and nothing uses it)"));
 }
 
-TEST(MaterialCardReader, TellsAllMistakesInTheOrderOfTheLines) {
+TEST(JsonCardReader, TellsAllMistakesInTheOrderOfTheLines) {
     EXPECT_THAT(
         FindingsOf("{\n\"specific_heat\": 1,\n\"xyz\": 2,\n\"elastic\": 3,\n\"name\": 4}"),
         ElementsAre("card.json:2: error[wrong-type]: specific_heat is not an object in braces (got 1)",
-                    testing::StartsWith("card.json:3: error[unknown-block]: "),
+                    testing::StartsWith("card.json:3: warning[unknown-block]: "),
                     "card.json:4: error[wrong-type]: elastic is not an object in braces (got 3)",
                     "card.json:5: error[wrong-type]: name is not a text (got 4)"));
+}
+
+TEST(JsonCardReader, ReadsWhatIsSaidOfTheMaterialAsAWhole) {
+    const auto card =
+        CardOf(R"({"name": "x", "class": "metal", "notes": ["a", "b"], "heat_generation": true})");
+
+    EXPECT_EQ(card.materialClass, "metal");
+    EXPECT_THAT(card.notes, ElementsAre("a", "b"));
+    EXPECT_EQ(card.heatGeneration, true);
+    EXPECT_EQ(CardOf(R"({"name": "x"})").heatGeneration, std::nullopt);
+}
+
+TEST(JsonCardReader, KeepsWhatItHasNoMeaningFor) {
+    const CardFile file(R"({"name": "x", "strength": {"f_ck": 3e7}, "dielectric": [4.7, {"tan": 0.02}],
+"gasket": {"anchors": {"seal": 1}, "loading": {"temperature_dependent": false,
+"columns": ["pressure", "closure", "temperature"], "rows": [[0, 0, 293.15]]}}})");
+    zelmat::Findings findings;
+    const auto card = zelmat::JsonCardReader(findings).Read(file.Path());
+
+    ASSERT_TRUE(card);
+    ASSERT_EQ(card->kept.size(), 1u);
+    EXPECT_EQ(card->kept[0].name, "dielectric");
+    EXPECT_EQ(card->kept[0].json, R"([4.7,{"tan":0.02}])");
+    ASSERT_EQ(card->information.size(), 1u);
+    EXPECT_EQ(card->information[0].kept.at(0).json, R"({"f_ck":30000000.0})");
+    EXPECT_EQ(card->Find("gasket")->kept.at(0).name, "anchors");
+    EXPECT_EQ(card->Find("gasket")->kept.at(0).json, R"({"seal":1})");
+    EXPECT_EQ(findings.Exit(), 1);
 }
 
 }  // namespace

@@ -9,15 +9,15 @@
 namespace zelmat {
 
 /// A flag, a whole number, a number or a text.
-using CardValue = std::variant<bool, int, double, std::string>;
+using Value = std::variant<bool, int, double, std::string>;
 
 /// The single values of a block, by the names of their settings.
-class CardValues {
+class Values {
 public:
-    void Set(const std::string& name, CardValue value) { values_.insert_or_assign(name, std::move(value)); }
+    void Set(const std::string& name, Value value) { values_.insert_or_assign(name, std::move(value)); }
 
     /// Null when there is none of that name.
-    const CardValue* Find(const std::string& name) const {
+    const Value* Find(const std::string& name) const {
         const auto found = values_.find(name);
         return found == values_.end() ? nullptr : &found->second;
     }
@@ -25,12 +25,12 @@ public:
     /// Nothing when there is none of that name. T is the type that the setting's kind stands for.
     template <class T>
     std::optional<T> Get(const std::string& name) const {
-        const CardValue* value = Find(name);
+        const Value* value = Find(name);
         return value ? std::optional(std::get<T>(*value)) : std::nullopt;
     }
 
 private:
-    std::map<std::string, CardValue> values_;
+    std::map<std::string, Value> values_;
 };
 
 }  // namespace zelmat

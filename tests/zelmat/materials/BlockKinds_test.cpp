@@ -1,33 +1,33 @@
-#include "zelmat/materials/CardBlocks.h"
+#include "zelmat/materials/BlockKind.h"
 
 #include <gmock/gmock.h>
 
-#include "zelmat/materials/CardValues.h"
+#include "zelmat/materials/Values.h"
 
 namespace {
 
 using testing::ElementsAre;
-using zelmat::CardValues;
-using zelmat::FindCardBlock;
+using zelmat::FindBlockKind;
+using zelmat::Values;
 
 /// "name [unit]" of every column that a table of a block has.
 std::vector<std::string> Columns(const char* block, bool temperatureDependent, const char* table = "",
-                                 const CardValues& values = {}) {
+                                 const Values& values = {}) {
     std::vector<std::string> columns;
-    const auto form = FindCardBlock(block)->FindTable(table)->form(values);
+    const auto form = FindBlockKind(block)->FindTable(table)->form(values);
     for (const auto& column : form.value().ColumnsOf(temperatureDependent)) {
         columns.push_back(column.name + " [" + column.unit + "]");
     }
     return columns;
 }
 
-CardValues Hardening(const char* hardening) {
-    CardValues values;
+Values Hardening(const char* hardening) {
+    Values values;
     values.Set("hardening", std::string(hardening));
     return values;
 }
 
-TEST(CardBlocks, NameTheColumnsAndUnitsOfEveryTable) {
+TEST(BlockKinds, NameTheColumnsAndUnitsOfEveryTable) {
     EXPECT_THAT(Columns("elastic", false), ElementsAre("youngs_modulus [Pa]", "poissons_ratio [-]"));
     EXPECT_THAT(Columns("density", false), ElementsAre("density [kg/m3]"));
     EXPECT_THAT(Columns("thermal_expansion", false), ElementsAre("thermal_expansion [1/K]"));
@@ -35,12 +35,12 @@ TEST(CardBlocks, NameTheColumnsAndUnitsOfEveryTable) {
     EXPECT_THAT(Columns("specific_heat", false), ElementsAre("specific_heat [J/(kg K)]"));
 }
 
-TEST(CardBlocks, CloseATemperatureDependentTableWithTheTemperature) {
+TEST(BlockKinds, CloseATemperatureDependentTableWithTheTemperature) {
     EXPECT_THAT(Columns("elastic", true),
                 ElementsAre("youngs_modulus [Pa]", "poissons_ratio [-]", "temperature [K]"));
 }
 
-TEST(CardBlocks, GiveThePlasticCurvesAlwaysATemperatureAndJohnsonCookNever) {
+TEST(BlockKinds, GiveThePlasticCurvesAlwaysATemperatureAndJohnsonCookNever) {
     for (const bool flag : {false, true}) {
         for (const char* hardening : {"isotropic", "kinematic"}) {
             EXPECT_THAT(Columns("plastic", flag, "", Hardening(hardening)),
@@ -52,7 +52,7 @@ TEST(CardBlocks, GiveThePlasticCurvesAlwaysATemperatureAndJohnsonCookNever) {
     }
 }
 
-TEST(CardBlocks, GiveTheGasketTablesAlwaysATemperature) {
+TEST(BlockKinds, GiveTheGasketTablesAlwaysATemperature) {
     EXPECT_THAT(Columns("gasket", false, "loading"),
                 ElementsAre("pressure [Pa]", "closure [m]", "temperature [K]"));
     EXPECT_THAT(Columns("gasket", false, "unloading_elastic_plastic"),
@@ -65,28 +65,28 @@ TEST(CardBlocks, GiveTheGasketTablesAlwaysATemperature) {
                 ElementsAre("shear_stiffness [Pa/m]", "temperature [K]"));
 }
 
-TEST(CardBlocks, ReachABehaviorUnlessTheyAreForInformation) {
+TEST(BlockKinds, ReachABehaviorUnlessTheyAreForInformation) {
     std::vector<std::string> behaviors;
-    for (const auto& block : zelmat::CardBlocks()) {
-        EXPECT_EQ(block.write != nullptr, block.use == zelmat::CardUse::BEHAVIOR) << block.name;
-        EXPECT_EQ(block.read != nullptr, block.use == zelmat::CardUse::BEHAVIOR) << block.name;
-        if (block.use == zelmat::CardUse::BEHAVIOR) behaviors.push_back(block.name);
+    for (const auto& block : zelmat::BlockKinds()) {
+        EXPECT_EQ(block.write != nullptr, block.use == zelmat::BlockUse::BEHAVIOR) << block.name;
+        EXPECT_EQ(block.read != nullptr, block.use == zelmat::BlockUse::BEHAVIOR) << block.name;
+        if (block.use == zelmat::BlockUse::BEHAVIOR) behaviors.push_back(block.name);
     }
     EXPECT_THAT(behaviors, ElementsAre("elastic", "plastic", "density", "thermal_expansion", "conductivity",
                                        "specific_heat", "user_material", "hyperelastic", "gasket",
                                        "gasket_membrane", "gasket_transverse_shear"));
 }
 
-TEST(CardBlocks, NameTheirTables) {
-    const auto* gasket = FindCardBlock("gasket");
+TEST(BlockKinds, NameTheirTables) {
+    const auto* gasket = FindBlockKind("gasket");
     EXPECT_EQ(gasket->TableName(*gasket->FindTable("loading")), "gasket.loading");
-    const auto* density = FindCardBlock("density");
+    const auto* density = FindBlockKind("density");
     EXPECT_EQ(density->TableName(*density->FindTable("")), "density");
     EXPECT_EQ(density->FindTable("loading"), nullptr);
 }
 
-TEST(CardBlocks, HaveNoOthers) {
-    EXPECT_EQ(FindCardBlock("elastc"), nullptr);
+TEST(BlockKinds, HaveNoOthers) {
+    EXPECT_EQ(FindBlockKind("elastc"), nullptr);
 }
 
 }  // namespace
