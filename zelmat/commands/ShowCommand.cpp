@@ -2,12 +2,11 @@
 #include <optional>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/cards/ReadCard.h"
 #include "zelmat/commands/CallTrace.h"
+#include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/ShowReport.h"
-#include "zelmat/commands/WrongForm.h"
 
 namespace zelmat {
 
@@ -33,11 +32,8 @@ public:
         std::optional<CallTrace> calls;
         if (trace_) calls.emplace(context.notes);
 
-        card_ = ReadCard(path_, findings);
-        if (!card_) {
-            NameRightCommand(path_, FileForm::MATERIAL_CARD, findings);
-            return;
-        }
+        card_ = ReadGivenCard(path_, findings);
+        if (!card_) return;
         const auto fits = FitsToShow(findings);
         material_ = StoredMaterial{.given = &*card_};
         if (findings.HasErrors()) return;

@@ -2,10 +2,9 @@
 #include <deque>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/cards/ReadCard.h"
+#include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/JsonReport.h"
-#include "zelmat/commands/WrongForm.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
@@ -78,11 +77,8 @@ public:
 
 private:
     void Add(MaterialHost& host, const std::string& path, Findings& findings) {
-        auto card = ReadCard(path, findings);
-        if (!card) {
-            NameRightCommand(path, FileForm::MATERIAL_CARD, findings);
-            return;
-        }
+        auto card = ReadGivenCard(path, findings);
+        if (!card) return;
         cards_.push_back(std::move(*card));
         const Block* fit = ChooseFit(cards_.back(), {}, findings);
         auto material = StoreMaterial(host, cards_.back(),

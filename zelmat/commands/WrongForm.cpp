@@ -43,15 +43,16 @@ const KnownForm* FormOf(const std::string& path) {
 
 }  // namespace
 
-void NameRightCommand(const std::string& path, FileForm expected, Findings& findings) {
+bool NameRightCommand(const std::string& path, FileForm expected, Findings& findings) {
     const KnownForm* found = FormOf(path);
-    if (!found || found->form == expected) return;
+    if (!found || found->form == expected) return false;
     findings.RemoveAbout(path);
     findings.Add({FindingKind::USAGE,
                   {path, 0},
                   "wrong-command",
                   std::string("this is ") + found->what,
                   {std::string(found->command) + " reads it"}});
+    return true;
 }
 
 }  // namespace zelmat

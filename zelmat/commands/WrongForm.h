@@ -9,9 +9,9 @@ namespace zelmat {
 /// What a file of the house holds, told by its content.
 enum class FileForm { MATERIAL_CARD, LAYUP_CARD, DOCUMENT };
 
-/// For a file that a command could not read as what it expected: when it is another form of the house, puts
-/// one finding in the place of all in `findings` about that file, which says what it is and which command
-/// reads it.
-void NameRightCommand(const std::string& path, FileForm expected, Findings& findings);
+/// For a file that a command could not read as what it expected, or hardly: when it is another form of the
+/// house, puts one finding in the place of all in `findings` about that file, which says what it is and which
+/// command reads it, and answers true.
+bool NameRightCommand(const std::string& path, FileForm expected, Findings& findings);
 
 }  // namespace zelmat
