@@ -1,23 +1,7 @@
 #include "framework/KORUnicodeString.h"
 
-#include <cstddef>
 #include <cstring>
-#include <new>
 #include <string>
-
-namespace {
-
-/// The counted buffer: a counter, then the zero-terminated text.
-struct Buffer {
-    std::uint32_t count;
-    char text[1];
-
-    static Buffer* Of(const char* text) {
-        return reinterpret_cast<Buffer*>(const_cast<char*>(text) - offsetof(Buffer, text));
-    }
-};
-
-}  // namespace
 
 KORUnicodeString::KORUnicodeString(const char* text) : KORUnicodeString(std::string_view(text ? text : "")) {}
 
@@ -26,26 +10,14 @@ KORUnicodeString::KORUnicodeString(std::string_view text) {
 }
 
 void KORUnicodeString::Own(std::string_view text) {
-    auto* buffer = static_cast<Buffer*>(::operator new(sizeof(Buffer) + text.size()));
-    buffer->count = 1;
-    char* begin = reinterpret_cast<char*>(buffer) + offsetof(Buffer, text);
-    std::memcpy(begin, text.data(), text.size());
-    begin[text.size()] = '\0';
-    text_ = begin;
-    size_ = static_cast<std::uint32_t>(text.size());
+    const std::size_t size = text.size();
+    KORSharedBuffer<char> buffer;
+    char* begin = buffer.Extend(static_cast<int>(size + 1));
+    std::memcpy(begin, text.data(), size);
+    begin[size] = '\0';
+    text_ = buffer.Detach();
+    size_ = static_cast<std::uint32_t>(size);
     shared_ = true;
-}
-
-void KORUnicodeString::Share(const KORUnicodeString& other) {
-    ++Buffer::Of(other.text_)->count;
-    text_ = other.text_;
-    size_ = other.size_;
-    shared_ = true;
-}
-
-void KORUnicodeString::Drop() {
-    Buffer* buffer = Buffer::Of(text_);
-    if (--buffer->count == 0) ::operator delete(buffer);
 }
 
 KORUnicodeString operator+(const KORUnicodeString& a, const KORUnicodeString& b) {

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "framework/KORSharedBuffer.h"
+
 /// The platform's text type: UTF-8, compared byte by byte, never changed once made. Copies share one counted
 /// buffer, so handing a string out costs no allocation. A Literal points at text compiled into the program
 /// and costs nothing to construct or destroy; a copy of a literal owns its text, so nothing handed on points
@@ -70,9 +72,15 @@ private:
         }
     }
 
-    void Own(std::string_view text);            ///< makes a counted buffer of its own
-    void Share(const KORUnicodeString& other);  ///< counts the other's buffer once more
-    void Drop();                                ///< counts the buffer once less; the last one frees it
+    void Own(std::string_view text);  ///< makes a counted buffer of its own
+
+    /// Counts the other's buffer once more.
+    void Share(const KORUnicodeString& other) {
+        text_ = KORSharedBuffer<char>::Share(const_cast<char*>(other.text_));
+        size_ = other.size_;
+        shared_ = true;
+    }
+    void Drop() { KORSharedBuffer<char>::Drop(const_cast<char*>(text_)); }
 
     const char* text_ = "";
     std::uint32_t size_ = 0;

@@ -14,8 +14,7 @@ KORValue KORValue::OfString(const KORUnicodeString& text) {
 
 KORValue KORValue::OfListOfDoubles(const KORRawColldouble& list) noexcept {
     if (list.Size() == 0) return EmptyList(KORAttributeKind::ListOfDoubles);
-    KORRawColldouble share(list);
-    return {KORAttributeKind::ListOfDoubles, AddressOf(std::exchange(share.buffer_, nullptr))};
+    return {KORAttributeKind::ListOfDoubles, AddressOf(KORSharedBuffer<double>(list.Buffer()).Detach())};
 }
 
 KORValue KORValue::OfComponent(KORBaseUnknown* component) noexcept {
@@ -40,7 +39,7 @@ std::uint64_t KORValue::CopyOwned() const {
         case KORAttributeKind::String:
             return AddressOf(new KORUnicodeString(*Text()));
         case KORAttributeKind::ListOfDoubles:
-            ++Pointer<KORRawColldouble::Buffer>()->count;
+            KORSharedBuffer<double>::Share(Pointer<double>());
             return bits_;
         case KORAttributeKind::Component:
             Referenced()->AddRef();
@@ -60,11 +59,9 @@ void KORValue::DropOwned() noexcept {
         case KORAttributeKind::String:
             delete Text();
             return;
-        case KORAttributeKind::ListOfDoubles: {
-            KORRawColldouble last;
-            last.buffer_ = Pointer<KORRawColldouble::Buffer>();
+        case KORAttributeKind::ListOfDoubles:
+            KORSharedBuffer<double>::Drop(Pointer<double>());
             return;
-        }
         case KORAttributeKind::Component:
             Referenced()->Release();
             return;
@@ -92,10 +89,8 @@ bool KORValue::OwnsSameAs(const KORValue& other) const {
 }
 
 KORRawColldouble KORValue::ListOfDoubles() const {
-    KORRawColldouble share;
-    share.buffer_ = Pointer<KORRawColldouble::Buffer>();
-    if (share.buffer_) ++share.buffer_->count;
-    return share;
+    auto* const values = KORSharedBuffer<double>::Share(Pointer<double>());
+    return KORRawColldouble(KORSharedBuffer<double>::Adopt(values));
 }
 
 KORListValKORISpecObject_var KORValue::Features() const {
@@ -108,7 +103,7 @@ KORBaseUnknown_var KORValue::ComponentAt(int position) const {
 
 int KORValue::ListSize() const {
     if (bits_ == 0) return 0;
-    return kind_ == KORAttributeKind::ListOfDoubles ? Pointer<KORRawColldouble::Buffer>()->size
+    return kind_ == KORAttributeKind::ListOfDoubles ? KORSharedBuffer<double>::SizeOf(Pointer<double>())
                                                     : Components()->Size();
 }
 
