@@ -11,12 +11,11 @@ bool ZELCftArrayZELCftArrayDouble::GetAtIndex(int index, ZELCftArraydouble& row)
 }
 
 void ZELCftArrayZELCftArrayDouble::Initialize(int size, const ZELCftArraydouble* rows) {
-    if (size <= 0) {
-        rows_.clear();
-    } else if (rows) {
-        rows_ = std::vector<ZELCftArraydouble>(rows, rows + size);
+    const std::size_t count = Count(size);
+    if (rows && count > 0) {
+        rows_ = std::vector<ZELCftArraydouble>(rows, rows + count);
     } else {
-        rows_.assign(Place(size), ZELCftArraydouble());
+        rows_.assign(count, ZELCftArraydouble());
     }
 }
 

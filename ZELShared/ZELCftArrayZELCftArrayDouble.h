@@ -7,7 +7,7 @@
 
 /// A property table: rows numbered from 0, one number per quantity in each row, the temperature last when the
 /// data depend on temperature. It carries no units and does not require rows of equal width; the behaviors
-/// say what the columns mean.
+/// say what the columns mean. Wherever it is given a size, a negative one counts as 0.
 class ZELCftArrayZELCftArrayDouble {
 public:
     /// `size` rows copied from `rows`; empty rows when `rows` is null. Size 0 makes an empty table.
@@ -35,16 +35,17 @@ public:
     }
 
     int size() const { return static_cast<int>(rows_.size()); }
-    void Prepare(int size) { rows_.reserve(Place(size)); }  ///< room for this many rows
+    void Prepare(int size) { rows_.reserve(Count(size)); }  ///< room for this many rows
 
     /// Resets the table to `size` rows copied from `rows`; (0, null) empties it and keeps its room for the
     /// next rows.
     void Initialize(int size, const ZELCftArraydouble* rows);
-    void Resize(int size) { rows_.resize(Place(size)); }  ///< keeps rows that are there; new ones are empty
+    void Resize(int size) { rows_.resize(Count(size)); }  ///< keeps rows that are there; new ones are empty
     void Kill();                                          ///< frees all rows
 
 private:
     static std::size_t Place(int index) { return static_cast<std::size_t>(index); }
+    static std::size_t Count(int size) { return size > 0 ? Place(size) : 0; }
     bool InRange(int index) const { return index >= 0 && Place(index) < rows_.size(); }
     static ZELCftArraydouble& Outside();
 

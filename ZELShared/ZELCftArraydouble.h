@@ -4,7 +4,7 @@
 #include <cstring>
 
 /// One row of a property table: a growable array of doubles, numbered from 0. Four numbers lie in the row
-/// itself, so the usual row needs no allocation.
+/// itself, so the usual row needs no allocation. Wherever it is given a size, a negative one counts as 0.
 class ZELCftArraydouble {
 public:
     /// `size` numbers copied from `values`; zeros when `values` is null. Size 0 makes an empty row.

@@ -138,3 +138,19 @@ TEST(ZELCftArrayZELCftArrayDouble, KeepsItsRowsAndAddsEmptyOnesWhenItIsResized) 
     ASSERT_EQ(table.size(), 1);
     EXPECT_EQ(table[0][0], 1.0);
 }
+
+TEST(ZELCftArrayZELCftArrayDouble, TakesANegativeSizeForNone) {
+    const ZELCftArraydouble rows[] = {Row(1, 2)};
+    EXPECT_EQ(ZELCftArrayZELCftArrayDouble(-1).size(), 0);
+    EXPECT_EQ(ZELCftArrayZELCftArrayDouble(-1, rows).size(), 0);
+    ZELCftArrayZELCftArrayDouble table(1, rows);
+
+    table.Prepare(-1);
+    EXPECT_EQ(table.size(), 1) << "room changes nothing";
+    table.Resize(-1);
+    EXPECT_EQ(table.size(), 0);
+
+    table.push_back(rows[0]);
+    table.Initialize(-1, rows);
+    EXPECT_EQ(table.size(), 0);
+}

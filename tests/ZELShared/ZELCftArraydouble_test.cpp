@@ -157,3 +157,16 @@ TEST(ZELCftArraydouble, IsMadeAnotherRowOfNumbersAtOnce) {
         EXPECT_EQ(row[3], 0.0);
     }
 }
+
+TEST(ZELCftArraydouble, TakesANegativeSizeForNone) {
+    const double values[] = {1.0};
+    EXPECT_EQ(ZELCftArraydouble(-1).size(), 0);
+    ZELCftArraydouble row(-1, values);
+    EXPECT_EQ(row.size(), 0);
+
+    row.push_back(7.0);
+    EXPECT_TRUE(row.Prepare(-1));
+
+    EXPECT_EQ(row.size(), 1);
+    EXPECT_EQ(row[0], 7.0);
+}
