@@ -5,8 +5,9 @@
 inline const KORIID IID_ZELIAnalysisMaterial = KORName::Intern("ZELIAnalysisMaterial");
 
 /// Marks the platform materials for which there can be analysis data.
-class ZELIAnalysisMaterial : public KORIUnknown {
-    KORDeclareInterface(ZELIAnalysisMaterial)
+class ZELIAnalysisMaterial : public KORInterface<IID_ZELIAnalysisMaterial> {
+protected:
+    ~ZELIAnalysisMaterial() = default;
 };
 
 using ZELIAnalysisMaterial_var = KORVar<ZELIAnalysisMaterial>;

@@ -37,11 +37,7 @@ class Factory {
 public:
     explicit Factory(Ground& ground)
         : material_(KORISpecObject_var(ground.Document().NewPlatformFeature("KORMaterialLT", "Steel"))) {
-        void* found = nullptr;
-        if (SUCCEEDED(KORInstantiateComponent("ZELMaterialPropertiesFact", IID_ZELIMaterialPropertiesFact,
-                                              &found))) {
-            factory_ = ZELIMaterialPropertiesFact_var::Adopt(static_cast<ZELIMaterialPropertiesFact*>(found));
-        }
+        static_cast<void>(KORInstantiate("ZELMaterialPropertiesFact", factory_));  // null: Make says it
     }
 
     /// False when it fails.

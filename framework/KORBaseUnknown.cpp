@@ -1,5 +1,7 @@
 #include "framework/KORBaseUnknown.h"
 
+#include <utility>
+
 #include "framework/KORDictionary.h"
 #include "framework/KORPendingHost.h"
 #include "framework/KORTie.h"
@@ -7,6 +9,12 @@
 namespace {
 
 constexpr std::int32_t kDying = 1 << 30;  ///< so that handles made inside a destructor do not destroy again
+
+/// How deep destructors may nest before further objects wait for their turn: what hangs on each other in a
+/// long chain would use up the stack.
+constexpr int kDeepest = 64;
+int depth = 0;
+KORBaseUnknown* waiting = nullptr;
 
 }  // namespace
 
@@ -24,8 +32,24 @@ std::uint32_t KORBaseUnknown::Release() {
     if (--references_ > 0) return static_cast<std::uint32_t>(references_);
     references_ = kDying;
     if (host_) Unlink();  // first of all: a query from the destructor finds no half-destroyed extension
-    delete this;
+    Destroy();
     return 0;
+}
+
+void KORBaseUnknown::Destroy() {
+    if (depth == kDeepest) {
+        links_ = waiting;
+        waiting = this;
+        return;
+    }
+    ++depth;
+    delete this;
+    while (depth == 1 && waiting) {
+        KORBaseUnknown* next = std::exchange(waiting, waiting->links_);
+        next->links_ = nullptr;
+        delete next;
+    }
+    --depth;
 }
 
 void KORBaseUnknown::BecomeExtensionOf(KORBaseUnknown& host) {
@@ -68,6 +92,11 @@ HRESULT KORBaseUnknown::AnswerQuery(KORIID iid, void** out) {
     if (iid == IID_KORBaseUnknown) {
         AddRef();
         *out = this;
+        return S_OK;
+    }
+    if (iid == IID_KORIUnknown) {
+        AddRef();
+        *out = static_cast<KORIUnknown*>(this);
         return S_OK;
     }
     *out = nullptr;

@@ -38,8 +38,8 @@ public:
 
     static const KORMetaClass& MetaObject();
     virtual const KORMetaClass& GetMetaObject() const { return MetaObject(); }
-    const char* IsA() const { return GetMetaObject().ClassName(); }
-    bool IsAKindOf(const char* name) const { return GetMetaObject().IsAKindOf(name); }
+    virtual const char* IsA() const { return GetMetaObject().ClassName(); }
+    virtual bool IsAKindOf(const char* name) const { return GetMetaObject().IsAKindOf(name); }
 
     KORBaseUnknown* MainObject() { return host_ ? host_ : this; }  ///< no reference
     std::int32_t References() const { return references_; }
@@ -65,14 +65,18 @@ private:
     HRESULT AnswerQuery(KORIID iid, void** out);  ///< on a main object
     KORTieState* LivingTie(KORIID iid);
     void BecomeExtensionOf(KORBaseUnknown& host);
+    void Destroy();
     void Unlink();
     KORBaseUnknown* LivingExtension(const KORMetaClass& record);
 
     std::int32_t references_ = 1;
-    std::uint32_t generation_ = 0;     ///< the host's, when this extension was bound to it
-    KORBaseUnknown* host_ = nullptr;   ///< owned; null on a main object
-    KORBaseUnknown* links_ = nullptr;  ///< main object: its first living extension; extension: the next one
-    KORTieState* ties_ = nullptr;      ///< the living bindings over this object
+    std::uint32_t generation_ = 0;    ///< the host's, when this extension was bound to it
+    KORBaseUnknown* host_ = nullptr;  ///< owned; null on a main object
+
+    /// Main object: its first living extension. Extension: the next one. Waiting to be destroyed: the next
+    /// one.
+    KORBaseUnknown* links_ = nullptr;
+    KORTieState* ties_ = nullptr;  ///< the living bindings over this object
 
     friend struct KORTieState;
 };

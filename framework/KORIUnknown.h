@@ -35,16 +35,14 @@ protected:
 /// The class record of an interface, made on first use.
 const KORMetaClass& KORInterfaceMetaClass(KORIID iid);
 
-/// Opens the body of an interface class: its identifier and its own meta-class. Objects are destroyed by
-/// their counter only.
-#define KORDeclareInterface(Interface)                 \
-protected:                                             \
-    ~Interface() = default;                            \
-                                                       \
-public:                                                \
-    static KORIID Iid() {                              \
-        return IID_##Interface;                        \
-    }                                                  \
-    static const KORMetaClass& MetaObject() {          \
-        return KORInterfaceMetaClass(IID_##Interface); \
-    }
+/// Base of every interface: its identifier and its own meta-class. An interface adds its operations, all
+/// pure, and a protected destructor, since objects are destroyed by their counter only. It holds no state.
+template <const KORIID& iid>
+class KORInterface : public KORIUnknown {
+public:
+    static KORIID Iid() { return iid; }
+    static const KORMetaClass& MetaObject() { return KORInterfaceMetaClass(iid); }
+
+protected:
+    ~KORInterface() = default;
+};

@@ -16,7 +16,6 @@ HRESULT KORLibrary::Unload() {
     if (!handle_ || module_.LiveObjects() != 0) return E_FAIL;
     dlclose(handle_);
     handle_ = nullptr;
-    module_.ForgetRecords();
     return S_OK;
 }
 

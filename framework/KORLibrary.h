@@ -6,8 +6,10 @@
 #include "framework/KORModule.h"
 #include "framework/KORStatus.h"
 
-/// A module of the component framework, loaded as a shared library. Its classes register themselves while it
-/// loads and leave the dictionary while it unloads.
+/// A module of the component framework, loaded as a shared library. Its classes register themselves while its
+/// code comes into the process and take their records and dictionary entries away when the code goes. That is
+/// when the last holder of the library lets go, be it another KORLibrary, a dlopen or a program that links
+/// it.
 class KORLibrary {
 public:
     /// Loads the library at `path`, which holds the framework module `module`. On failure the result is null
@@ -15,7 +17,8 @@ public:
     [[nodiscard]] static std::unique_ptr<KORLibrary> Load(const std::string& path, const char* module,
                                                           std::string& error);
 
-    /// Unloads the library. E_FAIL, and the library stays, while any object of the module is alive.
+    /// Lets go of the library. E_FAIL, and it is kept, while any object of the module is alive. What the
+    /// module handed out and does not count (lists, strings, errors, tables) stays good.
     HRESULT Unload();
 
     /// An exported symbol, or null.

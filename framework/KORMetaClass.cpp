@@ -29,6 +29,10 @@ bool KORMetaClass::IsAKindOf(std::string_view name) const {
     return false;
 }
 
+void KORMetaClass::DropUse() const {
+    if (--uses_ == 0) module_->Forget(*this);
+}
+
 const KORMetaClass& fct_RetrieveMetaObject(const char* className, KORClassKind kind, const KORMetaClass& base,
                                            const char* lateType, const char* module) {
     return Retrieve(KORModule::Of(module), KORName::Intern(className), kind, &base,

@@ -4,6 +4,7 @@
 
 #include "framework/KORModule.h"
 #include "framework/KORName.h"
+#include "framework/KORRecordUse.h"
 
 /// What a registered class is to the framework. The values are the platform's.
 enum class KORClassKind : int {
@@ -18,7 +19,7 @@ enum class KORClassKind : int {
 using KORClassId = const KORName*;
 
 /// The registration record of a class: name, kind, base, late type and module. Records are made on first use
-/// and live until their module is unloaded. It describes a class; it is not a factory.
+/// and live until the class's code is unloaded. It describes a class; it is not a factory.
 class KORMetaClass {
 public:
     KORMetaClass(KORClassId name, KORClassKind kind, const KORMetaClass* base, const KORName* lateType,
@@ -41,15 +42,20 @@ public:
     /// True when this record or one of its bases has that name.
     bool IsAKindOf(std::string_view name) const;
 
+    void AddUse() const { ++uses_; }
+    void DropUse() const;  ///< the last one destroys the record
+
 private:
     KORClassId name_;
     KORClassKind kind_;
     const KORMetaClass* base_;
     const KORName* lateType_;
     KORModule* module_;
+    mutable int uses_ = 0;
 };
 
-/// The record of that class, made and kept by the framework at the first call.
+/// The record of that class, made by the framework at the first call. It stays until its last user lets go of
+/// it; see KORRecordUse.
 const KORMetaClass& fct_RetrieveMetaObject(const char* className, KORClassKind kind, const KORMetaClass& base,
                                            const char* lateType, const char* module);
 
@@ -60,20 +66,29 @@ public:                                                                         
     [[maybe_unused]] static KORClassId ClassId();                                                    \
     static const KORMetaClass& MetaObject(); /**< the registration record, made on first use */      \
     static KORBaseUnknown* CreateItself();   /**< a new instance for the framework, one reference */ \
-    const KORMetaClass& GetMetaObject() const override {                                             \
-        return MetaObject();                                                                         \
-    }
+    [[maybe_unused]] const KORMetaClass& GetMetaObject() const override;                             \
+    [[maybe_unused]] const char* IsA() const override;                                               \
+    [[maybe_unused]] bool IsAKindOf(const char* name) const override;
 
 /// The registration record of a class and the queries that it answers, in the class's own source file.
-#define KORImplementClass(Class, kind, lateType, module)                                          \
-    const KORMetaClass& Class::MetaObject() {                                                     \
-        static const KORMetaClass& record =                                                       \
-            fct_RetrieveMetaObject(#Class, kind, KORBaseUnknown::MetaObject(), lateType, module); \
-        return record;                                                                            \
-    }                                                                                             \
-    const char* Class::ClassName() {                                                              \
-        return MetaObject().ClassName();                                                          \
-    }                                                                                             \
-    KORClassId Class::ClassId() {                                                                 \
-        return MetaObject().ClassId();                                                            \
+#define KORImplementClass(Class, kind, lateType, module)                                           \
+    const KORMetaClass& Class::MetaObject() {                                                      \
+        static const KORRecordUse<const KORMetaClass> record(                                      \
+            fct_RetrieveMetaObject(#Class, kind, KORBaseUnknown::MetaObject(), lateType, module)); \
+        return record.Get();                                                                       \
+    }                                                                                              \
+    const char* Class::ClassName() {                                                               \
+        return MetaObject().ClassName();                                                           \
+    }                                                                                              \
+    KORClassId Class::ClassId() {                                                                  \
+        return MetaObject().ClassId();                                                             \
+    }                                                                                              \
+    const KORMetaClass& Class::GetMetaObject() const {                                             \
+        return MetaObject();                                                                       \
+    }                                                                                              \
+    const char* Class::IsA() const {                                                               \
+        return ClassName();                                                                        \
+    }                                                                                              \
+    bool Class::IsAKindOf(const char* name) const {                                                \
+        return MetaObject().IsAKindOf(name);                                                       \
     }

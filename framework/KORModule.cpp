@@ -1,5 +1,6 @@
 #include "framework/KORModule.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "framework/KORMetaClass.h"
@@ -22,7 +23,14 @@ std::size_t KORModule::Records() const {
     return classes.size() + bindings.size();
 }
 
-void KORModule::ForgetRecords() {
-    bindings.clear();
-    classes.clear();
+void KORModule::Forget(const KORMetaClass& record) {
+    std::erase_if(classes, [&record](const auto& kept) { return kept.get() == &record; });
+}
+
+void KORModule::Forget(const KORTieRecord& record) {
+    // Out of the list first: with the binding's record may go the last use of its class's record.
+    const auto isIt = [&record](const auto& kept) { return kept.get() == &record; };
+    const auto place = std::ranges::find_if(bindings, isIt);
+    const auto last = std::move(*place);
+    bindings.erase(place);
 }

@@ -23,7 +23,10 @@ public:
     long LiveObjects() const { return objects_; }
 
     std::size_t Records() const;  ///< class and binding records there are now
-    void ForgetRecords();         ///< the module's library has just been unloaded
+
+    /// Destroys a record: nobody uses it any more.
+    void Forget(const KORMetaClass& record);
+    void Forget(const KORTieRecord& record);
 
     std::vector<std::unique_ptr<KORMetaClass>> classes;
     std::vector<std::unique_ptr<KORTieRecord>> bindings;

@@ -34,9 +34,9 @@ public:
         return first_;
     }
 
-    /// A block of its own, with room for this many elements in all.
+    /// A block of its own, with room for this many elements in all. No element goes.
     void Reserve(int size) {
-        if (size > Room()) Grow(size);
+        if (size > Room()) Grow(std::max(size, Size()));
     }
 
     void Append(T element) {

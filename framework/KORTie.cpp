@@ -18,6 +18,20 @@ KORTieRecord& fct_RetrieveTieRecord(const KORMetaClass& interface, const KORMeta
     return *bindings.back();
 }
 
+KORTieRecord::~KORTieRecord() {
+    delete context;
+}
+
+void KORTieRecord::DropUse() {
+    if (--uses_ == 0) Implementation().Module().Forget(*this);
+}
+
+void KORTieState::LinkNew() {
+    // Building it may have rolled a step back. It knows the data as they are after that.
+    if (implementation->host_) implementation->generation_ = implementation->host_->Generation();
+    Link();
+}
+
 void KORTieState::Link() {
     next = implementation->ties_;
     implementation->ties_ = this;
@@ -48,19 +62,19 @@ bool Tie_StackCtx::IsObserved() {
 
 Tie_StackCtx* Tie_Construct(KORTieRecord& record, KORTieState& slot, KORBaseUnknown* implementation,
                             void* interface, KORBaseUnknown* (*createItself)(), KORBaseUnknown* outer) {
-    if (implementation) {
-        implementation->AddRef();
-    } else {
-        const KORPendingHost pending(outer, record.Implementation());
-        implementation = createItself();
-    }
+    if (!record.context && Tie_StackCtx::IsObserved()) record.context = new Tie_StackCtx(record);
     slot.record = &record;
     slot.interface = interface;
     slot.implementation = implementation;
-    if (implementation) slot.Link();
+    if (implementation) {
+        implementation->AddRef();
+        slot.Link();
+    } else {
+        const KORPendingHost pending(outer, record.Implementation());
+        slot.implementation = createItself();
+        if (slot.implementation) slot.LinkNew();
+    }
     record.Implementation().Module().ObjectMade();
-    // A context outlives every binding, so it is made once and never freed.
-    if (!record.context && Tie_StackCtx::IsObserved()) return new Tie_StackCtx(record);
     return record.context;
 }
 

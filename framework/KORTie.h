@@ -16,6 +16,7 @@ struct KORTieState {
     std::int32_t references = 1;
 
     void Link();
+    void LinkNew();  ///< to an implementation that has just been created
     void Unlink();
 };
 
@@ -29,8 +30,8 @@ protected:
     ~KORCallObserver() = default;
 };
 
-/// The call context of a binding. Contexts live for ever once made; a binding has none until calls are
-/// observed.
+/// The call context of a binding. It belongs to the binding's record and lives as long as that does; a
+/// binding has none until calls are observed.
 class Tie_StackCtx {
 public:
     explicit Tie_StackCtx(const KORTieRecord& record) : record_(record) {}
@@ -74,12 +75,17 @@ template <class Interface, class Implementation>
 class KORTie : public Interface {
 public:
     KORTie(KORBaseUnknown* implementation, KORBaseUnknown* outer) {
-        static KORTieRecord& record =
-            fct_RetrieveTieRecord(Interface::MetaObject(), Implementation::MetaObject());
+        static const KORRecordUse<KORTieRecord> use(
+            fct_RetrieveTieRecord(Interface::MetaObject(), Implementation::MetaObject()));
+        KORTieRecord& record = use.Get();
         record.context = Tie_Construct(record, slot_, implementation, static_cast<Interface*>(this),
                                        &Implementation::CreateItself, outer);
+        record.AddUse();  // at the program's end a binding may outlive the static use
     }
-    virtual ~KORTie() { Tie_Destruct(slot_); }
+    virtual ~KORTie() {
+        Tie_Destruct(slot_);
+        slot_.record->DropUse();
+    }
     KORTie(const KORTie&) = delete;
     KORTie& operator=(const KORTie&) = delete;
 

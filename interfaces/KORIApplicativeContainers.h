@@ -7,11 +7,13 @@ inline const KORIID IID_KORIApplicativeContainers = KORName::Intern("KORIApplica
 
 /// The named containers that applications keep in a document beside its own. Offered by documents; used
 /// through KORGetApplicativeContainer.
-class KORIApplicativeContainers : public KORIUnknown {
-    KORDeclareInterface(KORIApplicativeContainers)
+class KORIApplicativeContainers : public KORInterface<IID_KORIApplicativeContainers> {
+public:
+    /// The container of that name with one reference for the caller; null when the document has none.
+    virtual KORBaseUnknown* FindContainer(const char* name) = 0;
 
-        /// The container of that name with one reference for the caller; null when the document has none.
-        virtual KORBaseUnknown* FindContainer(const char* name) = 0;
+protected:
+    ~KORIApplicativeContainers() = default;
 };
 
 using KORIApplicativeContainers_var = KORVar<KORIApplicativeContainers>;

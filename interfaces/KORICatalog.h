@@ -7,25 +7,28 @@ inline const KORIID IID_KORICatalog = KORName::Intern("KORICatalog");
 inline const KORIID IID_KORICatalogAccess = KORName::Intern("KORICatalogAccess");
 
 /// An open catalog: the start-ups of late types.
-class KORICatalog : public KORIUnknown {
-    KORDeclareInterface(KORICatalog)
+class KORICatalog : public KORInterface<IID_KORICatalog> {
+public:
+    /// The start-up of a late type, as the interface of that name ("KORISpecObject"), with one reference
+    /// for the caller. E_FAIL when the catalog lacks the type or the start-up lacks the interface; *out
+    /// is null then.
+    [[nodiscard]] virtual HRESULT RetrieveStartUp(const KORUnicodeString& lateType, const char* interfaceName,
+                                                  void** out) = 0;
 
-        /// The start-up of a late type, as the interface of that name ("KORISpecObject"), with one reference
-        /// for the caller. E_FAIL when the catalog lacks the type or the start-up lacks the interface; *out
-        /// is null then.
-        [[nodiscard]] virtual HRESULT
-        RetrieveStartUp(const KORUnicodeString& lateType, const char* interfaceName, void** out) = 0;
+protected:
+    ~KORICatalog() = default;
 };
 
 using KORICatalog_var = KORVar<KORICatalog>;
 
 /// Offered by containers in which catalogs can be opened; used through AccessCatalog.
-class KORICatalogAccess : public KORIUnknown {
-    KORDeclareInterface(KORICatalogAccess)
+class KORICatalogAccess : public KORInterface<IID_KORICatalogAccess> {
+public:
+    [[nodiscard]] virtual HRESULT OpenCatalog(const KORUnicodeString& catalog, const KORUnicodeString& client,
+                                              KORICatalog_var& opened) = 0;
 
-        [[nodiscard]] virtual HRESULT
-        OpenCatalog(const KORUnicodeString& catalog, const KORUnicodeString& client,
-                    KORICatalog_var& opened) = 0;
+protected:
+    ~KORICatalogAccess() = default;
 };
 
 using KORICatalogAccess_var = KORVar<KORICatalogAccess>;

@@ -5,8 +5,9 @@
 inline const KORIID IID_KORIDomain = KORName::Intern("KORIDomain");
 
 /// A domain of evaluation to which features can be confined.
-class KORIDomain : public KORIUnknown {
-    KORDeclareInterface(KORIDomain)
+class KORIDomain : public KORInterface<IID_KORIDomain> {
+protected:
+    ~KORIDomain() = default;
 };
 
 using KORIDomain_var = KORVar<KORIDomain>;

@@ -5,11 +5,10 @@
 inline const KORIID IID_KORIMaterialFeature = KORName::Intern("KORIMaterialFeature");
 
 /// A material of the CAD platform. Applications hang features of their own on it, each under a name.
-class KORIMaterialFeature : public KORIUnknown {
-    KORDeclareInterface(KORIMaterialFeature)
-
-        /// The applicative feature of that name with one reference for the caller; null when there is none.
-        virtual KORISpecObject* GetApplicativeFeature(const KORUnicodeString& name) = 0;
+class KORIMaterialFeature : public KORInterface<IID_KORIMaterialFeature> {
+public:
+    /// The applicative feature of that name with one reference for the caller; null when there is none.
+    virtual KORISpecObject* GetApplicativeFeature(const KORUnicodeString& name) = 0;
 
     /// Hangs a feature on the material under a name, in place of the one that was there; the feature's father
     /// is then this material. E_FAIL for null.
@@ -19,6 +18,9 @@ class KORIMaterialFeature : public KORIUnknown {
     /// Takes the applicative feature of that name off the material. The feature itself stays in its
     /// container. E_FAIL when there is none.
     [[nodiscard]] virtual HRESULT RemoveApplicativeFeature(const KORUnicodeString& name) = 0;
+
+protected:
+    ~KORIMaterialFeature() = default;
 };
 
 using KORIMaterialFeature_var = KORVar<KORIMaterialFeature>;

@@ -8,12 +8,14 @@ inline const KORIID IID_KORISamAnalysisEntity = KORName::Intern("KORISamAnalysis
 using KORListValKORBaseUnknown_var = KORListVal<KORBaseUnknown_var>;
 
 /// A feature that takes part in an analysis model, such as a layup.
-class KORISamAnalysisEntity : public KORIUnknown {
-    KORDeclareInterface(KORISamAnalysisEntity)
+class KORISamAnalysisEntity : public KORInterface<IID_KORISamAnalysisEntity> {
+public:
+    /// The analysis sets that hold this entity, the nearest one first; none when it stands outside every
+    /// set.
+    virtual KORListValKORBaseUnknown_var GetParentSets() = 0;
 
-        /// The analysis sets that hold this entity, the nearest one first; none when it stands outside every
-        /// set.
-        virtual KORListValKORBaseUnknown_var GetParentSets() = 0;
+protected:
+    ~KORISamAnalysisEntity() = default;
 };
 
 using KORISamAnalysisEntity_var = KORVar<KORISamAnalysisEntity>;

@@ -12,11 +12,10 @@ inline const KORIID IID_KORISpecAttrAccess = KORName::Intern("KORISpecAttrAccess
 /// `index` is 0 for the attribute's single value. Positions in lists are counted from 1. Raw pointers that
 /// are returned carry one reference, or are new objects, for the caller; raw pointers given are not taken
 /// over.
-class KORISpecAttrAccess : public KORIUnknown {
-    KORDeclareInterface(KORISpecAttrAccess)
-
-        /// The key of an attribute, by name; null when the feature's late type has no attribute of that name.
-        virtual KORISpecAttrKey* GetAttrKey(const char* name) = 0;
+class KORISpecAttrAccess : public KORInterface<IID_KORISpecAttrAccess> {
+public:
+    /// The key of an attribute, by name; null when the feature's late type has no attribute of that name.
+    virtual KORISpecAttrKey* GetAttrKey(const char* name) = 0;
 
     virtual void SetDouble(KORISpecAttrKey* key, double value, int index) = 0;
     virtual void SetBoolean(KORISpecAttrKey* key, bool value, int index) = 0;
@@ -59,6 +58,9 @@ class KORISpecAttrAccess : public KORIUnknown {
 
     /// Takes an attribute's value away: it is as if it had never been valued.
     virtual void RemoveValue(KORISpecAttrKey* key) = 0;
+
+protected:
+    ~KORISpecAttrAccess() = default;
 };
 
 using KORISpecAttrAccess_var = KORVar<KORISpecAttrAccess>;

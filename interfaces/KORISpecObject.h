@@ -11,11 +11,10 @@ inline const KORIID IID_KORISpecObject = KORName::Intern("KORISpecObject");
 
 /// A feature (or the start-up from which features are instantiated): an object of a late type that lies in a
 /// container of a document. Its values are reached through KORISpecAttrAccess.
-class KORISpecObject : public KORIUnknown {
-    KORDeclareInterface(KORISpecObject)
-
-        virtual KORUnicodeString GetType() = 0;  ///< the late type, such as "ZELElasticLT"
-    virtual KORUnicodeString GetName() = 0;      ///< the instance name it was given when it was instantiated
+class KORISpecObject : public KORInterface<IID_KORISpecObject> {
+public:
+    virtual KORUnicodeString GetType() = 0;  ///< the late type, such as "ZELElasticLT"
+    virtual KORUnicodeString GetName() = 0;  ///< the instance name it was given when it was instantiated
 
     /// The container the feature lies in, with one reference for the caller; null for a start-up and for a
     /// feature that was removed.
@@ -32,6 +31,9 @@ class KORISpecObject : public KORIUnknown {
     /// for the caller; null when this is no start-up or the container takes no features.
     [[nodiscard]] virtual KORISpecObject* Instantiate(const KORUnicodeString& name,
                                                       KORIContainer* container) = 0;
+
+protected:
+    ~KORISpecObject() = default;
 };
 
 using KORISpecObject_var = KORVar<KORISpecObject>;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 /// The handle through which the material shares its behaviors with callers: several proxies share one object
 /// and one counter, and the last to let go deletes the object. Plain counting, for the application thread. T
@@ -11,7 +12,7 @@
 template <class T>
 class ZELGenHeapObjectProxy {
 public:
-    /// Takes the object over; null makes an empty proxy.
+    /// Takes the object over, as InsertObject does; null makes an empty proxy.
     explicit ZELGenHeapObjectProxy(T* object = nullptr) {
         if (object) InsertObject(object);
     }
@@ -33,11 +34,13 @@ public:
         if (counter && --*counter < 1) Delete(object, counter);
     }
 
-    /// Lets go, then takes the object over with a counter of its own, also when it is null.
+    /// Lets go, then takes the object over with a counter of its own, also when it is null. When there is no
+    /// memory for the counter (std::bad_alloc), the object is deleted and the proxy is empty.
     void InsertObject(T* object) {
+        std::unique_ptr<T> taken(object);
         killObject();
         counter_ = new std::int32_t(1);
-        object_ = object;
+        object_ = taken.release();
     }
 
     bool IsObject() const { return object_ != nullptr; }

@@ -11,9 +11,8 @@ inline const KORIID IID_ZELIHyperelasticMaterialModel = KORName::Intern("ZELIHyp
 /// length. What the columns mean is fixed by the model that the hyperelastic behavior names, not here.
 ///
 /// Every failure is E_FAIL; the argument of a getter is untouched then, but for GetPropertyData.
-class ZELIHyperelasticMaterialModel : public KORIUnknown {
-    KORDeclareInterface(ZELIHyperelasticMaterialModel)
-
+class ZELIHyperelasticMaterialModel : public KORInterface<IID_ZELIHyperelasticMaterialModel> {
+public:
     virtual HRESULT GetStrainEnergyPotentialOrder(int& order) = 0;
     virtual HRESULT SetStrainEnergyPotentialOrder(int order) = 0;  ///< no range check
     virtual HRESULT GetPropertyTemperatureDependent(unsigned char& dependent) = 0;
@@ -28,6 +27,9 @@ class ZELIHyperelasticMaterialModel : public KORIUnknown {
     /// Replaces the stored rows. A failure in the middle leaves the rows stored so far. Row features are
     /// reused from one call to the next on the same object; those no longer listed stay in the document.
     virtual HRESULT SetPropertyData(const ZELCftArrayZELCftArrayDouble& rows) = 0;
+
+protected:
+    ~ZELIHyperelasticMaterialModel() = default;
 };
 
 using ZELIHyperelasticMaterialModel_var = KORVar<ZELIHyperelasticMaterialModel>;

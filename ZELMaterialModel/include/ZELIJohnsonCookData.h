@@ -9,9 +9,8 @@ inline const KORIID IID_ZELIJohnsonCookData = KORName::Intern("ZELIJohnsonCookDa
 ///
 /// E_NOINTERFACE when the feature offers no attribute access, E_FAIL when it lacks the attribute; the
 /// argument of a getter is untouched then.
-class ZELIJohnsonCookData : public KORIUnknown {
-    KORDeclareInterface(ZELIJohnsonCookData)
-
+class ZELIJohnsonCookData : public KORInterface<IID_ZELIJohnsonCookData> {
+public:
     virtual HRESULT GetCoeffA(double& value) = 0;  ///< A, initial yield stress, Pa
     virtual HRESULT SetCoeffA(const double& value) = 0;
     virtual HRESULT GetCoeffB(double& value) = 0;  ///< B, hardening modulus, Pa
@@ -24,6 +23,9 @@ class ZELIJohnsonCookData : public KORIUnknown {
     virtual HRESULT SetMeltingTemperature(const double& value) = 0;
     virtual HRESULT GetTransitionTemperature(double& value) = 0;  ///< K
     virtual HRESULT SetTransitionTemperature(const double& value) = 0;
+
+protected:
+    ~ZELIJohnsonCookData() = default;
 };
 
 using ZELIJohnsonCookData_var = KORVar<ZELIJohnsonCookData>;

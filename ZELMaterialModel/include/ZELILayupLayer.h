@@ -9,9 +9,8 @@ inline const KORIID IID_ZELILayupLayer = KORName::Intern("ZELILayupLayer");
 /// degrees).
 ///
 /// S_OK or E_FAIL; the argument of a getter is untouched on failure.
-class ZELILayupLayer : public KORIUnknown {
-    KORDeclareInterface(ZELILayupLayer)
-
+class ZELILayupLayer : public KORInterface<IID_ZELILayupLayer> {
+public:
     /// The platform material that the layer is made of.
     virtual HRESULT SetMaterial(const KORISpecObject_var& material) = 0;
 
@@ -25,6 +24,9 @@ class ZELILayupLayer : public KORIUnknown {
 
     /// The analysis data of the layer's material. E_FAIL when there are none, or the way to them is broken.
     virtual HRESULT GetMaterialData(ZELIMaterial_var& data) = 0;
+
+protected:
+    ~ZELILayupLayer() = default;
 };
 
 using ZELILayupLayer_var = KORVar<ZELILayupLayer>;

@@ -20,9 +20,8 @@ inline const KORIID IID_ZELIMaterial = KORName::Intern("ZELIMaterial");
 /// The analysis properties of a material, on features of late type "ZELMaterialLT". Each operation makes the
 /// caller's proxy let go of what it held and share the material's behavior; it is empty afterwards when the
 /// material has none.
-class ZELIMaterial : public KORIUnknown {
-    KORDeclareInterface(ZELIMaterial)
-
+class ZELIMaterial : public KORInterface<IID_ZELIMaterial> {
+public:
     virtual void GetElasticProperties(ZELGenHeapObjectProxy<ZELMaterialElastic>& proxy) = 0;
     virtual void GetPlasticProperties(ZELGenHeapObjectProxy<ZELMaterialPlastic>& proxy) = 0;
     virtual void GetDensityProperties(ZELGenHeapObjectProxy<ZELMaterialDensity>& proxy) = 0;
@@ -37,6 +36,9 @@ class ZELIMaterial : public KORIUnknown {
         ZELGenHeapObjectProxy<ZELGasketTransverseShearElasticBehavior>& proxy) = 0;
     virtual void GetGasketMembraneElasticProperties(
         ZELGenHeapObjectProxy<ZELGasketMembraneElasticBehavior>& proxy) = 0;
+
+protected:
+    ~ZELIMaterial() = default;
 };
 
 using ZELIMaterial_var = KORVar<ZELIMaterial>;

@@ -8,9 +8,8 @@ inline const KORIID IID_ZELIMaterialPropertiesFact = KORName::Intern("ZELIMateri
 
 /// Factory of analysis data, obtained from the component "ZELMaterialPropertiesFact". It keeps no state;
 /// every call works only on its arguments.
-class ZELIMaterialPropertiesFact : public KORIUnknown {
-    KORDeclareInterface(ZELIMaterialPropertiesFact)
-
+class ZELIMaterialPropertiesFact : public KORInterface<IID_ZELIMaterialPropertiesFact> {
+public:
     /// Creates the complete analysis data of a platform material, in the material's own container: a
     /// "ZELMaterialLT" feature with one fresh feature per behavior beneath it, and the starting values of
     /// the gasket behaviors. Every call makes a new tree; hanging it on the material is the caller's
@@ -35,6 +34,9 @@ class ZELIMaterialPropertiesFact : public KORIUnknown {
     /// of it.
     [[nodiscard]] virtual HRESULT CreateLayupLayer(const KORISpecObject_var& context,
                                                    KORISpecObject_var& layer) = 0;
+
+protected:
+    ~ZELIMaterialPropertiesFact() = default;
 };
 
 using ZELIMaterialPropertiesFact_var = KORVar<ZELIMaterialPropertiesFact>;

@@ -79,7 +79,7 @@ void* KORFeature::OwnInterface(KORIID iid) {
 
 std::uint32_t KORFeature::Generation() const {
     const KORStoreDocument* document = StoreDocument();
-    return document ? document->Log().Generation() : 0;
+    return document ? document->Log().Generation() : type_->LastGeneration();
 }
 
 KORDocument* KORFeature::GetDocument() {

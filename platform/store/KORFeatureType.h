@@ -16,7 +16,13 @@ public:
 
     const KORLayout& Layout() const { return layout_; }
     KORStoreDocument* Document() const { return document_; }  ///< null once it is closed
-    void ForgetDocument() { document_ = nullptr; }
+
+    /// The document is being closed. Its generation stays what it was: what was out of date remains so.
+    void ForgetDocument(std::uint32_t generation) {
+        document_ = nullptr;
+        lastGeneration_ = generation;
+    }
+    std::uint32_t LastGeneration() const { return lastGeneration_; }
 
     void AddRef() { ++references_; }
     void Release() {
@@ -30,4 +36,5 @@ private:
     KORLayoutHandle handle_;
     const KORLayout& layout_;
     std::int32_t references_ = 1;
+    std::uint32_t lastGeneration_ = 0;  ///< of the document, once it is closed
 };

@@ -17,13 +17,13 @@ void KORStoreDocument::DropUndeclaredOf(std::uint32_t number) noexcept {
 }
 
 void KORStoreDocument::CloseStore() noexcept {
-    log_.Clear();
+    log_.Drop();
     features_.ForEach([](KORFeature& feature) { feature.AddRef(); });
     features_.ForEach([](KORFeature& feature) { feature.Clear(); });
     features_.ForEach([](KORFeature& feature) { feature.Release(); });
     for (KORFeatureType* type : types_) {
         if (!type) continue;
-        type->ForgetDocument();
+        type->ForgetDocument(log_.Generation());
         type->Release();
     }
     types_.clear();

@@ -26,6 +26,10 @@ bool KORUndoLog::Redo() noexcept {
 void KORUndoLog::Clear() noexcept {
     done_ = 0;
     steps_.clear();
+}
+
+void KORUndoLog::Drop() noexcept {
+    Clear();
     open_.clear();
 }
 

@@ -43,7 +43,13 @@ public:
     bool Redo() noexcept;
 
     std::uint32_t Generation() const { return generation_; }
-    void Clear() noexcept;  ///< forgets everything; what is done stays done
+
+    /// Forgets the committed steps; what is done stays done. An open step keeps its changes, to roll them
+    /// back or to be the first one remembered.
+    void Clear() noexcept;
+
+    /// Forgets the open step's changes, too: the document is being closed.
+    void Drop() noexcept;
 
     bool IsOpen() const { return stamp_ != 0; }
 

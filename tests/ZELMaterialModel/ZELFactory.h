@@ -7,8 +7,7 @@
 
 /// A new factory component, as callers of the module get it.
 inline ZELIMaterialPropertiesFact_var ZELFactory() {
-    void* found = nullptr;
-    EXPECT_EQ(KORInstantiateComponent("ZELMaterialPropertiesFact", IID_ZELIMaterialPropertiesFact, &found),
-              S_OK);
-    return ZELIMaterialPropertiesFact_var::Adopt(static_cast<ZELIMaterialPropertiesFact*>(found));
+    ZELIMaterialPropertiesFact_var factory;
+    EXPECT_EQ(KORInstantiate("ZELMaterialPropertiesFact", factory), S_OK);
+    return factory;
 }

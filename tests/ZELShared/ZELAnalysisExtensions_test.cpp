@@ -18,10 +18,9 @@ protected:
     }
 
     ZELIKqcAnalysisCaseFact_var CaseFactory() {
-        void* found = nullptr;
-        EXPECT_EQ(S_OK,
-                  KORInstantiateComponent("ZELKqcAnalysisCaseFact", IID_ZELIKqcAnalysisCaseFact, &found));
-        return ZELIKqcAnalysisCaseFact_var::Adopt(static_cast<ZELIKqcAnalysisCaseFact*>(found));
+        ZELIKqcAnalysisCaseFact_var factory;
+        EXPECT_EQ(S_OK, KORInstantiate("ZELKqcAnalysisCaseFact", factory));
+        return factory;
     }
     int PropertySets() const {
         int count = 0;

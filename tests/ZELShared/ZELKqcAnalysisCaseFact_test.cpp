@@ -13,9 +13,9 @@ using testing::ElementsAre;
 namespace {
 
 ZELIKqcAnalysisCaseFact_var NewFactory() {
-    void* found = nullptr;
-    EXPECT_EQ(KORInstantiateComponent("ZELKqcAnalysisCaseFact", IID_ZELIKqcAnalysisCaseFact, &found), S_OK);
-    return ZELIKqcAnalysisCaseFact_var::Adopt(static_cast<ZELIKqcAnalysisCaseFact*>(found));
+    ZELIKqcAnalysisCaseFact_var factory;
+    EXPECT_EQ(KORInstantiate("ZELKqcAnalysisCaseFact", factory), S_OK);
+    return factory;
 }
 
 class ZELKqcAnalysisCaseFactTest : public ZELStoreTest {

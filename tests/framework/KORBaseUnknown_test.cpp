@@ -13,7 +13,8 @@ namespace {
 class Extension final : public KORBaseUnknown {
     KORDeclareClass
 
-        public : Extension() {
+public:
+    Extension() {
         ++living;
         ++made;
         try {
@@ -50,9 +51,8 @@ KORBaseUnknown* Extension::CreateItself() {
 class Neighbour final : public KORBaseUnknown {
     KORDeclareClass
 
-        public : Neighbour() {
-        ++living;
-    }
+public:
+    Neighbour() { ++living; }
     ~Neighbour() override { --living; }
     static inline int living = 0;
 };
@@ -73,6 +73,17 @@ const KORFillDictionary kName(Extension::MetaObject(), KORITestName::MetaObject(
                               &KORCreateTie<TIEKORITestName<Extension>>, nullptr, 1);
 const KORFillDictionary kStranger(Neighbour::MetaObject(), KORITestStranger::MetaObject(),
                                   &KORCreateTie<TIEKORITestStranger<Neighbour>>, nullptr, 1);
+
+/// Holds the next object of a chain.
+class Link final : public KORBaseUnknown {
+public:
+    explicit Link(KORBaseUnknown_var rest) : rest_(std::move(rest)) { ++living; }
+    ~Link() override { --living; }
+    static inline int living = 0;
+
+private:
+    KORBaseUnknown_var rest_;
+};
 
 /// A feature that extensions can be asked of; afterwards nothing of it is left.
 class KORExtension : public testing::Test {
@@ -122,6 +133,25 @@ TEST(KORBaseUnknown, AnswersItselfAsItsIdentity) {
     EXPECT_EQ(KORBaseUnknown_var::Of(feature.Get()).Get(), feature.Get());
     EXPECT_EQ(feature->MainObject(), feature.Get());
     EXPECT_EQ(feature->References(), 1);
+}
+
+TEST(KORBaseUnknown, AnswersTheRootOfAllInterfacesWithItsIdentity) {
+    const auto feature = MakeTestFeature("RootLT");
+
+    const auto root = KORVar<KORIUnknown>::Of(feature.Get());
+
+    EXPECT_EQ(root.Get(), static_cast<KORIUnknown*>(feature.Get()));
+    EXPECT_EQ(feature->References(), 2);
+}
+
+TEST(KORBaseUnknown, GoesWithALongChainOfObjectsThatHoldEachOther) {
+    KORBaseUnknown_var chain;
+    for (int i = 0; i < 100'000; ++i) chain = KORBaseUnknown_var::Adopt(new Link(std::move(chain)));
+    ASSERT_EQ(Link::living, 100'000);
+
+    chain = nullptr;
+
+    EXPECT_EQ(Link::living, 0);
 }
 
 TEST(KORBaseUnknown, RefusesInterfacesThatNobodyImplementsOnItsType) {
@@ -411,6 +441,25 @@ TEST_F(KORExtension, OfAnOlderGenerationGoesWithoutTakingTheNewOneAlong) {
 
     EXPECT_EQ(KORITestValue_var(feature_), fresh);
     EXPECT_EQ(Extension::living, 1);
+}
+
+TEST_F(KORExtension, IsFoundByItsQueryWhenItsConstructorRaisesTheGeneration) {
+    Extension::inConstructor = [this](Extension&) { ++feature_->generation; };
+
+    const KORITestValue_var value = feature_;
+
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(KORITestValue_var(feature_), value) << "it knows the data as they are";
+    EXPECT_EQ(KORITestName_var(feature_)->Name(), "extension");
+    EXPECT_EQ(Extension::living, 1);
+}
+
+TEST_F(KORExtension, AnswersTheRootOfAllInterfacesWithItsFeature) {
+    const KORITestValue_var value = feature_;
+
+    EXPECT_EQ(KORVar<KORIUnknown>::Of(value.Get()).Get(), feature_.Get());
+    EXPECT_EQ(KORVar<KORIUnknown>::Of(KORGetImplementation<Extension>(value.Get()).Get()).Get(),
+              feature_.Get());
 }
 
 TEST_F(KORExtension, BuiltOutsideOfAQueryExtendsNothingAndOffersNothing) {

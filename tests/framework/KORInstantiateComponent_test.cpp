@@ -12,9 +12,8 @@ namespace {
 class Component final : public KORBaseUnknown {
     KORDeclareClass
 
-        public : Component() {
-        ++living;
-    }
+public:
+    Component() { ++living; }
     ~Component() override { --living; }
 
     int Value() { return 6; }
@@ -30,8 +29,9 @@ KORBaseUnknown* Component::CreateItself() {
 class ComponentInst final : public KORBaseUnknown {
     KORDeclareClass
 
-        public : HRESULT
-                 CreateInstance(void** out) {
+public:
+    HRESULT
+    CreateInstance(void** out) {
         *out = forgetful ? nullptr : static_cast<KORBaseUnknown*>(new (std::nothrow) Component);
         return *out || forgetful ? S_OK : E_OUTOFMEMORY;
     }
@@ -78,6 +78,27 @@ TEST_F(KORInstantiateComponentTest, AnswersAnInterfaceOfANewComponent) {
     ASSERT_NE(component, nullptr);
     EXPECT_EQ(component->References(), 2) << "its binding and this handle";
     EXPECT_EQ(KORBaseUnknown_var(value).Get(), component.Get()) << "it is its own main object";
+}
+
+TEST_F(KORInstantiateComponentTest, AnswersATypedHandleThatHoldsTheOnlyReference) {
+    KORITestValue_var value;
+
+    ASSERT_EQ(KORInstantiate("Component", value), S_OK);
+
+    EXPECT_EQ(value->Value(), 6);
+    value = nullptr;
+    EXPECT_EQ(Component::living, 0);
+}
+
+TEST_F(KORInstantiateComponentTest, EmptiesTheTypedHandleWhenItFails) {
+    KORITestStranger_var stranger;
+    EXPECT_EQ(KORInstantiate("Component", stranger), E_NOINTERFACE);
+    EXPECT_EQ(stranger, nullptr);
+
+    KORITestValue_var value;
+    ASSERT_EQ(KORInstantiate("Component", value), S_OK);
+    EXPECT_EQ(KORInstantiate("a component that was never named", value), E_FAIL);
+    EXPECT_EQ(value, nullptr);
 }
 
 TEST_F(KORInstantiateComponentTest, MakesAnotherComponentEachTime) {

@@ -1,5 +1,6 @@
 #include "framework/KORLibrary.h"
 
+#include <dlfcn.h>
 #include <gmock/gmock.h>
 
 #include "framework/KORDictionary.h"
@@ -66,6 +67,58 @@ TEST(KORLibrary, IsNotUnloadedUnderItsLivingObjects) {
     value = nullptr;
     EXPECT_EQ(library->Unload(), S_OK);
     EXPECT_EQ(library->Unload(), E_FAIL) << "it is not loaded any more";
+}
+
+TEST(KORLibrary, KeepsTheRecordsWhileAnotherHoldsTheLibrary) {
+    const auto feature = MakeTestFeature("LoadedLT");
+    const auto first = Load();
+    const auto second = Load();
+    EXPECT_NE(KORITestValue_var(feature), nullptr);
+    ASSERT_EQ(KORModule::Of("LoadedModule").Records(), 2u);
+
+    EXPECT_EQ(first->Unload(), S_OK);
+    EXPECT_EQ(KORModule::Of("LoadedModule").Records(), 2u);
+    const KORITestValue_var value = feature;
+    ASSERT_NE(value, nullptr);
+    EXPECT_EQ(value->Value(), 1);
+    EXPECT_EQ(second->Unload(), E_FAIL) << "its objects are counted for all holders";
+}
+
+TEST(KORLibrary, TakesTheRecordsAlongWhenAHolderByAnotherRoadIsTheLast) {
+    const std::size_t entries = KORFillDictionary::Count();
+    void* holder = dlopen(KOR_TEST_MODULE, RTLD_NOW | RTLD_LOCAL);
+    ASSERT_NE(holder, nullptr);
+    const auto library = Load();
+    const auto feature = MakeTestFeature("LoadedLT");
+    EXPECT_NE(KORITestValue_var(feature), nullptr);
+
+    EXPECT_EQ(library->Unload(), S_OK);
+    EXPECT_EQ(KORModule::Of("LoadedModule").Records(), 2u);
+    EXPECT_EQ(KORITestValue_var(feature)->Value(), 1);
+
+    dlclose(holder);
+    EXPECT_EQ(KORModule::Of("LoadedModule").Records(), 0u);
+    EXPECT_EQ(KORFillDictionary::Count(), entries);
+    EXPECT_EQ(KORITestValue_var(feature), nullptr);
+}
+
+TEST(KORLibrary, LeavesNoCallContextBehindWhenItsCallsWereObserved) {
+    struct Counter final : KORCallObserver {
+        void Called(const KORTieRecord&, const char*, KORBaseUnknown*) override { ++calls; }
+        int calls = 0;
+    } counter;
+    KORCallObserver* const outer = Tie_StackCtx::Observe(&counter);
+    const auto feature = MakeTestFeature("LoadedLT");
+
+    for (int round = 1; round <= 3; ++round) {  // what is left behind shows as a leak
+        const auto library = Load();
+        EXPECT_EQ(KORITestValue_var(feature)->Value(), 1);
+        EXPECT_EQ(library->Unload(), S_OK);
+    }
+
+    Tie_StackCtx::Observe(outer);
+    EXPECT_EQ(counter.calls, 3);
+    EXPECT_EQ(KORModule::Of("LoadedModule").Records(), 0u);
 }
 
 TEST(KORLibrary, FindsExportedSymbolsWhileItIsLoaded) {

@@ -90,6 +90,18 @@ TEST(KORSharedBuffer, CountsItsBareFormLikeABuffer) {
     Buffer::Drop(nullptr);
 }
 
+TEST(KORSharedBuffer, LosesNothingWhenLessThanItsSizeIsReserved) {
+    const auto feature = MakeTestFeature("BufferedLT");
+    Buffer buffer = Of({feature, feature, feature});
+    const Buffer copy = buffer;
+
+    buffer.Reserve(1);
+
+    EXPECT_NE(buffer.First(), copy.First()) << "a block of its own";
+    EXPECT_EQ(buffer.Size(), 3);
+    EXPECT_EQ(feature->References(), 7);
+}
+
 TEST(KORSharedBuffer, HasRoomForWhatWasReservedUnlessItIsShared) {
     KORSharedBuffer<double> numbers;
     numbers.Reserve(100);

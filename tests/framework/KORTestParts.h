@@ -12,19 +12,24 @@ inline const KORIID IID_KORITestName = KORName::Intern("KORITestName");
 inline const KORIID IID_KORITestStranger = KORName::Intern("KORITestStranger");
 
 /// Interfaces of the test: two that test classes implement, and one that none does.
-class KORITestValue : public KORIUnknown {
-    KORDeclareInterface(KORITestValue)
-
-        virtual int Value() = 0;
+class KORITestValue : public KORInterface<IID_KORITestValue> {
+public:
+    virtual int Value() = 0;
     virtual void SetValue(int value) = 0;
-};
-class KORITestName : public KORIUnknown {
-    KORDeclareInterface(KORITestName)
 
-        virtual std::string Name() = 0;
+protected:
+    ~KORITestValue() = default;
 };
-class KORITestStranger : public KORIUnknown {
-    KORDeclareInterface(KORITestStranger)
+class KORITestName : public KORInterface<IID_KORITestName> {
+public:
+    virtual std::string Name() = 0;
+
+protected:
+    ~KORITestName() = default;
+};
+class KORITestStranger : public KORInterface<IID_KORITestStranger> {
+protected:
+    ~KORITestStranger() = default;
 };
 
 using KORITestValue_var = KORVar<KORITestValue>;

@@ -15,9 +15,8 @@ namespace {
 class Bound final : public KORBaseUnknown {
     KORDeclareClass
 
-        public : Bound() {
-        ++living;
-    }
+public:
+    Bound() { ++living; }
     ~Bound() override { --living; }
 
     int Value() { return value_; }
@@ -254,7 +253,7 @@ TEST(KORTie, GoesOnCallingThroughItsContextWhenNobodyObservesAnyMore) {
 
     const auto another = MakeTestFeature("BoundLT");
     EXPECT_EQ(KORITestValue_var(another)->Value(), 1);
-    EXPECT_EQ(ValueRecord().context, context) << "contexts live for ever";
+    EXPECT_EQ(ValueRecord().context, context) << "it lives as long as the record";
 }
 
 TEST(Tie_StackCtx, ReportsToTheLastObserverOnly) {

@@ -2,6 +2,7 @@
 
 #include "ZELMaterialModel/include/ZELIMaterial.h"
 #include "ZELMaterialModel/include/ZELMaterialDensity.h"
+#include "ZELMaterialModel/include/ZELMaterialElastic.h"
 #include "framework/KORExport.h"
 
 namespace {
@@ -30,4 +31,19 @@ extern "C" KOR_EXPORT int HoldDensity(KORISpecObject* feature) {
 
 extern "C" KOR_EXPORT void DropDensity() {
     held.killObject();
+}
+
+extern "C" KOR_EXPORT HRESULT CutElasticTable(KORISpecObject* feature) {
+    ZELGenHeapObjectProxy<ZELMaterialElastic> behavior;
+    if (const auto material = ZELIMaterial_var::Of(feature)) material->GetElasticProperties(behavior);
+    if (!behavior.IsObject() || FAILED(behavior->SetElasticEnabled(1))) return E_FAIL;
+    const double row[] = {210e9, 0.3};
+    const ZELCftArraydouble rows[] = {ZELCftArraydouble(2, row), ZELCftArraydouble(2, row)};
+    return behavior->SetElasticDataArray(ZELCftArrayZELCftArrayDouble(2, rows));
+}
+
+extern "C" KOR_EXPORT ZELCftArrayZELCftArrayDouble* TakeElasticTable(KORISpecObject* feature) {
+    ZELGenHeapObjectProxy<ZELMaterialElastic> behavior;
+    if (const auto material = ZELIMaterial_var::Of(feature)) material->GetElasticProperties(behavior);
+    return behavior.IsObject() ? new ZELCftArrayZELCftArrayDouble(behavior->GetElasticDataArray()) : nullptr;
 }

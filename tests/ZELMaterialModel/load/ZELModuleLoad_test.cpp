@@ -1,54 +1,19 @@
-#include <dlfcn.h>
-#include <gmock/gmock.h>
-
 #include "ZELMaterialModel/include/ZELIMaterial.h"
 #include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
 #include "framework/KORDictionary.h"
-#include "framework/KORLibrary.h"
 #include "framework/KORTrace.h"
-#include "tests/ZELMaterialModel/load/ZELCaller.h"
-#include "tests/support/ZELDiagnostics.h"
-#include "tests/support/ZELMapStore.h"
+#include "tests/ZELMaterialModel/load/ZELHandedOut.h"
 
 namespace {
-
-constexpr const char* kModule = "ZELMaterialModel";
 
 /// What the framework keeps of loaded modules.
 struct Registrations {
     std::size_t entries = KORFillDictionary::Count();
-    std::size_t records = KORModule::Of(kModule).Records();
+    std::size_t records = KORModule::Of(kZELLoadedModule).Records();
     std::size_t traces = KORTrace::Channels().size();
-    long objects = KORModule::Of(kModule).LiveObjects();
+    long objects = KORModule::Of(kZELLoadedModule).LiveObjects();
 
     friend bool operator==(const Registrations&, const Registrations&) = default;
-};
-
-bool IsInProcess(const char* path) {
-    void* handle = dlopen(path, RTLD_NOW | RTLD_NOLOAD);
-    if (handle) dlclose(handle);
-    return handle != nullptr;
-}
-
-/// The caller's library, loaded while it lives.
-class Caller {
-public:
-    Caller() : handle_(dlopen(ZEL_CALLER_LIBRARY, RTLD_NOW | RTLD_LOCAL)) {
-        if (!handle_) ADD_FAILURE() << dlerror();
-    }
-    ~Caller() {
-        if (handle_) dlclose(handle_);
-    }
-    Caller(const Caller&) = delete;
-    Caller& operator=(const Caller&) = delete;
-
-    template <class Operation>
-    Operation Find(const char* name) const {
-        return reinterpret_cast<Operation>(dlsym(handle_, name));
-    }
-
-private:
-    void* handle_;
 };
 
 /// A program that knows the module by its interfaces and its path only.
@@ -60,12 +25,12 @@ protected:
     }
     void Load() {
         std::string error;
-        library_ = KORLibrary::Load(ZEL_MODULE_LIBRARY, kModule, error);
+        library_ = KORLibrary::Load(ZEL_MODULE_LIBRARY, kZELLoadedModule, error);
         EXPECT_EQ(error, "");
     }
     void ExpectGone() {
         EXPECT_EQ(Registrations(), before_);
-        EXPECT_FALSE(IsInProcess(ZEL_MODULE_LIBRARY));
+        EXPECT_FALSE(ZELIsInProcess(ZEL_MODULE_LIBRARY));
         EXPECT_FALSE(ZELIMaterial_var(material_));
     }
 
@@ -84,7 +49,7 @@ protected:
 
 TEST_F(ZELModuleLoad, BringsTheModulesInterfacesWithTheLibrary) {
     ASSERT_TRUE(library_);
-    EXPECT_TRUE(IsInProcess(ZEL_MODULE_LIBRARY));
+    EXPECT_TRUE(ZELIsInProcess(ZEL_MODULE_LIBRARY));
     EXPECT_GT(Registrations().entries, before_.entries);
     EXPECT_EQ(Registrations().traces, before_.traces + 1);
 
@@ -103,12 +68,12 @@ TEST_F(ZELModuleLoad, TakesEverythingAwayWhenItIsUnloadedAfterUseAndComesBack) {
     for (int round = 1; round <= 3; ++round) {
         ASSERT_TRUE(library_);
         {
-            const Caller caller;
+            const ZELCaller caller;
             const auto storeDensity = caller.Find<ZELStoreDensity>("StoreDensity");
             ASSERT_NE(storeDensity, nullptr);
             EXPECT_EQ(storeDensity(material_.Get(), 7000.0 + round), 7000.0 + round);
         }
-        EXPECT_EQ(KORModule::Of(kModule).LiveObjects(), 0);
+        EXPECT_EQ(KORModule::Of(kZELLoadedModule).LiveObjects(), 0);
 
         EXPECT_EQ(library_->Unload(), S_OK);
 
@@ -125,7 +90,7 @@ TEST_F(ZELModuleLoad, StaysWhileAnInterfaceIsHeld) {
 
     EXPECT_EQ(library_->Unload(), E_FAIL);
 
-    EXPECT_TRUE(IsInProcess(ZEL_MODULE_LIBRARY));
+    EXPECT_TRUE(ZELIsInProcess(ZEL_MODULE_LIBRARY));
     EXPECT_EQ(ZELIMaterial_var(material_), material) << "and goes on";
     material = nullptr;
     EXPECT_EQ(library_->Unload(), S_OK);
@@ -135,12 +100,12 @@ TEST_F(ZELModuleLoad, StaysWhileAnInterfaceIsHeld) {
 TEST_F(ZELModuleLoad, StaysWhileABehaviorIsHeld) {
     ASSERT_TRUE(library_);
     {
-        const Caller caller;
+        const ZELCaller caller;
         EXPECT_EQ(caller.Find<ZELHoldDensity>("HoldDensity")(material_.Get()), 1) << "no extension any more";
 
         EXPECT_EQ(library_->Unload(), E_FAIL);
 
-        EXPECT_TRUE(IsInProcess(ZEL_MODULE_LIBRARY));
+        EXPECT_TRUE(ZELIsInProcess(ZEL_MODULE_LIBRARY));
         EXPECT_EQ(caller.Find<ZELStoreDensity>("StoreDensity")(material_.Get(), 7850.0), 7850.0);
         caller.Find<ZELDropDensity>("DropDensity")();
     }

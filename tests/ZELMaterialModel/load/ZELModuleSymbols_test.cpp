@@ -5,6 +5,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
+#include <regex>
 #include <set>
 
 using testing::IsEmpty;
@@ -16,16 +17,17 @@ struct Symbol {
     unsigned binding;
 };
 
-/// The symbols that a 64-bit ELF library defines for others.
-class DynamicSymbols {
+/// The symbols that a 64-bit ELF library defines.
+class LibrarySymbols {
 public:
-    explicit DynamicSymbols(const char* path) {
+    /// Those of a table of the library: SHT_DYNSYM or SHT_SYMTAB.
+    explicit LibrarySymbols(const char* path, unsigned kind) {
         std::ifstream file(path, std::ios::binary);
         bytes_.assign(std::istreambuf_iterator<char>(file), {});
         const auto header = At<Elf64_Ehdr>(0);
         for (unsigned i = 0; i < header.e_shnum; ++i) {
             const auto section = At<Elf64_Shdr>(header.e_shoff + i * header.e_shentsize);
-            if (section.sh_type != SHT_DYNSYM) continue;
+            if (section.sh_type != kind) continue;
             Read(section, At<Elf64_Shdr>(header.e_shoff + section.sh_link * header.e_shentsize));
         }
     }
@@ -42,8 +44,9 @@ private:
     void Read(const Elf64_Shdr& table, const Elf64_Shdr& names) {
         for (std::size_t offset = 0; offset < table.sh_size; offset += sizeof(Elf64_Sym)) {
             const auto symbol = At<Elf64_Sym>(table.sh_offset + offset);
-            const bool defined = symbol.st_shndx != SHN_UNDEF;
-            if (!defined || ELF64_ST_VISIBILITY(symbol.st_other) != STV_DEFAULT) continue;
+            if (symbol.st_shndx == SHN_UNDEF) continue;
+            const bool hidden = ELF64_ST_VISIBILITY(symbol.st_other) != STV_DEFAULT;
+            if (table.sh_type == SHT_DYNSYM && hidden) continue;
             const char* name = bytes_.data() + names.sh_offset + symbol.st_name;
             symbols.push_back({name, static_cast<unsigned>(ELF64_ST_BIND(symbol.st_info))});
         }
@@ -63,7 +66,7 @@ protected:
         return missing;
     }
 
-    const std::vector<Symbol> symbols_ = DynamicSymbols(ZEL_MODULE_LIBRARY).symbols;
+    const std::vector<Symbol> symbols_ = LibrarySymbols(ZEL_MODULE_LIBRARY, SHT_DYNSYM).symbols;
 };
 
 /// One for each interface that a class of the module implements.
@@ -89,14 +92,21 @@ const std::vector<std::string> kClosedClasses = {"ZELMaterialPropertiesFactInst"
                                                  "ZELELayupValidity",
                                                  "ZELELayupLayer"};
 
+std::string Mangled(const std::string& name) {
+    return std::to_string(name.size()) + name;
+}
+
 /// Each class's own, as the compiler writes their names.
 std::vector<std::string> ClassWide(const std::vector<std::string>& owners) {
     std::vector<std::string> names;
     for (const std::string& owner : owners) {
         for (const std::string member : {"ClassName", "ClassId", "MetaObject", "CreateItself"}) {
-            names.push_back("_ZN" + std::to_string(owner.size()) + owner + std::to_string(member.size()) +
-                            member + "Ev");
+            names.push_back("_ZN" + Mangled(owner) + Mangled(member) + "Ev");
         }
+        for (const std::string member : {"IsA", "GetMetaObject"}) {
+            names.push_back("_ZNK" + Mangled(owner) + Mangled(member) + "Ev");
+        }
+        names.push_back("_ZNK" + Mangled(owner) + Mangled("IsAKindOf") + "EPKc");
     }
     return names;
 }
@@ -131,6 +141,23 @@ TEST_F(ZELModuleSymbols, ShowTheMaterialsOperationsAndTheBehaviorClasses) {
                  "_ZN23ZELMaterialSpecificHeatC1EP14KORISpecObject",
                  "_ZN27ZELMaterialThermalExpansionC1EP14KORISpecObject"}),
         IsEmpty());
+}
+
+TEST_F(ZELModuleSymbols, HoldNoTableOfAnObjectThatOutlivesTheModule) {
+    // The module's classes, their bindings and what is abstract. Everything else is made by its own library.
+    const std::vector<std::string> own = {"_ZTV\\d+ZEL.*", "_ZTV\\d+TIE(ZELI|KORI).*",
+                                          "_ZTV6KORTieI\\d+(ZELI|KORI).*", "_ZTV\\d+KORI[A-Z]\\w*",
+                                          "_ZTV12KORInterfaceI.*"};
+    std::vector<std::string> foreign;
+    for (const Symbol& symbol : LibrarySymbols(ZEL_MODULE_LIBRARY, SHT_SYMTAB).symbols) {
+        if (!symbol.name.starts_with("_ZTV")) continue;
+        const auto matches = [&](const std::string& pattern) {
+            return std::regex_match(symbol.name, std::regex(pattern));
+        };
+        if (std::ranges::none_of(own, matches)) foreign.push_back(symbol.name);
+    }
+
+    EXPECT_THAT(foreign, IsEmpty());
 }
 
 TEST_F(ZELModuleSymbols, AreNeverUniqueToTheProcessSoThatTheLibraryCanBeUnloaded) {

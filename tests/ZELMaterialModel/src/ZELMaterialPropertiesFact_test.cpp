@@ -44,10 +44,9 @@ const std::vector<Branch> kBranches = {
 };
 
 ZELIMaterialPropertiesFact_var Factory() {
-    void* found = nullptr;
-    EXPECT_EQ(KORInstantiateComponent("ZELMaterialPropertiesFact", IID_ZELIMaterialPropertiesFact, &found),
-              S_OK);
-    return ZELIMaterialPropertiesFact_var::Adopt(static_cast<ZELIMaterialPropertiesFact*>(found));
+    ZELIMaterialPropertiesFact_var factory;
+    EXPECT_EQ(KORInstantiate("ZELMaterialPropertiesFact", factory), S_OK);
+    return factory;
 }
 
 /// What of the tree a root has, in the order of the branches.

@@ -316,6 +316,23 @@ TEST_F(KORFeatureTest, IgnoresWritesOnceItsDocumentIsClosed) {
     EXPECT_FALSE(feature->LiesInContainer());
 }
 
+TEST_F(KORFeatureTest, GoesWithALongChainOfFeaturesThatReferenceEachOther) {
+    const std::size_t before = document->Features().Size();
+    KORVar<KORFeature> head = NewFeature();
+    for (int i = 1; i < 100'000; ++i) {
+        auto next = NewFeature();
+        next->SetComponent(other, head.Get(), 0);
+        head->SetContainer(nullptr);
+        head = std::move(next);
+    }
+    head->SetContainer(nullptr);
+    ASSERT_EQ(document->Features().Size(), before + 100'000);
+
+    head = nullptr;
+
+    EXPECT_EQ(document->Features().Size(), before);
+}
+
 TEST_F(KORFeatureTest, WritingTheSameValueAgainChangesNothing) {
     feature->SetDouble(length, kNaN, 0);
     feature->SetListOfDouble(numbers, KORNumbers({1.0, kNaN}));

@@ -11,17 +11,20 @@ namespace {
 inline const KORIID IID_KORISeen = KORName::Intern("KORISeen");
 
 /// An extension of the test's late type that remembers what it saw when it was built.
-class KORISeen : public KORIUnknown {
-    KORDeclareInterface(KORISeen)
+class KORISeen : public KORInterface<IID_KORISeen> {
+public:
+    virtual double Length() = 0;
 
-        virtual double Length() = 0;
+protected:
+    ~KORISeen() = default;
 };
 using KORISeen_var = KORVar<KORISeen>;
 
 class KORESeen final : public KORBaseUnknown {
     KORDeclareClass
 
-        public : KORESeen() {
+public:
+    KORESeen() {
         const auto access = KORISpecAttrAccess_var::Of(static_cast<KORBaseUnknown*>(this));
         length_ = access->GetDouble(KORName::Intern("Length"), 0);
     }
@@ -32,7 +35,7 @@ private:
 };
 KORImplementClass(KORESeen, KORClassKind::DataExtension, "KORTestLT", "KORTestModule")
 
-    KORBaseUnknown* KORESeen::CreateItself() {
+KORBaseUnknown* KORESeen::CreateItself() {
     return new KORESeen;
 }
 
@@ -420,6 +423,56 @@ TEST_F(KORUndoLogTest, MakesTheNextQueryBuildAFreshExtension) {
 
     EXPECT_EQ(2.0, before->Length());
     EXPECT_EQ(1.5, after->Length());
+}
+
+TEST_F(KORUndoLogTest, LeavesOutdatedExtensionsOutdatedWhenTheDocumentIsClosed) {
+    SetLength(2.0);
+    const auto before = KORISeen_var::Of(feature.Get());
+    document->Undo();
+    const auto after = KORISeen_var::Of(feature.Get());
+    ASSERT_NE(before, after);
+
+    document->Close();
+
+    EXPECT_EQ(after, KORISeen_var::Of(feature.Get()));
+    EXPECT_EQ(1.5, KORISeen_var::Of(before.Get())->Length());
+}
+
+TEST_F(KORUndoLogTest, RollsBackAnOpenStepInWhichItWasCleared) {
+    SetLength(2.0);
+    {
+        const KORStep step(*document, "Abandoned");
+        feature->SetDouble(length, 3.0, 0);
+        {
+            KORStep inner(*document, "Inner");
+            feature->SetInteger(count, 8, 0);
+            log.Clear();
+            feature->SetDouble(length, 4.0, 0);
+            inner.Commit();
+        }
+        feature->SetDouble(length, 5.0, 0);
+    }
+
+    EXPECT_EQ(2.0, feature->GetDouble(length, 0));
+    EXPECT_EQ(7, feature->GetInteger(count, 0));
+    EXPECT_TRUE(log.Steps().empty());
+    EXPECT_TRUE(log.OpenEntries().empty());
+}
+
+TEST_F(KORUndoLogTest, RemembersTheOpenStepInWhichItWasClearedAsItsFirst) {
+    SetLength(2.0);
+    {
+        KORStep step(*document, "Kept");
+        feature->SetDouble(length, 3.0, 0);
+        log.Clear();
+        step.Commit();
+    }
+
+    ASSERT_EQ(1u, log.Steps().size());
+    EXPECT_EQ("Kept", log.Steps()[0].name);
+    EXPECT_TRUE(document->Undo());
+    EXPECT_EQ(2.0, feature->GetDouble(length, 0));
+    EXPECT_FALSE(document->Undo());
 }
 
 TEST_F(KORUndoLogTest, CostsOneEntryForOneScalarHoweverLargeTheDocument) {
