@@ -20,6 +20,34 @@ void FillRows(std::index_sequence<Column...>, const double* const* columns, int 
     }
 }
 
+/// Rows to columns with room for them, in one walk over the rows, which are what is far apart in memory.
+template <std::size_t... Column>
+void FillColumns(std::index_sequence<Column...>, const ZELCftArrayZELCftArrayDouble& table,
+                 KORRawColldouble* lists) {
+    const int rows = table.size();
+    double* const to[] = {lists[Column].Extend(rows)...};
+    for (int row = 0; row < rows; ++row) {
+        const ZELCftArraydouble& numbers = table[row];
+        ((to[Column][row] = numbers[static_cast<int>(Column)]), ...);
+    }
+}
+
+/// Calls `fill` with the indices of so many columns, one to kMostColumns, known to the compiler.
+template <class Fill>
+void ForWidth(std::size_t columns, Fill fill) {
+    switch (columns) {
+        case 1:
+            fill(std::make_index_sequence<1>());
+            break;
+        case 2:
+            fill(std::make_index_sequence<2>());
+            break;
+        default:
+            fill(std::make_index_sequence<kMostColumns>());
+            break;
+    }
+}
+
 }  // namespace
 
 KORRawColldouble ZELColumnOf(const ZELCftArrayZELCftArrayDouble& table, int column) {
@@ -37,13 +65,13 @@ HRESULT ZELWriteColumns(KORISpecObject* feature, ZELColumnSlots columns,
                         const ZELCftArrayZELCftArrayDouble& table, bool temperatureDependent) {
     const auto access = KORISpecAttrAccess_var::Of(feature);
     if (!access) return E_NOINTERFACE;
-    const std::size_t temperature = columns.size() - 1;
+    std::array<KORRawColldouble, kMostColumns> lists;
+    ForWidth(temperatureDependent ? columns.size() : columns.size() - 1,
+             [&](auto indices) { FillColumns(indices, table, lists.data()); });
     for (std::size_t column = 0; column < columns.size(); ++column) {
         KORISpecAttrKey* key = columns[column].Resolve(*access);
         if (!key) return E_FAIL;
-        const bool filled = column != temperature || temperatureDependent;
-        access->SetListOfDouble(key,
-                                filled ? ZELColumnOf(table, static_cast<int>(column)) : KORRawColldouble());
+        access->SetListOfDouble(key, lists[column]);
     }
     return S_OK;
 }
@@ -74,17 +102,7 @@ HRESULT ZELReadColumns(KORISpecObject* feature, ZELColumnSlots columns, bool tem
     int rows = lists[0]->Size();
     for (std::size_t column = 1; column < used; ++column) rows = std::min(rows, lists[column]->Size());
     table.Resize(rows);
-    switch (used) {
-        case 1:
-            FillRows(std::make_index_sequence<1>(), values.data(), rows, table);
-            break;
-        case 2:
-            FillRows(std::make_index_sequence<2>(), values.data(), rows, table);
-            break;
-        default:
-            FillRows(std::make_index_sequence<kMostColumns>(), values.data(), rows, table);
-            break;
-    }
+    ForWidth(used, [&](auto indices) { FillRows(indices, values.data(), rows, table); });
     if (rows < lists[0]->Size()) outcome = ZELColumnsRead::Inconsistent;
     return S_OK;
 }
