@@ -113,7 +113,7 @@ void CoefficientWatch::CheckWidths(const std::string& material) {
 void CoefficientWatch::Upgraded(KORFeature& now, const KORUpgradedFeature& told) {
     if (!older_) return;
     const OlderCoefficients newer = ReadOlderCoefficients(now);
-    const std::vector<CardColumn> columns = Columns();
+    const std::vector<ColumnKind> columns = Columns();
     ConvertedCoefficients converted{older_->model, older_->order, unit_, stored_, {}};
     for (std::size_t row = 0; row < std::min(older_->rows.size(), newer.rows.size()); ++row) {
         const auto& before = older_->rows[row];
@@ -146,19 +146,19 @@ void CoefficientWatch::CheckResults(const std::string& material, const Converted
         {"from " + unit_ + " to " + stored_});
 }
 
-double CoefficientWatch::FactorOf(const CardColumn& column) const {
+double CoefficientWatch::FactorOf(const ColumnKind& column) const {
     if (column.unit == "Pa") return factor_;
     return column.unit == "1/Pa" ? 1.0 / factor_ : 1.0;
 }
 
-std::vector<CardColumn> CoefficientWatch::Columns() const {
+std::vector<ColumnKind> CoefficientWatch::Columns() const {
     // An order is whatever the document says: no more columns are named than can tell that a row is too
     // short.
     const bool isPolynomial = older_->model == "POLYNOMIAL";
     const int most = isPolynomial ? kHighestPolynomial : static_cast<int>(older_->Width()) + 1;
     const int order = std::clamp(older_->order, 0, most);
     const auto form = HyperelasticForm(older_->model, order);
-    return form ? form->ColumnsOf(older_->temperatureDependent) : std::vector<CardColumn>();
+    return form ? form->ColumnsOf(older_->temperatureDependent) : std::vector<ColumnKind>();
 }
 
 void CoefficientWatch::Add(FindingKind kind, const char* code, std::string text,

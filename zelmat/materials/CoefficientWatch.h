@@ -7,8 +7,8 @@
 
 #include "platform/document/KORUpgradeRun.h"
 #include "zelmat/findings/Findings.h"
-#include "zelmat/materials/CardTableKind.h"
 #include "zelmat/materials/OlderCoefficients.h"
+#include "zelmat/materials/TableKind.h"
 
 namespace zelmat {
 
@@ -47,8 +47,8 @@ private:
     bool IsNoGuess(const std::string& material);
     void CheckWidths(const std::string& material);
     void CheckResults(const std::string& material, const ConvertedCoefficients& converted);
-    double FactorOf(const CardColumn& column) const;
-    std::vector<CardColumn> Columns() const;  ///< of the older rows' model; none when it is not known
+    double FactorOf(const ColumnKind& column) const;
+    std::vector<ColumnKind> Columns() const;  ///< of the older rows' model; none when it is not known
     void Add(FindingKind kind, const char* code, std::string text, std::vector<std::string> details);
 
     const std::string file_;

@@ -368,7 +368,7 @@ TEST(ZELColumnCalls, StopAtTheColumnWhoseKeyIsMissing) {
         columns.Write(store.Make("TableLT"), {{1.0, 2.0, 3.0}}, true);
 
         EXPECT_EQ(store.Calls().Log().size(), calls) << missing;
-        EXPECT_EQ(store.Calls().Log().back(), std::string("GetAttrKey TableLT.") + missing);
+        EXPECT_EQ(store.Calls().Log().back(), std::string("GetAttrKey TableLT.") + missing + " not found");
     }
 }
 

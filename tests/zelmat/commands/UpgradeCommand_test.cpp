@@ -173,7 +173,7 @@ TEST_F(UpgradeCommand, SaysWhatHangsInThePlaceOfAMovedMaterial) {
 }
 
 TEST_F(UpgradeCommand, EndsWithThreeAndTheLineOfABrokenDocument) {
-    const ProgramRun run = Upgrade("{\n\"format\": 1,\n\"features\": [\n{\"id\": 1, \"type\": \"OtherLT\"}]}",
+    const ProgramRun run = Upgrade("{\n\"format\": 1,\n\"features\": [\n{\"id\": \"one\", \"type\": \"OtherLT\"}]}",
                                    {"--output", newer_});
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_EQ(run.out, "");
