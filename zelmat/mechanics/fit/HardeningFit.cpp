@@ -128,22 +128,14 @@ Outcome<std::vector<StressStrain>> Counting(const std::vector<StressStrain>& poi
     return counting;
 }
 
-void Measure(HardeningFit& fit, const std::vector<StressStrain>& points,
-             const std::vector<double>& coefficients) {
-    double absolute = 0.0, relative = 0.0, stressed = 0.0, mean = 0.0, spread = 0.0;
-    const auto count = static_cast<double>(points.size());
-    for (const StressStrain& point : points) mean += point.stress / count;
+FitDeviation Deviation(HardeningLaw law, const std::vector<double>& coefficients,
+                       const std::vector<StressStrain>& points) {
+    std::vector<double> computed, measured;
     for (const StressStrain& point : points) {
-        const double deviation = StressOf(fit.law, coefficients, point.strain).stress - point.stress;
-        absolute += deviation * deviation;
-        spread += (point.stress - mean) * (point.stress - mean);
-        if (point.stress == 0.0) continue;
-        relative += deviation * deviation / (point.stress * point.stress);
-        stressed += 1.0;
+        computed.push_back(StressOf(law, coefficients, point.strain).stress);
+        measured.push_back(point.stress);
     }
-    fit.rmsAbsolute = std::sqrt(absolute / count);
-    fit.rmsRelative = stressed > 0.0 ? std::sqrt(relative / stressed) : 0.0;
-    if (spread > 0.0) fit.rSquared = 1.0 - absolute / spread;
+    return DeviationOf(computed, measured);
 }
 
 }  // namespace
@@ -166,7 +158,6 @@ Outcome<HardeningFit> FitHardening(HardeningLaw law, const std::vector<StressStr
     const auto uncertainty = UncertaintyOf(*best, identity);
     HardeningFit fit{};
     fit.law = law;
-    fit.points = counting->size();
     std::vector<double> coefficients;
     for (std::size_t i = 0; i < names.size(); ++i) {
         const bool isStress = names[i] != "n" && !names[i].starts_with("e_");
@@ -182,7 +173,7 @@ Outcome<HardeningFit> FitHardening(HardeningLaw law, const std::vector<StressStr
         fit.notes.push_back("the points cannot tell the coefficients apart: others give the same stress");
     }
     fit.correlations = StrongCorrelations(uncertainty, names);
-    Measure(fit, *counting, coefficients);
+    fit.deviation = Deviation(law, coefficients, *counting);
     return fit;
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "zelmat/mechanics/Outcome.h"
+#include "zelmat/mechanics/fit/FitDeviation.h"
 #include "zelmat/mechanics/fit/TestCurve.h"
 #include "zelmat/mechanics/fit/Uncertainty.h"
 #include "zelmat/mechanics/plastic/HardeningLaw.h"
@@ -16,10 +16,7 @@ namespace zelmat::mechanics {
 struct HardeningFit {
     HardeningLaw law;
     std::vector<FittedCoefficient> coefficients;  ///< as CoefficientNames; stresses in the unit of the points
-    std::size_t points;                           ///< that count
-    double rmsRelative;                           ///< over the points of a stress that is not zero
-    double rmsAbsolute;
-    std::optional<double> rSquared;  ///< nothing where the stresses do not differ
+    FitDeviation deviation;                       ///< of the points that count
     std::vector<Correlation> correlations;
     std::vector<std::string> notes;
 };

@@ -248,26 +248,14 @@ std::vector<double> HyperelasticFit::Values() const {
 
 std::optional<FitDeviation> DeviationOf(const StrainEnergy& energy, const std::vector<FitPoint>& points) {
     if (points.empty()) return std::nullopt;
-    const auto count = static_cast<double>(points.size());
-    double mean = 0.0, absolute = 0.0, relative = 0.0, spread = 0.0, stressed = 0.0;
-    for (const FitPoint& point : points) mean += point.nominalStress / count;
+    std::vector<double> computed, measured;
     for (const FitPoint& point : points) {
         const auto response = Respond(energy, point.mode, point.stretch);
         if (!response.Ok()) return std::nullopt;
-        const double deviation = response->nominalStress - point.nominalStress;
-        absolute += deviation * deviation;
-        spread += (point.nominalStress - mean) * (point.nominalStress - mean);
-        if (point.nominalStress == 0.0) continue;
-        stressed += 1.0;
-        relative += deviation * deviation / (point.nominalStress * point.nominalStress);
+        computed.push_back(response->nominalStress);
+        measured.push_back(point.nominalStress);
     }
-    FitDeviation result{.points = points.size(),
-                        .rmsRelative = {},
-                        .rmsAbsolute = std::sqrt(absolute / count),
-                        .rSquared = {}};
-    if (stressed > 0.0) result.rmsRelative = std::sqrt(relative / stressed);
-    if (spread > 0.0) result.rSquared = 1.0 - absolute / spread;
-    return result;
+    return DeviationOf(computed, measured);
 }
 
 Outcome<HyperelasticFit> FitHyperelastic(HyperelasticModel model, int order,

@@ -4,20 +4,12 @@
 #include <string>
 #include <vector>
 
+#include "zelmat/mechanics/fit/FitDeviation.h"
 #include "zelmat/mechanics/fit/TestCurve.h"
 #include "zelmat/mechanics/fit/Uncertainty.h"
 #include "zelmat/mechanics/hyperelastic/Stability.h"
 
 namespace zelmat::mechanics {
-
-/// How near a set of coefficients comes to the points of one mode, or of all.
-struct FitDeviation {
-    std::size_t points;
-    std::optional<double>
-        rmsRelative;                 ///< of (P - measured)/measured over the points whose stress is not zero
-    double rmsAbsolute;              ///< of P - measured, in the unit of stress
-    std::optional<double> rSquared;  ///< of the stresses; nothing where they do not differ
-};
 
 struct ModeDeviation {
     LoadingMode mode;
@@ -58,8 +50,8 @@ struct HyperelasticFit {
 Outcome<HyperelasticFit> FitHyperelastic(HyperelasticModel model, int order,
                                          const std::vector<TestCurve>& curves, DeviationMeasure measure);
 
-/// How near given coefficients come to the tests, all modes together; nothing where the potential ends before
-/// a point. The same measure as in a fit: every point counts alike, whatever its weight.
+/// How near given coefficients come to the tests; nothing without points and where the potential ends before
+/// one.
 std::optional<FitDeviation> DeviationOf(const StrainEnergy& energy, const std::vector<FitPoint>& points);
 
 }  // namespace zelmat::mechanics

@@ -9,6 +9,7 @@ namespace zelmat::mechanics {
 namespace {
 
 constexpr int kIterations = 500;
+constexpr int kRounds = 5;  ///< of descending with the parameters at their bounds held
 
 class Cost final : public ceres::CostFunction {
 public:
@@ -47,39 +48,77 @@ bool IsAt(double value, double bound) {
     return std::abs(bound) < kUnbounded && std::abs(value - bound) <= 1e-9 * std::max(1.0, std::abs(bound));
 }
 
+std::vector<bool> AtBounds(const LeastSquaresProblem& problem, const std::vector<double>& parameters) {
+    std::vector<bool> at;
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+        at.push_back(IsAt(parameters[i], problem.lower[i]) || IsAt(parameters[i], problem.upper[i]));
+    }
+    return at;
+}
+
+double SumOfSquares(const Residuals& residuals) {
+    double sum = 0.0;
+    for (const double value : residuals.values) sum += value * value;
+    return sum;
+}
+
+/// Moves the parameters that are not held downhill as far as the solver gets; whether it came to rest.
+bool Descend(const LeastSquaresProblem& problem, std::vector<double>& parameters,
+             const std::vector<bool>& held) {
+    std::vector<int> constant;
+    for (std::size_t i = 0; i < held.size(); ++i) {
+        if (held[i]) constant.push_back(static_cast<int>(i));
+    }
+    const int count = static_cast<int>(parameters.size());
+    if (static_cast<int>(constant.size()) == count) return true;
+
+    ceres::Problem solved;
+    solved.AddResidualBlock(new Cost(problem), nullptr, parameters.data());
+    if (!constant.empty()) solved.SetManifold(parameters.data(), new ceres::SubsetManifold(count, constant));
+    for (int i = 0; i < count; ++i) {
+        const auto place = static_cast<std::size_t>(i);
+        if (problem.lower[place] > -kUnbounded)
+            solved.SetParameterLowerBound(parameters.data(), i, problem.lower[place]);
+        if (problem.upper[place] < kUnbounded)
+            solved.SetParameterUpperBound(parameters.data(), i, problem.upper[place]);
+    }
+    ceres::Solver::Summary summary;
+    ceres::Solve(Options(), &solved, &summary);
+    return summary.termination_type == ceres::CONVERGENCE;
+}
+
 }  // namespace
 
 std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, std::vector<double> start) {
     for (std::size_t i = 0; i < start.size(); ++i) {
         start[i] = std::clamp(start[i], problem.lower[i], problem.upper[i]);
     }
-    if (!problem.evaluate(start)) return std::nullopt;
-
-    ceres::Problem solved;
-    solved.AddResidualBlock(new Cost(problem), nullptr, start.data());
-    for (std::size_t i = 0; i < start.size(); ++i) {
-        if (problem.lower[i] > -kUnbounded) {
-            solved.SetParameterLowerBound(start.data(), static_cast<int>(i), problem.lower[i]);
-        }
-        if (problem.upper[i] < kUnbounded) {
-            solved.SetParameterUpperBound(start.data(), static_cast<int>(i), problem.upper[i]);
-        }
-    }
-    ceres::Solver::Summary summary;
-    ceres::Solve(Options(), &solved, &summary);
-
     auto residuals = problem.evaluate(start);
     if (!residuals) return std::nullopt;
-    LeastSquaresResult result{.parameters = start,
-                              .residuals = std::move(*residuals),
-                              .sum = 0.0,
-                              .converged = summary.termination_type == ceres::CONVERGENCE,
-                              .atBound = {}};
-    for (const double value : result.residuals.values) result.sum += value * value;
-    for (std::size_t i = 0; i < start.size(); ++i) {
-        result.atBound.push_back(IsAt(start[i], problem.lower[i]) || IsAt(start[i], problem.upper[i]));
+
+    // The solver's steps are cut off at the bounds and stall there before the other parameters have come to
+    // rest: these descend once more with the ones at their bounds held, then all of them again, in case one
+    // wants to leave its bound.
+    bool converged = false;
+    double before = 0.0;
+    for (int round = 0; round < kRounds; ++round) {
+        converged = Descend(problem, start, std::vector<bool>(start.size(), false));
+        const auto held = AtBounds(problem, start);
+        if (std::none_of(held.begin(), held.end(), [](bool at) { return at; })) break;
+        converged = Descend(problem, start, held);
+        residuals = problem.evaluate(start);
+        if (!residuals) return std::nullopt;
+        const double sum = SumOfSquares(*residuals);
+        if (round > 0 && sum >= before * (1.0 - 1e-12)) break;
+        before = sum;
     }
-    return result;
+    residuals = problem.evaluate(start);
+    if (!residuals) return std::nullopt;
+    return LeastSquaresResult{.parameters = start,
+                              .residuals = *residuals,
+                              .sum = SumOfSquares(*residuals),
+                              .converged = converged,
+                              .atBound = AtBounds(problem, start)};
 }
 
 }  // namespace zelmat::mechanics

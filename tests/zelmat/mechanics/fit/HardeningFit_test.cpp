@@ -43,8 +43,8 @@ TEST(HardeningFit, FindsTheCoefficientsBehindACurve) {
         EXPECT_NEAR(voce.coefficients[0].value, 150e6, 150);
         EXPECT_NEAR(voce.coefficients[1].value, 400e6, 400);
         EXPECT_NEAR(voce.coefficients[2].value, 0.05, 5e-8);
-        EXPECT_LT(voce.rmsRelative, 1e-9);
-        EXPECT_NEAR(voce.rSquared.value(), 1, 1e-12);
+        EXPECT_LT(voce.deviation.rmsRelative.value(), 1e-9);
+        EXPECT_NEAR(voce.deviation.rSquared.value(), 1, 1e-12);
     }
 }
 
