@@ -17,10 +17,18 @@ namespace {
 using enum HyperelasticModel;
 
 constexpr int kGreatestOrder = 8;
-constexpr double kNearlySame = 0.01;  ///< RMS deviations that differ by less are nearly the same
+constexpr int kFewIterations = 40;     ///< that every start gets
+constexpr std::size_t kFinalists = 5;  ///< starts that are followed until they come to rest
+constexpr double kNearlySame = 0.01;   ///< RMS deviations that differ by less are nearly the same
 constexpr double kDifferent =
-    0.01;                        ///< coefficients that differ by more, relative to the greatest of their kind
+    0.01;  ///< coefficients that differ by more are different, relative to the greater one
 constexpr double kExact = 1e-9;  ///< an RMS deviation of exact data
+constexpr double kMet = 1e-12;   ///< an RMS deviation that no other start needs to improve
+
+void SortBySum(std::vector<LeastSquaresResult>& minima) {
+    std::sort(minima.begin(), minima.end(),
+              [](const LeastSquaresResult& a, const LeastSquaresResult& b) { return a.sum < b.sum; });
+}
 
 /// Data and model in a unit in which the stresses are of the order of 1.
 class ScaledFit {
@@ -37,7 +45,9 @@ public:
         }
     }
 
-    /// Every minimum that a start leads to, the smallest sum first.
+    /// The minima that the most promising starts lead to, the smallest sum first: all starts descend for a
+    /// while, the best of them until they come to rest. One that meets the tests exactly ends the search:
+    /// that other coefficients would, too, is seen in its derivatives.
     std::vector<LeastSquaresResult> Minima() const {
         const LeastSquaresProblem problem{
             .lower = parameters_.Lower(),
@@ -46,11 +56,17 @@ public:
             .evaluate = [this](const std::vector<double>& parameters) { return Evaluate(parameters); }};
         std::vector<LeastSquaresResult> minima;
         for (const auto& start : FitStarts(model_, order_, points_, weights_)) {
-            if (auto minimum = Minimise(problem, parameters_.Parameters(start)))
-                minima.push_back(std::move(*minimum));
+            auto minimum = Minimise(problem, parameters_.Parameters(start), kFewIterations);
+            if (!minimum) continue;
+            if (minimum->sum < kMet * kMet * static_cast<double>(points_.size())) return {*minimum};
+            minima.push_back(std::move(*minimum));
         }
-        std::sort(minima.begin(), minima.end(),
-                  [](const LeastSquaresResult& a, const LeastSquaresResult& b) { return a.sum < b.sum; });
+        SortBySum(minima);
+        minima.resize(std::min(minima.size(), kFinalists));
+        for (LeastSquaresResult& minimum : minima) {
+            if (!minimum.converged) minimum = Minimise(problem, minimum.parameters).value_or(minimum);
+        }
+        SortBySum(minima);
         return minima;
     }
 

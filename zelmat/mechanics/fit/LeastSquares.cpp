@@ -8,7 +8,6 @@ namespace zelmat::mechanics {
 
 namespace {
 
-constexpr int kIterations = 500;
 constexpr int kRounds = 5;  ///< of descending with the parameters at their bounds held
 
 class Cost final : public ceres::CostFunction {
@@ -30,12 +29,12 @@ private:
     const LeastSquaresProblem& problem_;
 };
 
-ceres::Solver::Options Options() {
+ceres::Solver::Options Options(int iterations) {
     ceres::Solver::Options options;
     options.linear_solver_type = ceres::DENSE_QR;
     options.logging_type = ceres::SILENT;
     options.num_threads = 1;
-    options.max_num_iterations = kIterations;
+    options.max_num_iterations = iterations;
     options.max_num_consecutive_invalid_steps = 30;
     options.function_tolerance = 1e-15;
     options.gradient_tolerance = 1e-16;
@@ -64,7 +63,7 @@ double SumOfSquares(const Residuals& residuals) {
 
 /// Moves the parameters that are not held downhill as far as the solver gets; whether it came to rest.
 bool Descend(const LeastSquaresProblem& problem, std::vector<double>& parameters,
-             const std::vector<bool>& held) {
+             const std::vector<bool>& held, int iterations) {
     std::vector<int> constant;
     for (std::size_t i = 0; i < held.size(); ++i) {
         if (held[i]) constant.push_back(static_cast<int>(i));
@@ -83,13 +82,14 @@ bool Descend(const LeastSquaresProblem& problem, std::vector<double>& parameters
             solved.SetParameterUpperBound(parameters.data(), i, problem.upper[place]);
     }
     ceres::Solver::Summary summary;
-    ceres::Solve(Options(), &solved, &summary);
+    ceres::Solve(Options(iterations), &solved, &summary);
     return summary.termination_type == ceres::CONVERGENCE;
 }
 
 }  // namespace
 
-std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, std::vector<double> start) {
+std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, std::vector<double> start,
+                                           int iterations) {
     for (std::size_t i = 0; i < start.size(); ++i) {
         start[i] = std::clamp(start[i], problem.lower[i], problem.upper[i]);
     }
@@ -102,10 +102,10 @@ std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, s
     bool converged = false;
     double before = 0.0;
     for (int round = 0; round < kRounds; ++round) {
-        converged = Descend(problem, start, std::vector<bool>(start.size(), false));
+        converged = Descend(problem, start, std::vector<bool>(start.size(), false), iterations);
         const auto held = AtBounds(problem, start);
         if (std::none_of(held.begin(), held.end(), [](bool at) { return at; })) break;
-        converged = Descend(problem, start, held);
+        converged = Descend(problem, start, held, iterations);
         residuals = problem.evaluate(start);
         if (!residuals) return std::nullopt;
         const double sum = SumOfSquares(*residuals);

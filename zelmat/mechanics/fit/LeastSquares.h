@@ -32,8 +32,12 @@ struct LeastSquaresResult {
     std::vector<bool> atBound;
 };
 
+/// Iterations after which a descent that has not come to rest is given up.
+constexpr int kManyIterations = 500;
+
 /// The nearest minimum downhill from the start, which is moved into the bounds first. Nothing where the model
 /// has no value at the start. Levenberg-Marquardt of Ceres Solver.
-std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, std::vector<double> start);
+std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, std::vector<double> start,
+                                           int iterations = kManyIterations);
 
 }  // namespace zelmat::mechanics
