@@ -3,12 +3,24 @@
 #include <ceres/ceres.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zelmat::mechanics {
 
 namespace {
 
 constexpr int kRounds = 5;  ///< of descending with the parameters at their bounds held
+
+/// A value or a derivative that is not finite counts as no value.
+std::optional<Residuals> FiniteAt(const LeastSquaresProblem& problem, const std::vector<double>& parameters) {
+    auto residuals = problem.evaluate(parameters);
+    const auto finite = [](double value) { return std::isfinite(value); };
+    if (!residuals || !std::all_of(residuals->values.begin(), residuals->values.end(), finite) ||
+        !std::all_of(residuals->jacobian.begin(), residuals->jacobian.end(), finite)) {
+        return std::nullopt;
+    }
+    return residuals;
+}
 
 class Cost final : public ceres::CostFunction {
 public:
@@ -18,7 +30,7 @@ public:
     }
 
     bool Evaluate(double const* const* parameters, double* values, double** jacobians) const override {
-        const auto at = problem_.evaluate({parameters[0], parameters[0] + problem_.lower.size()});
+        const auto at = FiniteAt(problem_, {parameters[0], parameters[0] + problem_.lower.size()});
         if (!at) return false;
         std::copy(at->values.begin(), at->values.end(), values);
         if (jacobians && jacobians[0]) std::copy(at->jacobian.begin(), at->jacobian.end(), jacobians[0]);
@@ -93,7 +105,7 @@ std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, s
     for (std::size_t i = 0; i < start.size(); ++i) {
         start[i] = std::clamp(start[i], problem.lower[i], problem.upper[i]);
     }
-    auto residuals = problem.evaluate(start);
+    auto residuals = FiniteAt(problem, start);
     if (!residuals) return std::nullopt;
 
     // The solver's steps are cut off at the bounds and stall there before the other parameters have come to
@@ -106,13 +118,13 @@ std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, s
         const auto held = AtBounds(problem, start);
         if (std::none_of(held.begin(), held.end(), [](bool at) { return at; })) break;
         converged = Descend(problem, start, held, iterations);
-        residuals = problem.evaluate(start);
+        residuals = FiniteAt(problem, start);
         if (!residuals) return std::nullopt;
         const double sum = SumOfSquares(*residuals);
         if (round > 0 && sum >= before * (1.0 - 1e-12)) break;
         before = sum;
     }
-    residuals = problem.evaluate(start);
+    residuals = FiniteAt(problem, start);
     if (!residuals) return std::nullopt;
     return LeastSquaresResult{.parameters = start,
                               .residuals = *residuals,

@@ -20,7 +20,8 @@ constexpr double kUnbounded = std::numeric_limits<double>::max();
 struct LeastSquaresProblem {
     std::vector<double> lower, upper;  ///< by parameter; -kUnbounded and kUnbounded for none
     std::size_t residuals;
-    /// Nothing where the model has no value: such a place is never accepted.
+    /// Nothing where the model has no value: such a place is never accepted, nor is one with numbers that are
+    /// not finite.
     std::function<std::optional<Residuals>(const std::vector<double>& parameters)> evaluate;
 };
 
