@@ -4,7 +4,7 @@
 
 #include "platform/catalog/KORCatalogReader.h"
 
-std::shared_ptr<const KORCatalogFile> KORCatalogFile::Open(const std::string& path, KORJsonError& error) {
+std::shared_ptr<const KORCatalogFile> KORCatalogFile::Open(const std::string& path, KORFileError& error) {
     static auto& parsed = *new std::unordered_map<std::string, std::shared_ptr<const KORCatalogFile>>;
     const auto known = parsed.find(path);
     if (known != parsed.end()) return known->second;
@@ -15,12 +15,12 @@ std::shared_ptr<const KORCatalogFile> KORCatalogFile::Open(const std::string& pa
 }
 
 std::shared_ptr<const KORCatalogFile> KORCatalogFile::FromText(const std::string& text,
-                                                               const std::string& name, KORJsonError& error) {
+                                                               const std::string& name, KORFileError& error) {
     const auto file = KORJsonFile::Parse(text, name, error);
     return file ? Build(*file, error) : nullptr;
 }
 
-std::shared_ptr<const KORCatalogFile> KORCatalogFile::Build(const KORJsonFile& file, KORJsonError& error) {
+std::shared_ptr<const KORCatalogFile> KORCatalogFile::Build(const KORJsonFile& file, KORFileError& error) {
     KORCatalogReader reader(file);
     std::vector<KORCatalogType> types = reader.Read();
     if (reader.Error()) {

@@ -32,12 +32,12 @@ public:
     /// The catalog at a path. Each file is parsed once per process. Null, and `error` filled, when it is
     /// missing, no JSON, or not a complete catalog; a failure is not remembered.
     [[nodiscard]] static std::shared_ptr<const KORCatalogFile> Open(const std::string& path,
-                                                                    KORJsonError& error);
+                                                                    KORFileError& error);
 
     /// A catalog from a text at hand; `name` is what errors call it.
     [[nodiscard]] static std::shared_ptr<const KORCatalogFile> FromText(const std::string& text,
                                                                         const std::string& name,
-                                                                        KORJsonError& error);
+                                                                        KORFileError& error);
 
     const std::string& Name() const { return name_; }
     const std::vector<KORCatalogType>& Types() const { return types_; }
@@ -47,7 +47,7 @@ private:
     KORCatalogFile(std::string name, std::vector<KORCatalogType> types)
         : name_(std::move(name)), types_(std::move(types)) {}
 
-    static std::shared_ptr<const KORCatalogFile> Build(const KORJsonFile& file, KORJsonError& error);
+    static std::shared_ptr<const KORCatalogFile> Build(const KORJsonFile& file, KORFileError& error);
 
     std::string name_;
     std::vector<KORCatalogType> types_;

@@ -81,7 +81,7 @@ private:
 /// Builds the values while they are read.
 class Builder final : public ValueReader<Builder> {
 public:
-    Builder(json& root, const Place& place, KORJsonError& error)
+    Builder(json& root, const Place& place, KORFileError& error)
         : next_(&root), place_(place), error_(error) {}
 
     bool key(string_t& name) override {
@@ -140,7 +140,7 @@ private:
 
     json* next_;  ///< the root, or the member whose key was read last
     const Place& place_;
-    KORJsonError& error_;
+    KORFileError& error_;
     std::vector<json*> open_;  ///< an array does not grow while one of its elements is open
 };
 
@@ -196,13 +196,6 @@ private:
 
 }  // namespace
 
-std::string KORJsonError::Text() const {
-    std::string text = file + ":";
-    if (line > 0) text += std::to_string(line) + ":";
-    if (column > 0) text += std::to_string(column) + ":";
-    return text + " " + message;
-}
-
 std::string KORShownText(std::string_view text) {
     constexpr std::size_t kLongest = 60;
     std::string shown = json(text).dump(-1, ' ', false, json::error_handler_t::replace);
@@ -212,11 +205,11 @@ std::string KORShownText(std::string_view text) {
     return shown.substr(0, end) + "...\"";
 }
 
-std::optional<KORJsonFile> KORJsonFile::Read(const std::string& path, KORJsonError& error) {
+std::optional<KORJsonFile> KORJsonFile::Read(const std::string& path, KORFileError& error) {
     std::ifstream file(path, std::ios::binary);
     file.peek();  // a directory opens, but cannot be read
     if (!file.is_open() || file.bad()) {
-        error = {path, 0, 0, std::string("cannot be read: ") + std::strerror(errno)};
+        error = {path, 0, 0, "cannot be read", std::strerror(errno)};
         return std::nullopt;
     }
     std::ostringstream text;
@@ -225,7 +218,7 @@ std::optional<KORJsonFile> KORJsonFile::Read(const std::string& path, KORJsonErr
 }
 
 std::optional<KORJsonFile> KORJsonFile::Parse(std::string text, const std::string& name,
-                                              KORJsonError& error) {
+                                              KORFileError& error) {
     KORJsonFile file;
     file.name_ = name;
     file.text_ = std::move(text);
@@ -253,6 +246,6 @@ int KORJsonFile::Line(const json& value) const {
     return found != lines_.end() ? found->second : 0;
 }
 
-KORJsonError KORJsonFile::ErrorAt(const json& value, const std::string& message) const {
+KORFileError KORJsonFile::ErrorAt(const json& value, const std::string& message) const {
     return {name_, Line(value), 0, message};
 }

@@ -7,16 +7,7 @@
 #include <string_view>
 #include <unordered_map>
 
-/// What is wrong with a file, and where. Line and column are counted from 1; 0 when the file as a whole is
-/// meant.
-struct KORJsonError {
-    std::string file;
-    int line = 0;
-    int column = 0;
-    std::string message;
-
-    std::string Text() const;  ///< "file:line:column: message", without the numbers that are 0
-};
+#include "platform/catalog/KORFileError.h"
 
 /// A text from a file as messages show it: in quotes, control characters escaped, cut when it is long.
 std::string KORShownText(std::string_view text);
@@ -30,11 +21,11 @@ public:
     static constexpr std::size_t kDeepest = 200;  ///< no reader here needs more than 10
 
     /// Nothing, and `error` filled, when the file cannot be read or is no JSON.
-    [[nodiscard]] static std::optional<KORJsonFile> Read(const std::string& path, KORJsonError& error);
+    [[nodiscard]] static std::optional<KORJsonFile> Read(const std::string& path, KORFileError& error);
 
     /// The same for a text at hand; `name` is what errors call it.
     [[nodiscard]] static std::optional<KORJsonFile> Parse(std::string text, const std::string& name,
-                                                          KORJsonError& error);
+                                                          KORFileError& error);
 
     const nlohmann::json& Root() const { return *root_; }
     const std::string& Name() const { return name_; }
@@ -44,7 +35,7 @@ public:
     int Line(const nlohmann::json& value) const;
 
     /// An error about a value of this text.
-    KORJsonError ErrorAt(const nlohmann::json& value, const std::string& message) const;
+    KORFileError ErrorAt(const nlohmann::json& value, const std::string& message) const;
 
 private:
     KORJsonFile() = default;

@@ -11,7 +11,7 @@
 /// line. Only the first error is kept; once there is one, what was read is of no use.
 class KORJsonReader {
 public:
-    const std::optional<KORJsonError>& Error() const { return error_; }
+    const std::optional<KORFileError>& Error() const { return error_; }
 
 protected:
     using Json = nlohmann::json;
@@ -40,5 +40,5 @@ protected:
 
 private:
     const KORJsonFile& file_;
-    std::optional<KORJsonError> error_;
+    std::optional<KORFileError> error_;
 };

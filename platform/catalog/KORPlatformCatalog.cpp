@@ -22,7 +22,7 @@ constexpr const char* kTypes = R"json({
 })json";
 
 std::shared_ptr<const KORCatalogFile> Read() {
-    KORJsonError error;
+    KORFileError error;
     return KORCatalogFile::FromText(kTypes, "KORPlatformCatalog", error);
 }
 

@@ -44,7 +44,7 @@ KORBaseUnknown* KORMemoryDocument::FindContainer(const char* name) {
 }
 
 std::shared_ptr<const KORCatalogFile> KORMemoryDocument::OpenCatalog(std::string_view fileName) {
-    KORJsonError error;
+    KORFileError error;
     auto file = platform_.OpenCatalog(fileName, error);
     if (file) {
         catalogs_->Add(fileName, file);

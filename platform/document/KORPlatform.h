@@ -25,16 +25,16 @@ public:
     /// The catalog of a file name in the catalog folder. Null, and `error` filled, when it is missing,
     /// malformed or incomplete, and for a name that leads out of the folder.
     [[nodiscard]] std::shared_ptr<const KORCatalogFile> OpenCatalog(std::string_view fileName,
-                                                                    KORJsonError& error);
+                                                                    KORFileError& error);
 
     /// Makes the late types of a catalog known to every document of this platform, beside the platform's own
     /// and without being opened by it. It is the host's choice: also a path is taken. False, and `error`
     /// filled, when it cannot be opened.
-    [[nodiscard]] bool ShareCatalog(std::string_view fileName, KORJsonError& error);
+    [[nodiscard]] bool ShareCatalog(std::string_view fileName, KORFileError& error);
     std::shared_ptr<const KORCatalogSet> SharedCatalogs() const { return shared_; }
 
     /// Says on standard error what went wrong where the caller gets a status only; each error once.
-    void Report(const KORJsonError& error);
+    void Report(const KORFileError& error);
 
 private:
     std::string catalogFolder_;

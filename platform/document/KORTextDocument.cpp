@@ -3,15 +3,15 @@
 #include "platform/document/KORTextReader.h"
 #include "platform/document/KORTextWriter.h"
 
-bool KORTextDocument::Read(const std::string& path, KORJsonError& error) {
+bool KORTextDocument::Read(const std::string& path, KORFileError& error) {
     return Take(KORJsonFile::Read(path, error), error);
 }
 
-bool KORTextDocument::ReadText(const std::string& text, const std::string& name, KORJsonError& error) {
+bool KORTextDocument::ReadText(const std::string& text, const std::string& name, KORFileError& error) {
     return Take(KORJsonFile::Parse(text, name, error), error);
 }
 
-bool KORTextDocument::Take(const std::optional<KORJsonFile>& file, KORJsonError& error) {
+bool KORTextDocument::Take(const std::optional<KORJsonFile>& file, KORFileError& error) {
     if (!file) return false;
     KORTextReader reader(*file, document_);
     reader.Read();
@@ -23,7 +23,7 @@ bool KORTextDocument::Take(const std::optional<KORJsonFile>& file, KORJsonError&
     return true;
 }
 
-std::optional<std::string> KORTextDocument::Write(std::string& error) const {
+std::optional<std::string> KORTextDocument::Write(KORFileError& error) const {
     return KORTextWriter(document_).Write(error);
 }
 

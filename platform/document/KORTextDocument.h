@@ -33,22 +33,22 @@ public:
 
     /// Adds what the file holds to the document. False, `error` filled, and the document and platform as they
     /// were, when something is wrong with it.
-    [[nodiscard]] bool Read(const std::string& path, KORJsonError& error);
+    [[nodiscard]] bool Read(const std::string& path, KORFileError& error);
 
     /// The same for a text at hand; `name` is what errors call it.
-    [[nodiscard]] bool ReadText(const std::string& text, const std::string& name, KORJsonError& error);
+    [[nodiscard]] bool ReadText(const std::string& text, const std::string& name, KORFileError& error);
 
     /// The whole document: its features in the order of their numbers, those in no container that another
     /// one references included, ids from 1 on. Attributes that their late types do not declare come last, in
     /// the order of their names. Nothing, and `error` says why, when a feature references what is no feature
     /// of the document, or a text is no UTF-8.
-    [[nodiscard]] std::optional<std::string> Write(std::string& error) const;
+    [[nodiscard]] std::optional<std::string> Write(KORFileError& error) const;
 
     /// The feature with that id in the text read last; null when there was none, or it is gone.
     KORVar<KORFeature> Find(int id) const;
 
 private:
-    bool Take(const std::optional<KORJsonFile>& file, KORJsonError& error);
+    bool Take(const std::optional<KORJsonFile>& file, KORFileError& error);
 
     KORMemoryDocument& document_;
     std::unordered_map<int, std::uint32_t> numbers_;  ///< by id, of the text read last

@@ -44,7 +44,7 @@ void KORTextReader::ReadCatalogs() {
             return;
         }
         const std::string name = catalog;
-        KORJsonError error;
+        KORFileError error;
         const auto file = document_.Platform().OpenCatalog(name, error);
         if (!file) {
             Fail(catalog, "the catalog " + Quoted(name) + " cannot be opened: " + error.Text());

@@ -25,13 +25,14 @@ std::string Joined(const Range& texts) {
 
 }  // namespace
 
-std::optional<std::string> KORTextWriter::Write(std::string& error) {
+std::optional<std::string> KORTextWriter::Write(KORFileError& error) {
     CollectFeatures();
     WriteHead();
     for (const auto& feature : features_) WriteFeature(*feature);
     text_ += features_.empty() ? "]\n}\n" : "\n  ]\n}\n";
-    error = error_;
-    return error_.empty() ? std::optional(text_) : std::nullopt;
+    if (!error_) return text_;
+    error = *error_;
+    return std::nullopt;
 }
 
 void KORTextWriter::CollectFeatures() {
@@ -157,10 +158,8 @@ std::string KORTextWriter::ReferenceText(const KORFeature& feature, std::string_
     const auto referenced = KORVar<KORFeature>::Of(target);
     const auto id = referenced ? ids_.Find(referenced.Get()) : std::nullopt;
     if (id) return std::to_string(*id);
-    if (error_.empty()) {
-        error_ = "feature " + std::to_string(feature.Number()) + ", " + std::string(name) +
-                 ": references what is no feature of the document";
-    }
+    Fail("feature " + std::to_string(feature.Number()) + ", " + std::string(name) +
+         ": references what is no feature of the document");
     return "null";
 }
 
@@ -168,7 +167,11 @@ std::string KORTextWriter::Quoted(std::string_view text) {
     try {
         return nlohmann::json(text).dump();
     } catch (const nlohmann::json::type_error&) {
-        if (error_.empty()) error_ = "a text is no UTF-8";
+        Fail("a text is no UTF-8");
         return "\"\"";
     }
+}
+
+void KORTextWriter::Fail(std::string message) {
+    if (!error_) error_ = {.message = std::move(message)};
 }

@@ -8,8 +8,9 @@ class KORTextWriter {
 public:
     explicit KORTextWriter(KORMemoryDocument& document) : document_(document) {}
 
-    /// Nothing, and `error` filled, when something cannot be written.
-    std::optional<std::string> Write(std::string& error);
+    /// Nothing, and `error` filled, when something cannot be written. It names no file: the text has none
+    /// yet.
+    std::optional<std::string> Write(KORFileError& error);
 
 private:
     void CollectFeatures();  ///< what lies in a container, and what that references
@@ -21,6 +22,7 @@ private:
     std::string NumbersText(const KORRawColldouble& numbers) const;
     std::string ReferenceText(const KORFeature& feature, std::string_view name, KORBaseUnknown* target);
     std::string Quoted(std::string_view text);
+    void Fail(std::string message);  ///< only the first one counts
 
     KORMemoryDocument& document_;
     std::vector<KORVar<KORFeature>> features_;
@@ -28,5 +30,5 @@ private:
     std::unordered_map<const KORBaseUnknown*, std::string>
         containers_;  ///< quoted names of the applicative ones
     std::string text_;
-    std::string error_;  ///< the first one
+    std::optional<KORFileError> error_;  ///< the first one
 };

@@ -13,7 +13,7 @@ namespace {
 class ZELAnalysisExtensions : public testing::Test {
 protected:
     void SetUp() override {
-        KORJsonError error;
+        KORFileError error;
         ASSERT_TRUE(platform.ShareCatalog(ZELSharedCatalog(), error)) << error.Text();
     }
 

@@ -57,7 +57,7 @@ json Write(const ZELAttribute& attribute) {
 }
 
 ZELLateTypes ReadModuleTypes() {
-    KORJsonError error;
+    KORFileError error;
     const auto catalog = KORCatalogFile::Open(ZELModuleCatalog(), error);
     if (!catalog) throw std::runtime_error(error.Text());
     ZELLateTypes types;

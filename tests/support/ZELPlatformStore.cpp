@@ -22,7 +22,7 @@ std::string NewFolder() {
 }  // namespace
 
 ZELPlatformStore::ZELPlatformStore() : folder_(NewFolder()), types_(ZELModuleTypes()) {
-    KORJsonError error;
+    KORFileError error;
     catalog_ = KORCatalogFile::Open(ZELModuleCatalog(), error);
     std::filesystem::copy_file(ZELModuleCatalog(), std::filesystem::path(folder_) / kCatalog);
     platform_ = std::make_unique<KORPlatform>(folder_);
@@ -39,7 +39,7 @@ ZELPlatformStore::~ZELPlatformStore() {
 void ZELPlatformStore::WriteCatalog() {
     const std::string text = ZELCatalogText(types_);
     std::ofstream(std::filesystem::path(folder_) / kCatalog) << text;
-    KORJsonError error;
+    KORFileError error;
     catalog_ = KORCatalogFile::FromText(text, kCatalog, error);
     if (!catalog_) throw std::runtime_error(error.Text());
 }

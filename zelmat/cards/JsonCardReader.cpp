@@ -28,7 +28,7 @@ constexpr std::array<const char*, 8> kHeadKeys = {"name",  "description",  "clas
 }  // namespace
 
 std::optional<Material> JsonCardReader::Read(const std::string& path) {
-    KORJsonError error;
+    KORFileError error;
     auto read = KORJsonFile::Read(path, error);
     if (!read) {
         findings_.Add(UnreadableFile(path, error, "broken-json"));

@@ -19,7 +19,7 @@ namespace {
 constexpr const char* kPressure = "PRESSURE";
 
 bool ReadDocument(KORTextDocument& text, const std::string& path, Findings& findings) {
-    KORJsonError error;
+    KORFileError error;
     if (text.Read(path, error)) return true;
     findings.Add(UnreadableFile(path, error, "broken-document"));
     return false;
@@ -50,14 +50,15 @@ bool TakePressureUnit(KORUnitsService& units, const std::string& given, const st
 /// False, and a finding, when the document cannot be put there.
 bool WriteDocument(const KORTextDocument& text, const std::string& path, const std::string& input,
                    Findings& findings) {
-    std::string reason;
-    const auto written = text.Write(reason);
+    KORFileError error;
+    const auto written = text.Write(error);
     if (written && path == "-") {
         std::cout << *written;
         return true;
     }
     if (written) return WriteOutputFile(path, *written, {input}, findings).has_value();
-    findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-written", "cannot be written: " + reason, {}});
+    findings.Add(
+        {FindingKind::UNREADABLE, {path, 0}, "not-written", "cannot be written: " + error.Sentence(), {}});
     return false;
 }
 

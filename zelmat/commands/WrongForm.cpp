@@ -32,7 +32,7 @@ bool Has(const nlohmann::json& root, const KnownForm& form) {
 
 /// Null when the file is no JSON object or none of the forms.
 const KnownForm* FormOf(const std::string& path) {
-    KORJsonError error;
+    KORFileError error;
     const auto file = KORJsonFile::Read(path, error);
     if (!file || !file->Root().is_object()) return nullptr;
     for (const KnownForm& form : kTold) {

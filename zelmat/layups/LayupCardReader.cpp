@@ -31,7 +31,7 @@ const std::vector<std::string> kKeys = {"name",       "description",   "source",
 }  // namespace
 
 std::optional<LayupCard> LayupCardReader::Read(const std::string& path) {
-    KORJsonError error;
+    KORFileError error;
     const auto file = KORJsonFile::Read(path, error);
     if (!file) {
         findings_.Add(UnreadableFile(path, error, "broken-json"));

@@ -11,7 +11,7 @@ namespace {
 
 const KORCatalogFile& Catalog() {
     static const auto catalog = [] {
-        KORJsonError error;
+        KORFileError error;
         auto read = KORCatalogFile::FromText(kBuiltInCatalog, "the built-in catalog", error);
         if (!read) throw std::logic_error(error.Text());
         return read;

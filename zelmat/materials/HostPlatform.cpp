@@ -23,16 +23,11 @@ std::string HostPlatform::CatalogPath() const {
 }
 
 bool HostPlatform::OpenCatalog(Findings& findings) {
-    const std::string shared = (std::filesystem::path(catalogs_) / kSharedCatalog).string();
-    KORJsonError error;
-    return Open(CatalogPath(), findings) && Open(shared, findings) &&
-           platform_.ShareCatalog(kSharedCatalog, error);
-}
-
-bool HostPlatform::Open(const std::string& path, Findings& findings) const {
-    KORJsonError error;
-    if (KORCatalogFile::Open(path, error)) return true;
-    findings.Add({FindingKind::UNREADABLE, {path, error.line}, "bad-catalog", error.message, {}});
+    KORFileError error;
+    if (KORCatalogFile::Open(CatalogPath(), error) && platform_.ShareCatalog(kSharedCatalog, error)) {
+        return true;
+    }
+    findings.Add({FindingKind::UNREADABLE, {error.file, error.line}, "bad-catalog", error.Sentence(), {}});
     return false;
 }
 

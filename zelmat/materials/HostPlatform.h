@@ -24,8 +24,6 @@ public:
     [[nodiscard]] bool OpenCatalog(Findings& findings);
 
 private:
-    bool Open(const std::string& path, Findings& findings) const;
-
     // Let go of from the last to the first.
     std::string catalogs_;
     KORPlatform platform_;

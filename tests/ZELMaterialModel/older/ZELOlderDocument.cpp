@@ -48,7 +48,7 @@ std::string ZELOlderTextOverCompleteCatalog(const std::string& name) {
 
 ZELOlderDocument::ZELOlderDocument(const ZELCatalogFolder& catalogs, const std::string& text)
     : platform_(catalogs.Path()) {
-    KORJsonError error;
+    KORFileError error;
     EXPECT_TRUE(text_.ReadText(text, "older", error)) << error.Text();
 }
 
@@ -61,9 +61,9 @@ KORUpgradeReport ZELOlderDocument::Upgrade() {
 }
 
 std::string ZELOlderDocument::Text() const {
-    std::string error;
+    KORFileError error;
     const auto text = text_.Write(error);
-    EXPECT_TRUE(text) << error;
+    EXPECT_TRUE(text) << error.Text();
     return text.value_or("");
 }
 

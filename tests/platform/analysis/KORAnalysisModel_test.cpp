@@ -27,7 +27,7 @@ protected:
               {"name": "Children", "kind": "list of components", "since": 1, "meaning": "x"}]},
             {"name": "KORTestSetLT", "role": "set", "since": 1, "meaning": "x", "attributes": [
               {"name": "Children", "kind": "list of components", "since": 1, "meaning": "x"}]}]})";
-        KORJsonError error;
+        KORFileError error;
         ASSERT_TRUE(platform.ShareCatalog("Shared.KORfct", error)) << error.Text();
         model = document->AddAnalysisModel();
         factory = KORISamAnalysisModelFactory_var::Adopt(document->GetFactory());

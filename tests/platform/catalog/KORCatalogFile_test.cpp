@@ -18,14 +18,14 @@ std::string Catalog(const std::string& attributes) {
 }
 
 std::shared_ptr<const KORCatalogFile> Read(const std::string& text) {
-    KORJsonError error;
+    KORFileError error;
     auto catalog = KORCatalogFile::FromText(text, "test.KORfct", error);
     EXPECT_TRUE(catalog) << error.Text();
     return catalog;
 }
 
 std::string ErrorOf(const std::string& text) {
-    KORJsonError error;
+    KORFileError error;
     return KORCatalogFile::FromText(text, "test.KORfct", error) ? "" : error.Text();
 }
 
@@ -234,7 +234,7 @@ protected:
     const std::string path = testing::TempDir() + "KORCatalogFile_" +
                              testing::UnitTest::GetInstance()->current_test_info()->name() +
                              std::to_string(::getpid()) + ".KORfct";
-    KORJsonError error;
+    KORFileError error;
 };
 
 TEST_F(KORCatalogFileOnDisk, IsParsedOncePerProcess) {

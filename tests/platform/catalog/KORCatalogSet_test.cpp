@@ -5,7 +5,7 @@
 namespace {
 
 std::shared_ptr<const KORCatalogFile> Catalog(const std::string& lateType) {
-    KORJsonError error;
+    KORFileError error;
     return KORCatalogFile::FromText(R"({"format": 1, "types": [{"name": ")" + lateType +
                                         R"(", "since": 1, "meaning": "x", "attributes": []}]})",
                                     "text", error);

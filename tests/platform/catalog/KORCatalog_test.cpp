@@ -22,7 +22,7 @@ protected:
         return KORISpecObject_var::Adopt(static_cast<KORISpecObject*>(found));
     }
 
-    KORJsonError error;
+    KORFileError error;
     const KORICatalog_var catalog =
         KORICatalog_var::Adopt(new KORCatalog(KORCatalogFile::FromText(kText, "test.KORfct", error)));
 };

@@ -12,12 +12,12 @@ namespace {
 
 /// What is wrong with a text, as its reader would be told.
 std::string ErrorOf(const std::string& text) {
-    KORJsonError error;
+    KORFileError error;
     return KORJsonFile::Parse(text, "card.json", error) ? "" : error.Text();
 }
 
 TEST(KORJsonFile, KnowsTheLineOfEveryValue) {
-    KORJsonError error;
+    KORFileError error;
     const auto file =
         KORJsonFile::Parse("{\n  \"a\": 1,\n  \"b\": [2,\n3\n, {\"c/d\": \"x\"}]\n}", "card.json", error);
 
@@ -33,7 +33,7 @@ TEST(KORJsonFile, KnowsTheLineOfEveryValue) {
 }
 
 TEST(KORJsonFile, KnowsNoLineOfAValueFromElsewhere) {
-    KORJsonError error;
+    KORFileError error;
     const auto file = KORJsonFile::Parse("[1]", "card.json", error);
 
     ASSERT_TRUE(file);
@@ -41,7 +41,7 @@ TEST(KORJsonFile, KnowsNoLineOfAValueFromElsewhere) {
 }
 
 TEST(KORJsonFile, KnowsItsLinesAlsoAfterItWasMoved) {
-    KORJsonError error;
+    KORFileError error;
     auto first = KORJsonFile::Parse("\n[\n1]", "card.json", error);
     ASSERT_TRUE(first);
     EXPECT_EQ(2, first->Line(first->Root()));
@@ -53,7 +53,7 @@ TEST(KORJsonFile, KnowsItsLinesAlsoAfterItWasMoved) {
 }
 
 TEST(KORJsonFile, BuildsAllKindsOfValues) {
-    KORJsonError error;
+    KORFileError error;
     const auto file =
         KORJsonFile::Parse(R"([null, true, -3, 7, 2.5, "\u00e4", {"k": []}])", "card.json", error);
 
@@ -134,7 +134,7 @@ TEST(KORJsonFile, TakesMemoryInProportionToTheTextAlsoUnderALongKey) {
     std::string text = "{\"" + std::string(1'000'000, 'k') + "\": [";
     for (int i = 0; i < 1000; ++i) text += "1,";
     text += "1]}";
-    KORJsonError error;
+    KORFileError error;
     const std::size_t before = HeapBytes();
 
     const auto file = KORJsonFile::Parse(text, "card.json", error);
@@ -148,7 +148,7 @@ TEST(KORJsonFile, ReadsAFileAndRefusesOneThatCannotBeRead) {
     const std::string folder = testing::TempDir();
     const std::string path = folder + "KORJsonFile_test_" + std::to_string(::getpid()) + ".json";
     std::ofstream(path) << "{\"a\":\n1}";
-    KORJsonError error;
+    KORFileError error;
 
     const auto file = KORJsonFile::Read(path, error);
     std::filesystem::remove(path);

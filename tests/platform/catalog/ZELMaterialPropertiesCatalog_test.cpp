@@ -146,7 +146,7 @@ protected:
         return layout.Initial(layout.Find(KORName::Intern(attribute)).slot);
     }
 
-    KORJsonError error;
+    KORFileError error;
     const std::shared_ptr<const KORCatalogFile> catalog =
         KORCatalogFile::Open(ZEL_CATALOG_FOLDER "/ZELMaterialPropertiesCatalog.KORfct", error);
 };

@@ -6,7 +6,7 @@
 namespace {
 
 TEST(ZELSharedCatalog, DeclaresPropertySetsAndShellSections) {
-    KORJsonError error;
+    KORFileError error;
     const auto catalog = KORCatalogFile::Open(ZEL_SHARED_CATALOG, error);
     ASSERT_TRUE(catalog) << error.Text();
     ASSERT_EQ(2u, catalog->Types().size());

@@ -22,14 +22,14 @@ protected:
 
 TEST_F(KORPlatformTest, OpensCatalogsOfItsFolder) {
     std::ofstream(folder + "/a.KORfct") << R"({"format": 1, "types": []})";
-    KORJsonError error;
+    KORFileError error;
 
     EXPECT_TRUE(platform.OpenCatalog("a.KORfct", error)) << error.Text();
 }
 
 TEST_F(KORPlatformTest, TellsItsCallerAndNobodyElseWhatIsWrongWithACatalog) {
     testing::internal::CaptureStderr();
-    KORJsonError error;
+    KORFileError error;
 
     EXPECT_FALSE(platform.OpenCatalog("a.KORfct", error));
 
@@ -45,12 +45,15 @@ TEST_F(KORPlatformTest, OpensNothingOutsideOfItsFolder) {
 
     for (const std::string_view name :
          {std::string_view(absolute), std::string_view("inner/../a.KORfct"), std::string_view("../a.KORfct"),
-          std::string_view("./a.KORfct"), std::string_view(".."), std::string_view("."), std::string_view(""),
+          std::string_view("./a.KORfct"), std::string_view(".."), std::string_view("."),
           std::string_view("inner/"), nul}) {
-        KORJsonError error;
+        KORFileError error;
         EXPECT_FALSE(platform.OpenCatalog(name, error)) << name;
         EXPECT_EQ(std::string(name) + ": expected the name of a file in the catalog folder", error.Text());
     }
+    KORFileError error;
+    EXPECT_FALSE(platform.OpenCatalog("", error));
+    EXPECT_EQ("expected the name of a file in the catalog folder", error.Text());
 }
 
 TEST_F(KORPlatformTest, ReportsWhatTheModuleCannotBeToldOnceOnStandardError) {

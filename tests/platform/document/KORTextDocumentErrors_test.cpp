@@ -105,7 +105,7 @@ constexpr Mistake kWrongValues[] = {
 class KORTextDocumentErrors : public testing::TestWithParam<Mistake> {
 protected:
     void ExpectRefused(const std::string& text, const std::string& expected) {
-        KORJsonError error;
+        KORFileError error;
         KORTextDocument reader(*document);
 
         EXPECT_FALSE(reader.ReadText(text, "text", error));
@@ -179,7 +179,7 @@ TEST_F(KORTextDocumentErrors, RefuseMoreAttributesThanAFeatureCanHold) {
 
 TEST_F(KORTextDocumentErrors, TellThatTheDocumentIsClosed) {
     document->Close();
-    KORJsonError error;
+    KORFileError error;
 
     EXPECT_FALSE(KORTextDocument(*document).ReadText(R"({"format": 1, "features": []})", "text", error));
 

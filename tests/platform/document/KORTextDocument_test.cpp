@@ -66,13 +66,13 @@ constexpr const char* kWhole = R"json({
 class KORTextDocumentTest : public testing::Test {
 protected:
     std::string Written() {
-        std::string error;
+        KORFileError error;
         const auto written = text.Write(error);
-        EXPECT_EQ("", error);
+        EXPECT_EQ("", error.Text());
         return written.value_or("");
     }
     void Read(const std::string& read) {
-        KORJsonError error;
+        KORFileError error;
         ASSERT_TRUE(text.ReadText(read, "text", error)) << error.Text();
     }
     const KORValue& ValueOf(int id, const char* attribute) {
@@ -266,7 +266,7 @@ TEST_F(KORTextDocumentTest, LosesNothingThatTheCatalogsDoNotDeclare) {
 
 TEST_F(KORTextDocumentTest, IsWrittenWholeByAnotherThanTheOneThatReadIt) {
     Read(kUndeclared);
-    std::string error;
+    KORFileError error;
 
     EXPECT_EQ(kUndeclared, KORTextDocument(*document).Write(error));
 }
@@ -351,7 +351,7 @@ TEST_F(KORTextDocumentTest, IsNoStepToUndoUnlessTheCallerOpensOne) {
 TEST_F(KORTextDocumentTest, IsReadFromAFile) {
     const std::string path = testing::TempDir() + "KORTextDocument_" + std::to_string(::getpid()) + ".json";
     std::ofstream(path) << kWhole;
-    KORJsonError error;
+    KORFileError error;
 
     EXPECT_TRUE(text.Read(path, error)) << error.Text();
     std::filesystem::remove(path);
@@ -366,24 +366,24 @@ TEST_F(KORTextDocumentTest, IsNotWrittenWhenAFeatureReferencesSomethingElse) {
     const auto foreign = elsewhere->NewPlatformFeature("KORMaterialLT", "Steel");
     const auto object = KORBaseUnknown_var::Adopt(new KORBaseUnknown);
     const auto entry = document->NewPlatformFeature("KORApplicativeDataLT", "Entry");
-    std::string error;
+    KORFileError error;
 
     entry->SetComponent(KORName::Intern("Data"), foreign.Get(), 0);
     EXPECT_FALSE(text.Write(error));
-    EXPECT_EQ("feature 1, Data: references what is no feature of the document", error);
+    EXPECT_EQ("feature 1, Data: references what is no feature of the document", error.Text());
 
     entry->SetComponent(KORName::Intern("Data"), object.Get(), 0);
     EXPECT_FALSE(text.Write(error));
-    EXPECT_EQ("feature 1, Data: references what is no feature of the document", error);
+    EXPECT_EQ("feature 1, Data: references what is no feature of the document", error.Text());
 }
 
 TEST_F(KORTextDocumentTest, IsNotWrittenWhenATextIsNoUtf8) {
     document->NewPlatformFeature("KORMaterialLT", "Steel")->SetAlias("\xff");
-    std::string error;
+    KORFileError error;
 
     EXPECT_FALSE(text.Write(error));
 
-    EXPECT_EQ("a text is no UTF-8", error);
+    EXPECT_EQ("a text is no UTF-8", error.Text());
 }
 
 TEST_F(KORTextDocumentTest, LeavesNoReferencesBehind) {

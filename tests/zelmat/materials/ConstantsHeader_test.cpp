@@ -44,7 +44,7 @@ struct Declared {
     Names attributes;
 
     Declared() {
-        KORJsonError error;
+        KORFileError error;
         const auto catalog =
             KORCatalogFile::Open(CatalogFolderOfTheModule() + "/ZELMaterialPropertiesCatalog.KORfct", error);
         if (!catalog) ADD_FAILURE() << error.Text();
