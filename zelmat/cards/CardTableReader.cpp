@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "zelmat/text/NumberText.h"
+#include "zelmat/text/CountText.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {

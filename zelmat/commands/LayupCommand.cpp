@@ -1,7 +1,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
-#include <cmath>
 #include <filesystem>
 
 #include "zelmat/commands/Command.h"
@@ -11,8 +10,7 @@
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/LayupDrawing.h"
 #include "zelmat/layups/LayupHost.h"
-#include "zelmat/text/LengthText.h"
-#include "zelmat/text/WordList.h"
+#include "zelmat/quantities/Measured.h"
 
 namespace zelmat {
 
@@ -29,16 +27,19 @@ void ReportUsage(Findings& findings, const char* what, const char* code, std::st
 
 /// The thickness of a ply in metres; reports what is none.
 std::optional<double> ReadThickness(const std::string& text, Findings& findings) {
-    const auto thickness = ReadLength(text);
+    const Quantity& length = *FindQuantity("length");
+    const auto measured = ReadMeasured(text, length);
+    const auto thickness = measured ? measured->Stored(length) : measured.Error();
     if (!thickness) {
-        ReportUsage(findings, "--thickness", "wrong-length", Quoted(text) + " is no thickness",
-                    {"expected a number and a unit, as in 0.125mm", "known units: " + LengthUnits()});
-    } else if (!(*thickness > 0.0) || !std::isfinite(*thickness)) {
+        ReportUsage(findings, "--thickness", "wrong-length", thickness.Error().text, {"as in 0.125mm"});
+        return std::nullopt;
+    }
+    if (!(*thickness > 0.0)) {
         ReportUsage(findings, "--thickness", "out-of-range", "the thickness is " + text,
                     {"expected more than 0"});
         return std::nullopt;
     }
-    return thickness;
+    return *thickness;
 }
 
 /// Makes a layup from a stacking notation or from a card in a document in memory, reads it back from there,

@@ -1,8 +1,8 @@
 #include "zelmat/commands/LayupReport.h"
 
 #include "zelmat/materials/StatusText.h"
-#include "zelmat/text/LengthText.h"
-#include "zelmat/text/NumberText.h"
+#include "zelmat/layups/Millimetres.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"

@@ -4,7 +4,8 @@
 #include <cmath>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
+#include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"

@@ -4,7 +4,7 @@
 
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "zelmat/materials/StatusText.h"
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {

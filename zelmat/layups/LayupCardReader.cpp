@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "zelmat/files/UnreadableFile.h"
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {

@@ -5,8 +5,8 @@
 #include <map>
 #include <sstream>
 
-#include "zelmat/text/LengthText.h"
-#include "zelmat/text/NumberText.h"
+#include "zelmat/layups/Millimetres.h"
+#include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
 

@@ -4,7 +4,7 @@
 #include <charconv>
 #include <optional>
 
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
 

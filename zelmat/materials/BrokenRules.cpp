@@ -1,6 +1,7 @@
 #include "zelmat/materials/BrokenRules.h"
 
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
+#include "zelmat/text/CountText.h"
 
 namespace zelmat {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "zelmat/materials/HyperelasticForms.h"
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
 

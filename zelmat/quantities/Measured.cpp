@@ -1,7 +1,7 @@
 #include "zelmat/quantities/Measured.h"
 
 #include "zelmat/quantities/NumberText.h"
-#include "zelmat/quantities/QuotedText.h"
+#include "zelmat/text/QuotedText.h"
 #include "zelmat/quantities/ReadNumber.h"
 #include "zelmat/quantities/UnitConversion.h"
 

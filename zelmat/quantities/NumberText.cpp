@@ -11,4 +11,9 @@ std::string NumberText(double number) {
     return {text.data(), end};
 }
 
+std::string WithUnit(double number, const std::string& unit) {
+    const bool pure = unit.empty() || unit == "-";
+    return pure ? NumberText(number) : NumberText(number) + " " + unit;
+}
+
 }  // namespace zelmat

@@ -8,4 +8,7 @@ namespace zelmat {
 /// locale: "0.3", "2.1e+11", "-0".
 std::string NumberText(double number);
 
+/// A number with its unit: "293.15 K". "-" and the empty text are no unit.
+std::string WithUnit(double number, const std::string& unit);
+
 }  // namespace zelmat

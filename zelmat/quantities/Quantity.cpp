@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <initializer_list>
 
-#include "zelmat/quantities/QuotedText.h"
+#include "zelmat/text/QuotedText.h"
 
 namespace zelmat {
 

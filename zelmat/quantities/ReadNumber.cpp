@@ -6,7 +6,7 @@
 #include <system_error>
 
 #include "zelmat/quantities/PlainUnitText.h"
-#include "zelmat/quantities/QuotedText.h"
+#include "zelmat/text/QuotedText.h"
 
 namespace zelmat {
 

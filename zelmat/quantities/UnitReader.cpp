@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "zelmat/quantities/PlainUnitText.h"
-#include "zelmat/quantities/QuotedText.h"
+#include "zelmat/text/QuotedText.h"
 #include "zelmat/quantities/UnitDatabase.h"
 
 namespace zelmat {

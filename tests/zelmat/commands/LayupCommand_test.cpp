@@ -185,8 +185,8 @@ TEST(LayupCommand, NeedsTheUnitOfAThickness) {
     const ProgramRun run = RunZelmat({"layup", "[0]", "--material", "M", "--thickness", "0.125"});
     EXPECT_EQ(run.exitCode, 2);
     EXPECT_EQ(run.err,
-              "--thickness: error[wrong-length]: \"0.125\" is no thickness (expected a number and a unit, as "
-              "in 0.125mm, known units: m, mm, cm, um, km, in, ft)\n");
+              "--thickness: error[wrong-length]: length: '0.125' has no unit; expected m, mm, cm, µm, in, mil "
+              "or ft (as in 0.125mm)\n");
 
     for (const char* thickness : {"0mm", "-1mm", "inf m", "nan m"}) {
         const std::string option = std::string("--thickness=") + thickness;

@@ -1,4 +1,4 @@
-#include "zelmat/text/NumberText.h"
+#include "zelmat/quantities/NumberText.h"
 
 #include <gtest/gtest.h>
 
@@ -25,12 +25,6 @@ TEST(NumberText, PutsTheUnitBehindIt) {
     EXPECT_EQ(zelmat::WithUnit(293.15, "K"), "293.15 K");
     EXPECT_EQ(zelmat::WithUnit(0.3, "-"), "0.3");
     EXPECT_EQ(zelmat::WithUnit(0.3, ""), "0.3");
-}
-
-TEST(NumberText, CountsInSingularAndPlural) {
-    EXPECT_EQ(zelmat::CountText(0, "row"), "0 rows");
-    EXPECT_EQ(zelmat::CountText(1, "row"), "1 row");
-    EXPECT_EQ(zelmat::CountText(2, "row"), "2 rows");
 }
 
 }  // namespace
