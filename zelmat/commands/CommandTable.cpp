@@ -9,7 +9,8 @@ namespace zelmat {
     COMMAND(Show)                \
     COMMAND(Summary)             \
     COMMAND(Upgrade)             \
-    COMMAND(Layup)
+    COMMAND(Layup)               \
+    COMMAND(Unit)
 
 #define ZELMAT_DECLARE(name) CommandKind name##Command();
 ZELMAT_COMMANDS(ZELMAT_DECLARE)

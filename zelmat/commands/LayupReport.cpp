@@ -1,7 +1,7 @@
 #include "zelmat/commands/LayupReport.h"
 
-#include "zelmat/materials/StatusText.h"
 #include "zelmat/layups/Millimetres.h"
+#include "zelmat/materials/StatusText.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"

@@ -121,7 +121,8 @@ CommandKind UpgradeCommand() {
             .brief = "bring the materials of an older document up to the current release",
             .text =
                 "Bring the materials of an older document up to the current release, in one step, and print\n"
-                "what changed on which feature, and each coefficient before and after. The document itself stays\n"
+                "what changed on which feature, and each coefficient before and after. The document itself "
+                "stays\n"
                 "as it is. A run that would have to guess at units is refused.",
             .output = "Write the upgraded document to this file",
             .make = &MakeCommand<Upgrade>};

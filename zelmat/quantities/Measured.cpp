@@ -1,9 +1,9 @@
 #include "zelmat/quantities/Measured.h"
 
 #include "zelmat/quantities/NumberText.h"
-#include "zelmat/text/QuotedText.h"
 #include "zelmat/quantities/ReadNumber.h"
 #include "zelmat/quantities/UnitConversion.h"
+#include "zelmat/text/QuotedText.h"
 
 namespace zelmat {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "zelmat/quantities/PlainUnitText.h"
-#include "zelmat/text/QuotedText.h"
 #include "zelmat/quantities/UnitDatabase.h"
+#include "zelmat/text/QuotedText.h"
 
 namespace zelmat {
 

@@ -162,8 +162,8 @@ TEST(Unit, HostileTextsAreRefusedAtOnce) {
                 testing::EndsWith("has too many parentheses within parentheses"));
     EXPECT_EQ(Refusal(std::string("m\0m", 3)), "the unit 'm\\x00m' has a character that stands in no unit");
     EXPECT_EQ(Refusal("m\x1b[31m"), "the unit 'm\\x1b[31m' has a character that stands in no unit");
-    EXPECT_EQ(Refusal("m\xff"), "the unit 'm\\xff' has a character that stands in no unit");
-    EXPECT_EQ(Refusal("m\nm"), "the unit 'm\\x0am' has a character that stands in no unit");
+    EXPECT_EQ(Refusal("m\xff"), "the unit 'm\uFFFD' has a character that stands in no unit");
+    EXPECT_EQ(Refusal("m\nm"), "the unit 'm\\nm' has a character that stands in no unit");
     EXPECT_EQ(Refusal("1e308 m^999"), "the unit '1e308 m^999' has a power beyond 30");
     EXPECT_EQ(Refusal("m^99999999999999999999"), "the unit 'm^99999999999999999999' has a power beyond 30");
     EXPECT_EQ(Refusal("((m^30)^30)^30"),
