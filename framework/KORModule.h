@@ -17,7 +17,7 @@ public:
 
     const char* Name() const { return name_->c_str(); }
 
-    /// Every object whose code lies in the module is counted from construction to destruction.
+    /// For what needs the module's code while it lives: the framework counts bindings, a module the rest.
     void ObjectMade() { ++objects_; }
     void ObjectGone() { --objects_; }
     long LiveObjects() const { return objects_; }

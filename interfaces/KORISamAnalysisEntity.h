@@ -10,8 +10,8 @@ using KORListValKORBaseUnknown_var = KORListVal<KORBaseUnknown_var>;
 /// A feature that takes part in an analysis model, such as a layup.
 class KORISamAnalysisEntity : public KORInterface<IID_KORISamAnalysisEntity> {
 public:
-    /// The analysis sets that hold this entity, the nearest one first; none when it stands outside every
-    /// set.
+    /// The analysis sets that list this entity itself, in the order in which the analysis model leads to
+    /// them; none when it stands outside every set.
     virtual KORListValKORBaseUnknown_var GetParentSets() = 0;
 
 protected:

@@ -6,7 +6,7 @@
 #include "platform/document/KORTextDocument.h"
 
 /// Reads the text form of a document in two steps: Read understands all of it and changes nothing; Build
-/// makes the features and cannot fail.
+/// makes the features and finds no more mistakes.
 class KORTextReader final : public KORJsonReader {
 public:
     KORTextReader(const KORJsonFile& file, KORMemoryDocument& document)

@@ -69,12 +69,10 @@ bool LayupHost::Make(const LayupCard& card, Findings& findings) {
 }
 
 HRESULT LayupHost::MakeLayup(const LayupCard& card) {
-    void* found = nullptr;
+    ZELIMaterialPropertiesFact_var factory;
     Steps steps;
-    steps << KORInstantiateComponent(kFactory, IID_ZELIMaterialPropertiesFact, &found);
+    steps << KORInstantiate(kFactory, factory);
     if (FAILED(steps.Status())) return steps.Status();
-    const auto factory =
-        ZELIMaterialPropertiesFact_var::Adopt(static_cast<ZELIMaterialPropertiesFact*>(found));
     KORISpecObject_var layup;
     steps << factory->CreateLayup(layup, &platform_.Document());
 

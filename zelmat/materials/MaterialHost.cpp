@@ -17,11 +17,9 @@ constexpr const char* kFactory = "ZELMaterialPropertiesFact";
 /// Has the module make the analysis data of a platform material and hangs them on it. Null when one of the
 /// two fails, with the status of that.
 KORISpecObject_var NewAnalysisData(KORIMaterialFeature* material, HRESULT& status) {
-    void* found = nullptr;
-    status = KORInstantiateComponent(kFactory, IID_ZELIMaterialPropertiesFact, &found);
+    ZELIMaterialPropertiesFact_var factory;
+    status = KORInstantiate(kFactory, factory);
     if (FAILED(status)) return nullptr;
-    const auto factory =
-        ZELIMaterialPropertiesFact_var::Adopt(static_cast<ZELIMaterialPropertiesFact*>(found));
     KORISpecObject* created = nullptr;
     status = factory->CreateZELMaterialProperty(material, created);
     auto root = KORISpecObject_var::Adopt(created);

@@ -185,14 +185,12 @@ HRESULT ZELMaterialPropertiesFact::GetFEModelInfo(KORDocument*& document, KORISp
 }
 
 HRESULT ZELMaterialPropertiesFact::CreateZelmarPropertiesSet(KORDocument* document) {
-    void* found = nullptr;
-    const HRESULT created = KORInstantiateComponent(ZELComponent::ZELKqcAnalysisCaseFact.c_str(),
-                                                    IID_ZELIKqcAnalysisCaseFact, &found);
-    if (FAILED(created) || !found) return E_FAIL;
+    ZELIKqcAnalysisCaseFact_var factory;
+    if (FAILED(KORInstantiate(ZELComponent::ZELKqcAnalysisCaseFact.c_str(), factory)) || !factory)
+        return E_FAIL;
     // Kept for good: the analysis-case module counts on its factory staying alive once it was asked for a
     // set.
-    auto* factory = static_cast<ZELIKqcAnalysisCaseFact*>(found);
-    const HRESULT status = factory->CreatePropertySet(document);
+    const HRESULT status = factory.Detach()->CreatePropertySet(document);
     return FAILED(status) ? status : S_OK;
 }
 
