@@ -147,7 +147,7 @@ std::string TakeMarkdownOption(std::vector<char*>& arguments) {
     const auto found = std::ranges::find_if(
         arguments, [&](const char* argument) { return std::string_view(argument).starts_with(kOption); });
     if (found == arguments.end()) return "";
-    const std::string path(std::string_view(*found).substr(kOption.size()));
+    std::string path(std::string_view(*found).substr(kOption.size()));
     arguments.erase(found);
     return path;
 }

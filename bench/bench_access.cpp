@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <iterator>
 #include <vector>
 
 #include "ZELMaterialModel/include/ZELIJohnsonCookData.h"
@@ -50,9 +51,10 @@ void WriteScalarInStep(benchmark::State& state) {
     Ground ground;
     const auto keys = ScalarKeys();
     std::vector<KORISpecAttrAccess_var> features;
+    features.reserve(kFeatures);
     for (int i = 0; i < kFeatures; ++i) features.emplace_back(ground.New(kScalarType));
     double value = 1.0;
-    while (state.KeepRunningBatch(kFeatures * static_cast<int>(keys.size()))) {
+    while (state.KeepRunningBatch(kFeatures * std::ssize(keys))) {
         KORStep step(ground.Document(), "Write");
         for (const auto& feature : features) {
             for (KORISpecAttrKey* key : keys) feature->SetDouble(key, value, 0);

@@ -230,6 +230,7 @@ void UpgradeAll(benchmark::State& state, Run run) {
         auto ground = std::make_unique<Ground>();
         {
             std::vector<KORISpecObject_var> materials;
+            materials.reserve(static_cast<std::size_t>(count));
             for (int i = 0; i < count; ++i) materials.push_back(NewOlderMaterial(*ground));
             state.ResumeTiming();
             if (!run(ground->Document(), materials)) state.SkipWithError("a material was not upgraded");

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <TDataStd_Real.hxx>
+#include <iterator>
 #include <vector>
 
 #include "bench/peer/PeerDocument.h"
@@ -28,9 +29,10 @@ void PeerWriteScalarInStep(benchmark::State& state) {
     peer::Document document;
     const auto keys = peer::SixKeys();
     std::vector<TDF_Label> features;
+    features.reserve(kFeatures);
     for (int i = 0; i < kFeatures; ++i) features.push_back(peer::NewScalars(document));
     double value = 1.0;
-    while (state.KeepRunningBatch(kFeatures * static_cast<int>(keys.size()))) {
+    while (state.KeepRunningBatch(kFeatures * std::ssize(keys))) {
         document.Step([&] {
             for (const TDF_Label& feature : features) {
                 for (const Standard_GUID& key : keys) TDataStd_Real::Set(feature, key, value);

@@ -80,6 +80,7 @@ void PeerOneScalarStep(benchmark::State& state) {
     constexpr int kSteps = 100;
     peer::Document document;
     std::vector<TDF_Label> roots;
+    roots.reserve(static_cast<std::size_t>(state.range(0)));
     for (int i = 0; i < state.range(0); ++i) roots.push_back(peer::GrowTree(document, 1.0));
     const Standard_GUID flag = peer::RootFlag(0);
     int value = 1;

@@ -42,6 +42,7 @@ void PeerCopyTree(benchmark::State& state) {
         {
             peer::Document document;
             std::vector<TDF_Label> roots;
+            roots.reserve(kTrees);
             for (int i = 0; i < kTrees; ++i) roots.push_back(peer::GrowTree(document, 1.0));
             state.ResumeTiming();
             for (const TDF_Label& root : roots) {

@@ -71,7 +71,7 @@ KORBaseUnknown* KORMaterialExtension::FindApplicative(const KORUnicodeString& na
 KORVar<KORFeature> KORMaterialExtension::EntryOf(const KORUnicodeString& name) {
     const KORVar<KORFeature> material = Material();
     for (int position = 1; position <= material->GetListSize(kList); ++position) {
-        const KORVar<KORFeature> entry(KORBaseUnknown_var::Adopt(material->GetComponent(kList, position)));
+        KORVar<KORFeature> entry(KORBaseUnknown_var::Adopt(material->GetComponent(kList, position)));
         if (entry && entry->GetString(kName, 0) == name) return entry;
     }
     return nullptr;

@@ -66,7 +66,7 @@ public:
     }
 
 protected:
-    ~KORAttributeReads() = default;
+    ~KORAttributeReads() override = default;
 
     KORLayout::Place PlaceOf(KORISpecAttrKey* key) const {
         return key ? Layout().Find(key) : KORLayout::Place{};

@@ -8,7 +8,7 @@ KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHa
                                    const KORUnicodeString& name, KORBaseUnknown& container) {
     KORFeatureType& type = document.TypeOf(layout);
     const std::uint32_t number = document.Features().NextNumber();
-    const auto feature = KORVar<KORFeature>::Adopt(
+    auto feature = KORVar<KORFeature>::Adopt(
         new (SlotCount{layout->SlotCount()}) KORFeature(type, number, document.Log().Stamp(), nullptr));
     if (name != layout->NameText()) {
         feature->Slots()[KORLayout::kName] = KORValue::OfString(name);

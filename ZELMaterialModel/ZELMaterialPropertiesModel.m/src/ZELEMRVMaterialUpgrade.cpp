@@ -267,7 +267,7 @@ HRESULT ZELEMRVMaterialUpgrade::LeaveOldContainer(const Work& work) {
     wanted.Append(work.material);
     const KORListValKORISpecObject_var copies = ZELCopyInto(source, destination, wanted);
     if (copies.Size() == 0 || !copies[1]) return E_FAIL;
-    const KORISpecObject_var moved = copies[1];
+    const KORISpecObject_var& moved = copies[1];
     const HRESULT status = ZELCarryTestData(work.material.Get(), moved.Get());
     if (FAILED(status)) return status;
     const KORUnicodeString name = ZELMaterial::GetApplicativeSpecName();
