@@ -40,6 +40,10 @@ public:
 
     virtual void Work(CommandContext& context) = 0;
 
+    /// Whether a file that the command makes goes to standard output, other than by --output; what is printed
+    /// goes to standard error then.
+    virtual bool TakesStandardOutput() const { return false; }
+
     /// What the work came to, for a reader; nothing when it came to nothing.
     virtual void Print(std::ostream& out) const = 0;
 

@@ -5,6 +5,7 @@
 
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/LayupReport.h"
+#include "zelmat/commands/WrittenReport.h"
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/layups/LayupCardReader.h"
@@ -63,20 +64,21 @@ public:
         if (!stored_) return;
         ReportValidity(*card_, *stored_, findings);
         if (!drawing_.empty()) {
-            drawn_ = WriteOutputFile(drawing_, LayupDrawing(*stored_, card_->name), {card_->file}, findings)
-                         .has_value();
+            drawn_ = WriteOutputFile(drawing_, LayupDrawing(*stored_, card_->name), {card_->file}, findings);
         }
     }
 
+    bool TakesStandardOutput() const override { return drawing_ == "-"; }
+
     void Print(std::ostream& out) const override {
         if (stored_) PrintLayup(out, *card_, *stored_);
-        if (drawn_) out << "\ndrawn: " << drawing_ << '\n';
+        if (drawn_) PrintWritten(out, "drawn", *drawn_);
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"layup", nullptr}, {"drawing", nullptr}};
         if (stored_) json["layup"] = ToJson(*card_, *stored_);
-        if (drawn_) json["drawing"] = drawing_;
+        if (drawn_) AddWritten(json, "drawing", *drawn_);
         return json;
     }
 
@@ -154,7 +156,7 @@ private:
     std::string drawing_;    // where the SVG picture goes; empty: nowhere
     std::optional<LayupCard> card_;
     std::optional<StoredLayup> stored_;
-    bool drawn_ = false;
+    std::optional<WrittenFile> drawn_;
 };
 
 }  // namespace

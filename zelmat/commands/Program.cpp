@@ -1,5 +1,6 @@
 #include "zelmat/commands/Program.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -28,6 +29,18 @@ ExitCode EndWith(const Findings& findings, const std::string& color) {
     return findings.Exit();
 }
 
+/// Hands everything printed so far to the system; false, and a finding, when that does not take it. Told
+/// once.
+bool FlushOutput(Findings& findings) {
+    errno = 0;
+    if (std::cout.flush()) return true;
+    const std::string reason = errno != 0 ? std::strerror(errno) : "the stream has failed";
+    std::cout.clear();
+    findings.Add(
+        {FindingKind::UNREADABLE, {"standard output", 0}, "not-written", "cannot be written: " + reason, {}});
+    return false;
+}
+
 ExitCode EndWithMistake(const Finding& mistake) {
     Findings findings;
     findings.Add(mistake);
@@ -53,13 +66,15 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     CommandContext context{line.options, findings, std::cerr};
     command->Work(context);
     // Standard output belongs to the file that the command makes, when that goes there.
-    std::ostream& out = line.options.output == "-" ? std::cerr : std::cout;
+    const bool taken = line.options.output == "-" || command->TakesStandardOutput();
+    std::ostream& out = taken ? std::cerr : std::cout;
     if (line.options.json) {
         PrintJson(out, *command, findings);
-        return findings.Exit();
+        return FlushOutput(findings) ? findings.Exit() : EndWith(findings, line.options.color);
     }
     command->Print(out);
-    out.flush();  // where both go to one terminal, the result stands before what was found
+    // Where both go to one terminal, the result stands before what was found.
+    static_cast<void>(FlushOutput(findings));
     return EndWith(findings, line.options.color);
 }
 
@@ -91,15 +106,24 @@ ExitCode Run(Arguments arguments) {
     return kind ? RunCommand(*kind, std::move(arguments)) : EndWithMistake(UnknownCommand(first));
 }
 
+/// Standard descriptors that are closed are taken, by what cannot be read or written: the first file that is
+/// opened would get their number, and the program's own words would end in it.
+void TakeClosedDescriptors() {
+    for (const int standard : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(standard, F_GETFD) == 0 || errno != EBADF) continue;
+        // The lowest free number is this one: those below are open by now. Never closed.
+        static_cast<void>(::open("/dev/null", standard == STDIN_FILENO ? O_WRONLY : O_RDONLY));
+    }
+}
+
 }  // namespace
 
 int RunProgram(int argc, char** argv) noexcept {
     try {
+        TakeClosedDescriptors();
         const ExitCode code = Run(Arguments(argv + (argc > 0 ? 1 : 0), argv + argc));
-        errno = 0;
-        if (std::cout.flush()) return code;
-        std::cerr << "standard output: error[not-written]: cannot be written: "
-                  << (errno != 0 ? std::strerror(errno) : "the stream has failed") << '\n';
+        Findings lost;
+        return FlushOutput(lost) ? code : EndWith(lost, "auto");
     } catch (const std::exception& problem) {
         std::cerr << "zelmat: error[failed]: " << problem.what() << '\n';
     }

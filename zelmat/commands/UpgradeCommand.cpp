@@ -1,11 +1,11 @@
 #include <CLI/CLI.hpp>
-#include <iostream>
 #include <optional>
 
 #include "platform/analysis/KORUnitsService.h"
 #include "platform/document/KORTextDocument.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/UpgradeReport.h"
+#include "zelmat/commands/WrittenReport.h"
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/UnreadableFile.h"
@@ -47,19 +47,15 @@ bool TakePressureUnit(KORUnitsService& units, const std::string& given, const st
     return false;
 }
 
-/// False, and a finding, when the document cannot be put there.
-bool WriteDocument(const KORTextDocument& text, const std::string& path, const std::string& input,
-                   Findings& findings) {
+/// Nothing, and a finding, when the document cannot be put there.
+std::optional<WrittenFile> WriteDocument(const KORTextDocument& text, const std::string& path,
+                                         const std::string& input, Findings& findings) {
     KORFileError error;
     const auto written = text.Write(error);
-    if (written && path == "-") {
-        std::cout << *written;
-        return true;
-    }
-    if (written) return WriteOutputFile(path, *written, {input}, findings).has_value();
+    if (written) return WriteOutputFile(path, *written, {input}, findings);
     findings.Add(
         {FindingKind::UNREADABLE, {path, 0}, "not-written", "cannot be written: " + error.Sentence(), {}});
-    return false;
+    return std::nullopt;
 }
 
 /// Reads a document's text form, brings the materials of older releases up to the current one, in one step,
@@ -92,18 +88,18 @@ public:
         ReportUpgrade(*report_, document_, findings);
         const std::string& output = context.options.output;
         const bool wanted = !output.empty() && !report_->run.refused;
-        if (wanted && WriteDocument(text, output, document_, findings)) written_ = output;
+        if (wanted) written_ = WriteDocument(text, output, document_, findings);
     }
 
     void Print(std::ostream& out) const override {
         if (report_) PrintUpgrade(out, *report_);
-        if (!written_.empty()) out << "\nwritten: " << written_ << '\n';
+        if (written_) PrintWritten(out, "written", *written_);
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"upgrade", nullptr}, {"written", nullptr}};
         if (report_) json["upgrade"] = ToJson(*report_);
-        if (!written_.empty()) json["written"] = written_;
+        if (written_) AddWritten(json, "written", *written_);
         return json;
     }
 
@@ -111,7 +107,7 @@ private:
     std::string document_;      // path of the text form
     std::string pressureUnit_;  // of the coefficients in a document that names none: "MPa"; empty: not given
     std::optional<UpgradeReport> report_;
-    std::string written_;  // path of the upgraded document
+    std::optional<WrittenFile> written_;
 };
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <iostream>
 #include <system_error>
 
 #include "zelmat/files/BesideFile.h"
@@ -87,6 +88,7 @@ public:
     Output(const std::string& path, std::string_view text) : path_(path), text_(text) {}
 
     std::string Write(const std::vector<std::string>& inputs) {
+        if (path_ == "-") return WriteToStandardOutput();
         if (path_.find('\0') != std::string::npos) return "the path holds a NUL character";
         target_ = LinkTarget(path_);
         const auto state = StateOf(path_);
@@ -113,6 +115,13 @@ private:
         const PipeErrors errors;
         OpenFile file(path_, O_WRONLY | O_NOCTTY);
         return file && file.Write(text_) && file.Close() ? "" : Reason();
+    }
+
+    std::string WriteToStandardOutput() {
+        std::cout.write(text_.data(), static_cast<std::streamsize>(text_.size()));
+        errno = 0;
+        if (std::cout.flush()) return "";
+        return errno != 0 ? Reason() : "the stream has failed";
     }
 
     std::string WriteNew() {

@@ -18,6 +18,7 @@ struct WrittenFile {
 /// Puts a text into a file, all of it or nothing. Nothing, and a finding that names the file and the reason,
 /// when that fails: what was there before is there still.
 ///
+/// - The path `-` is standard output.
 /// - A symbolic link is followed; the target of a dangling one is made.
 /// - A regular file is replaced by a new one, written and synced beside it, with its mode and owner. Where
 /// that would

@@ -15,7 +15,8 @@ using Plies = std::span<const double>;
 std::string AngleText(double angle) {
     constexpr std::size_t kLongest = 400;  // the smallest double takes 324 places behind the point
     std::array<char, kLongest> text{};
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), angle + 0.0, std::chars_format::fixed);
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), angle + 0.0, std::chars_format::fixed);
     return {text.data(), end.ptr};
 }
 
@@ -48,30 +49,44 @@ std::string RunList(Plies plies) {
     return text;
 }
 
-/// The shortest list of plies and groups for every part of a range, built up from the short ones.
+/// A list of plies and groups. Of two as long as each other the one with fewer items reads better.
+struct Folded {
+    std::string text;
+    std::size_t items = 0;
+
+    bool IsBeatenBy(std::size_t size, std::size_t otherItems) const {
+        return text.empty() || size < text.size() || (size == text.size() && otherItems < items);
+    }
+};
+
+/// One angle, or a group, as often as the plies repeat it; nothing when they repeat none.
+Folded Repeated(Plies plies, const std::vector<Folded>& shorter) {
+    const std::size_t period = PeriodOf(plies);
+    const std::string count = std::to_string(plies.size() / period);
+    if (plies.size() == 1) return {AngleText(plies[0]), 1};
+    if (period == 1) return {AngleText(plies[0]) + '_' + count, 1};
+    if (period < plies.size()) return {'(' + shorter[period].text + ')' + count, 1};
+    return {};
+}
+
+/// The shortest list for every part of a range, built up from the short parts.
 std::string FoldedList(Plies plies) {
     const std::size_t size = plies.size();
-    std::vector<std::vector<std::string>> best(size, std::vector<std::string>(size + 1));  // by begin and length
+    std::vector<std::vector<Folded>> best(size, std::vector<Folded>(size + 1));  // by begin and length
     for (std::size_t length = 1; length <= size; ++length) {
         for (std::size_t begin = 0; begin + length <= size; ++begin) {
-            std::string& text = best[begin][length];
-            const std::size_t period = PeriodOf(plies.subspan(begin, length));
-            const std::string count = std::to_string(length / period);
-            if (length == 1) {
-                text = AngleText(plies[begin]);
-            } else if (period == 1) {
-                text = AngleText(plies[begin]) + '_' + count;
-            } else if (period < length) {
-                text = '(' + best[begin][period] + ')' + count;
-            }
+            Folded list = Repeated(plies.subspan(begin, length), best[begin]);
             for (std::size_t first = 1; first < length; ++first) {
-                const auto& left = best[begin][first];
-                const auto& right = best[begin + first][length - first];
-                if (text.empty() || left.size() + right.size() + 1 < text.size()) text = left + '/' + right;
+                const Folded& left = best[begin][first];
+                const Folded& right = best[begin + first][length - first];
+                const std::size_t items = left.items + right.items;
+                if (!list.IsBeatenBy(left.text.size() + right.text.size() + 1, items)) continue;
+                list = {left.text + '/' + right.text, items};
             }
+            best[begin][length] = std::move(list);
         }
     }
-    return best[0][size];
+    return best[0][size].text;
 }
 
 std::string List(Plies plies) {

@@ -2,15 +2,22 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <optional>
 
-#include "zelmat/quantities/NumberText.h"
+#include "zelmat/layups/ShortestStack.h"
 
 namespace zelmat {
 
 namespace {
 
 constexpr std::size_t kMostPlies = 100'000;  ///< a longer laminate is a slip of the keyboard
+
+/// What stands for a symbol that has no plain character of its own; none of them can be typed.
+constexpr char kPlusMinus = '\x01';
+constexpr char kMinusPlus = '\x02';
+constexpr char kDegree = '\x03';
+constexpr char kUnknown = '\x04';
 
 /// The notation with one plain character per symbol, and where each stood.
 class Symbols {
@@ -41,14 +48,16 @@ private:
         static constexpr struct {
             std::string_view symbol;
             char plain;
-        } kSymbols[] = {{"±", 'p'}, {"∓", 'm'}, {"₀", '0'}, {"₁", '1'}, {"₂", '2'}, {"₃", '3'},
-                        {"₄", '4'}, {"₅", '5'}, {"₆", '6'}, {"₇", '7'}, {"₈", '8'}, {"₉", '9'},
-                        {"ₛ", 's'}, {"−", '-'}, {"S", 's'}, {"T", 't'}};
+        } kSymbols[] = {{"±", kPlusMinus}, {"∓", kMinusPlus}, {"°", kDegree}, {"₀", '0'}, {"₁", '1'},
+                        {"₂", '2'},        {"₃", '3'},        {"₄", '4'},     {"₅", '5'}, {"₆", '6'},
+                        {"₇", '7'},        {"₈", '8'},        {"₉", '9'},     {"ₛ", 's'}, {"−", '-'},
+                        {"S", 's'},        {"T", 't'},        {"A", 'a'}};
         const auto* known = std::find_if(std::begin(kSymbols), std::end(kSymbols),
                                          [&](const auto& entry) { return entry.symbol == symbol; });
         const bool subscript = symbol.size() == 3 && symbol.substr(0, 2) == "\xE2\x82";
         if (subscript && !InSubscript()) Put('_', position);
-        Put(known != std::end(kSymbols) ? known->plain : symbol.size() == 1 ? symbol[0] : '?', position);
+        const bool plain = symbol.size() == 1 && symbol[0] >= ' ';
+        Put(known != std::end(kSymbols) ? known->plain : plain ? symbol[0] : kUnknown, position);
     }
     bool InSubscript() const {
         const std::size_t before = plain_.find_last_not_of("0123456789");
@@ -81,14 +90,18 @@ public:
         const std::size_t repeats = Count();
         if (hasMidPly && repeats > 1) FailAt(midPlace, "a laminate with a mid-ply is not repeated");
         plies = Repeated(std::move(plies), repeats);
-        const bool symmetric = Take('s');
-        if (!symmetric) Take('t');
-        if (at_ != symbols_.Plain().size()) Fail("the end of the laminate, or 's', was expected here");
+        const bool antisymmetric = TakeBoth('a', 's');
+        const bool symmetric = !antisymmetric && Take('s');
+        if (!antisymmetric && !symmetric) Take('t');
+        if (at_ != symbols_.Plain().size()) Fail("the end of the laminate, 's' or 'as', was expected here");
         if (hasMidPly && !symmetric)
             FailAt(midPlace, "a mid-ply stands in a symmetric laminate only: [...]s");
-        if (!symmetric) return plies;
         const std::size_t mirrored = plies.size() - (hasMidPly ? 1 : 0);
-        for (std::size_t i = mirrored; i-- > 0;) plies.push_back(plies[i]);
+        if (symmetric) {
+            for (std::size_t i = mirrored; i-- > 0;) plies.push_back(plies[i]);
+        } else if (antisymmetric) {
+            for (std::size_t i = mirrored; i-- > 0;) plies.push_back(Opposite(plies[i]));
+        }
         Check(plies.size());
         return plies;
     }
@@ -107,6 +120,9 @@ private:
     void Expect(char symbol, const char* text) {
         if (!Take(symbol)) Fail(text);
     }
+    /// The angle of the mirrored ply of an antisymmetric laminate. A ply at -90 degrees is one at 90.
+    static double Opposite(double angle) { return std::abs(angle) == 90.0 ? 90.0 : 0.0 - angle; }
+
     bool AtDigit() const { return symbols_.At(at_) >= '0' && symbols_.At(at_) <= '9'; }
     void Check(std::size_t plies) const {
         if (plies > kMostPlies) Fail("the laminate has more than 100000 plies");
@@ -116,7 +132,7 @@ private:
     std::size_t Count() {
         const bool subscript = Take('_');
         if (!AtDigit()) {
-            if (subscript && symbols_.At(at_) != 's' && symbols_.At(at_) != 't')
+            if (subscript && std::string_view("sat").find(symbols_.At(at_)) == std::string_view::npos)
                 Fail("a number was expected after '_'");
             return 1;
         }
@@ -164,8 +180,8 @@ private:
 
     StackingSequence Ply() {
         const std::size_t begin = at_;
-        const bool plusMinus = Take('p') || TakeBoth('+', '-');
-        const bool minusPlus = !plusMinus && (Take('m') || TakeBoth('-', '+'));
+        const bool plusMinus = Take(kPlusMinus) || TakeBoth('+', '-');
+        const bool minusPlus = !plusMinus && (Take(kMinusPlus) || TakeBoth('-', '+'));
         const double angle = Angle();
         StackingSequence ply{angle};
         if (plusMinus) ply = {angle, 0.0 - angle};
@@ -193,11 +209,14 @@ private:
         if (!negative) Take('+');
         const std::size_t digits = at_;
         while (AtDigit() || symbols_.At(at_) == '.') ++at_;
+        const std::size_t end = at_;
         double angle = 0.0;
         const char* text = symbols_.Plain().data();
-        const auto read = std::from_chars(text + digits, text + at_, angle);
-        if (digits == at_) FailAt(begin, "an angle in degrees was expected here");
-        if (read.ec != std::errc() || read.ptr != text + at_) FailAt(begin, "this is no angle");
+        const auto read = std::from_chars(text + digits, text + end, angle, std::chars_format::fixed);
+        if (digits == end) FailAt(begin, "an angle in degrees was expected here");
+        if (read.ec != std::errc() || read.ptr != text + end) FailAt(begin, "this is no angle");
+        if (angle > kLargestAngle) FailAt(begin, "an angle lies between -360 and 360 degrees");
+        Take(kDegree);
         return negative ? 0.0 - angle : angle;
     }
 
@@ -207,37 +226,6 @@ private:
     std::optional<double> midPly_;
     std::size_t midPlace_ = 0;
 };
-
-using Plies = std::vector<double>::const_iterator;
-
-std::string Joined(Plies begin, Plies end) {
-    std::string text;
-    while (begin != end) {
-        const Plies next = std::find_if(begin, end, [begin](double angle) { return angle != *begin; });
-        if (!text.empty()) text += '/';
-        text += NumberText(*begin);
-        if (next - begin > 1) text += '_' + std::to_string(next - begin);
-        begin = next;
-    }
-    return text;
-}
-
-/// The smallest number of plies of which the range is a repetition.
-std::ptrdiff_t PeriodOf(Plies begin, Plies end) {
-    const std::ptrdiff_t size = end - begin;
-    for (std::ptrdiff_t period = 1; period < size; ++period) {
-        if (size % period == 0 && std::equal(begin + period, end, begin)) return period;
-    }
-    return size;
-}
-
-std::string Repeating(Plies begin, Plies end) {
-    const std::ptrdiff_t period = PeriodOf(begin, end);
-    const std::ptrdiff_t times = (end - begin) / period;
-    std::string text = '[' + Joined(begin, begin + period) + ']';
-    if (times > 1) text += std::to_string(times);
-    return text;
-}
 
 }  // namespace
 
@@ -250,13 +238,7 @@ std::variant<StackingSequence, NotationMistake> ReadStackingNotation(std::string
 }
 
 std::string WriteStackingNotation(const StackingSequence& sequence) {
-    const Plies begin = sequence.begin();
-    const Plies end = sequence.end();
-    const bool symmetric = sequence.size() > 1 && std::equal(begin, end, sequence.rbegin());
-    if (!symmetric) return Repeating(begin, end);
-    const std::ptrdiff_t half = (end - begin) / 2;
-    if (sequence.size() % 2 == 0) return Repeating(begin, begin + half) + 's';
-    return '[' + Joined(begin, begin + half) + '/' + NumberText(begin[half]) + "_bar]s";
+    return ShortestStack(sequence);
 }
 
 }  // namespace zelmat

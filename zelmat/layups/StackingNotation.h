@@ -10,6 +10,8 @@ namespace zelmat {
 /// A stacking sequence as plies: the angle of each in degrees, the bottom one first.
 using StackingSequence = std::vector<double>;
 
+constexpr double kLargestAngle = 360.0;  ///< of a ply, in degrees, to either side
+
 /// Where a notation cannot be read, and what was expected there.
 struct NotationMistake {
     std::size_t position;  ///< counted from 1, in characters (not bytes)
@@ -23,12 +25,15 @@ struct NotationMistake {
 ///   [0/90_bar]s      a mid-ply: it stands in the middle of a symmetric laminate once
 ///   [0_2/90]s        a ply repeated; [(0/90)2/45]s a group repeated
 ///   [±45], [∓45]     +45/-45 and -45/+45; also written +-45 and -+45
+///   [30/60]as        antisymmetric: 30, 60, -60, -30; a mirrored ply of 90 stays one of 90
 ///
-/// Blanks do not count, "S" and "s" are the same, a final "T" or "t" (total) says that nothing is mirrored,
-/// and subscripts may be real ones (₂, ₛ).
+/// Blanks do not count, a degree sign may follow an angle, "S" and "s" are the same, a final "T" or "t"
+/// (total) says that nothing is mirrored, and subscripts may be real ones (₂, ₛ). Angles lie within ±360
+/// degrees. At most 100,000 plies.
 std::variant<StackingSequence, NotationMistake> ReadStackingNotation(std::string_view notation);
 
-/// The shortest notation of this kind for a sequence: mirrored and repeated where the sequence is.
+/// A notation that is read back as the same sequence, never longer than its plain list: repeats and symmetry
+/// are folded, by the shortest of these forms where 64 plies say the whole.
 std::string WriteStackingNotation(const StackingSequence& sequence);
 
 }  // namespace zelmat

@@ -71,7 +71,7 @@ TEST(LayupCommand, GivesEverySampleBackAsItStandsOnTheCard) {
                                                         {"kaw_0_30_m45.json", "[0/30/-45]"},
                                                         {"nasa_rp1351_0_45_s.json", "[0/45]s"},
                                                         {"quasi_isotropic_t300_5208.json", "[0/45/-45/90]s"},
-                                                        {"sandwich_t300_rohacell.json", "[0/90/0_bar]s"}};
+                                                        {"sandwich_t300_rohacell.json", "[0/(90/0)2]"}};
     for (const auto& [name, notation] : samples) {
         const std::string path = Sample("layups/" + name);
         const ProgramRun run = RunZelmat({"layup", path, "--json"});
@@ -130,7 +130,7 @@ TEST(LayupCommand, SaysWhichLayerLacksItsMaterial) {
     EXPECT_THAT(run.out, HasSubstr("valid: no\n"));
     EXPECT_THAT(run.out,
                 HasSubstr("      2  (none)                 2           90             -1           1\n"));
-    EXPECT_THAT(run.out, HasSubstr("stacking sequence, angles only: [0/90_bar]s\n"));
+    EXPECT_THAT(run.out, HasSubstr("stacking sequence, angles only: [0/90/0]\n"));
 }
 
 TEST(LayupCommand, SaysThatThereAreNoLayers) {

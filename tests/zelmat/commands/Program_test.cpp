@@ -1,4 +1,8 @@
 #include <gmock/gmock.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
 
 #include "tests/zelmat/support/Program.h"
 
@@ -83,6 +87,76 @@ TEST(Program, ColoursOnATerminalUnlessToldOtherwise) {
     EXPECT_THAT(RunZelmatOnTerminal({"show", "ragged.json", "--color", "never"}).out, Not(HasSubstr("\033")));
     EXPECT_THAT(RunZelmat({"show", "ragged.json"}).err, Not(HasSubstr("\033")));
     EXPECT_THAT(RunZelmat({"show", "ragged.json", "--color=always"}).err, HasSubstr(red));
+}
+
+TEST(Program, EndsWithThreeWhenStandardOutputTakesNothing) {
+    const std::string full =
+        "standard output: error[not-written]: cannot be written: No space left on device\n";
+    const std::string closed =
+        "standard output: error[not-written]: cannot be written: Bad file descriptor\n";
+    const std::vector<std::vector<std::string>> runs = {
+        {"show", "two_tables.json"},
+        {"show", "two_tables.json", "--json"},
+        {"summary", "two_tables.json"},
+        {"layup", "[0/90]s", "--material", "a", "--thickness", "1mm"},
+        {"--help"},
+        {"help", "show"},
+        {"show", "--help"},
+        {"--version"}};
+    for (const auto& arguments : runs) {
+        const ProgramRun toFull = RunZelmatWith(arguments, ">/dev/full");
+        EXPECT_EQ(toFull.exitCode, 3) << arguments.front();
+        EXPECT_EQ(toFull.err, full) << arguments.front();
+        const ProgramRun toClosed = RunZelmatWith(arguments, ">&-");
+        EXPECT_EQ(toClosed.exitCode, 3) << arguments.front();
+        EXPECT_EQ(toClosed.err, closed) << arguments.front();
+    }
+}
+
+TEST(Program, WritesAFileWholeAlsoWhenAllStandardDescriptorsAreClosed) {
+    const std::string file = testing::TempDir() + "zelmat-closed-" + std::to_string(getpid());
+    const std::vector<std::string> upgrade = {"upgrade", Sample("older/copper_and_rubber.json"), "--output"};
+    auto open = upgrade;
+    open.push_back(file + ".open");
+    auto closed = upgrade;
+    closed.push_back(file + ".closed");
+
+    EXPECT_EQ(RunZelmat(open).exitCode, 0);
+    EXPECT_EQ(RunZelmatWith(closed, "<&- >&- 2>&-").exitCode, 3);
+
+    EXPECT_EQ(std::system(("cmp " + file + ".open " + file + ".closed").c_str()), 0);
+    std::filesystem::remove(file + ".open");
+    std::filesystem::remove(file + ".closed");
+}
+
+TEST(Program, GivesStandardOutputToTheFileThatGoesThere) {
+    const ProgramRun document =
+        RunZelmat({"upgrade", Sample("older/copper_and_rubber.json"), "--output", "-"});
+    EXPECT_EQ(document.exitCode, 0);
+    EXPECT_THAT(document.out, testing::StartsWith("{"));
+    EXPECT_THAT(document.err, HasSubstr("\nwritten: standard output\n"));
+
+    const ProgramRun drawing =
+        RunZelmat({"layup", "[0/90]s", "--material", "a", "--thickness", "1mm", "--svg", "-", "--json"});
+    EXPECT_EQ(drawing.exitCode, 0);
+    EXPECT_THAT(drawing.out, testing::StartsWith("<?xml"));
+    EXPECT_THAT(drawing.out, testing::EndsWith("</svg>\n"));
+    EXPECT_THAT(drawing.err, HasSubstr("\"drawing\": \"-\""));
+}
+
+TEST(Program, SaysWhereItKeepsAnInputThatTheOutputReplaces) {
+    const std::string file = testing::TempDir() + "zelmat-own-input-" + std::to_string(getpid());
+    std::filesystem::copy_file(Sample("older/copper_and_rubber.json"), file);
+
+    const ProgramRun run = RunZelmat({"upgrade", file, "--output", file});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.out, HasSubstr("\nwritten: " + file + "\nwhat was read is kept as: " + file + ".bak\n"));
+    EXPECT_EQ(std::filesystem::file_size(file + ".bak"),
+              std::filesystem::file_size(Sample("older/copper_and_rubber.json")));
+
+    const ProgramRun again = RunZelmat({"upgrade", file, "--output", file, "--json"});
+    EXPECT_THAT(again.out, HasSubstr("\"backup\": \"" + file + ".bak.2\""));
+    for (const char* ending : {"", ".bak", ".bak.2"}) std::filesystem::remove(file + ending);
 }
 
 TEST(Program, WritesJsonAlsoForAPathThatIsNoUtf8) {

@@ -107,7 +107,7 @@ TEST_F(UpgradeCommand, WritesTheDocumentToStandardOutputAndTheReportBesideIt) {
 
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.out, testing::StartsWith("{"));
-    EXPECT_THAT(run.err, HasSubstr("\nwritten: -\n"));
+    EXPECT_THAT(run.err, HasSubstr("\nwritten: standard output\n"));
 }
 
 TEST_F(UpgradeCommand, HasNothingToDoTheSecondTime) {

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace {
 
 using testing::ElementsAre;
@@ -89,7 +91,7 @@ TEST(StackingNotation, SaysWhatWasExpected) {
     EXPECT_EQ(Mistake("0/90").text, "a laminate begins with '['");
     EXPECT_EQ(Mistake("[0//90]").text, "an angle in degrees was expected here");
     EXPECT_EQ(Mistake("[0 90").text, "'/' or ']' was expected here");
-    EXPECT_EQ(Mistake("[0]q").text, "the end of the laminate, or 's', was expected here");
+    EXPECT_EQ(Mistake("[0]q").text, "the end of the laminate, 's' or 'as', was expected here");
 }
 
 TEST(StackingNotation, RefusesAMidPlyThatCannotBeOne) {
@@ -110,11 +112,84 @@ TEST(StackingNotation, RefusesLaminatesBeyondAllMeasure) {
 TEST(StackingNotation, IsWrittenAsShortAsTheSequenceAllows) {
     EXPECT_EQ(WriteStackingNotation({0, 45, -45, 90, 90, -45, 45, 0}), "[0/45/-45/90]s");
     EXPECT_EQ(WriteStackingNotation({0, 90, 0, 90, 90, 0, 90, 0}), "[0/90]2s");
-    EXPECT_EQ(WriteStackingNotation({0, 90, 0}), "[0/90_bar]s");
+    EXPECT_EQ(WriteStackingNotation({0, 90, 0}), "[0/90/0]");
+    EXPECT_EQ(WriteStackingNotation({0, 45, -45, 90, -45, 45, 0}), "[0/45/-45/90_bar]s");
     EXPECT_EQ(WriteStackingNotation({0, 30, -45}), "[0/30/-45]");
     EXPECT_EQ(WriteStackingNotation({0, 0, 90, 0, 0, 90}), "[0_2/90]2");
     EXPECT_EQ(WriteStackingNotation({45}), "[45]");
-    EXPECT_EQ(WriteStackingNotation({0, 0, 0, 0}), "[0]2s");
+    EXPECT_EQ(WriteStackingNotation({90, 0, 0}), "[90/0_2]");
+    EXPECT_EQ(WriteStackingNotation({0, 0, 0, 0}), "[0]4");
+    EXPECT_EQ(WriteStackingNotation({0, 90, 0, 90, 0, 90, 45}), "[(0/90)3/45]");
+    EXPECT_EQ(WriteStackingNotation({45, 0, 90, 0, 90, 0, 90, 45, 45, 90, 0, 90, 0, 90, 0, 45}),
+              "[45/(0/90)3/45]s");
+    EXPECT_EQ(WriteStackingNotation({}), "");
+}
+
+TEST(StackingNotation, IsWrittenWithoutExponents) {
+    EXPECT_EQ(WriteStackingNotation({1e-7, -0.0}), "[0.0000001/0]");
+    EXPECT_THAT(Plies("[0.0000001/0]"), ElementsAre(1e-7, 0));
+}
+
+/// The plain list of a sequence, as long as it takes.
+std::string PlainList(const StackingSequence& sequence) {
+    std::string text;
+    for (const double angle : sequence)
+        text += (text.empty() ? "" : "/") + std::to_string(static_cast<int>(angle));
+    return "[" + text + "]";
+}
+
+TEST(StackingNotation, ReadsBackWhatItWritesAndIsNeverLongerThanThePlainList) {
+    std::mt19937 random(20261121);
+    const int angles[] = {0, 90, 45, -45, 5};
+    for (int i = 0; i < 500; ++i) {
+        StackingSequence sequence(1 + random() % 40);
+        for (double& angle : sequence) angle = angles[random() % (2 + random() % 4)];
+        if (random() % 2 == 0) sequence.insert(sequence.end(), sequence.begin(), sequence.end());
+        if (random() % 2 == 0) sequence.insert(sequence.end(), sequence.rbegin(), sequence.rend());
+
+        const std::string text = WriteStackingNotation(sequence);
+
+        EXPECT_EQ(Plies(text), sequence) << text;
+        EXPECT_LE(text.size(), PlainList(sequence).size()) << text;
+    }
+}
+
+TEST(StackingNotation, ReadsAHundredThousandPliesWrittenOutInFull) {
+    std::string plies = "0";
+    for (int i = 1; i < 100'000; ++i) plies += i % 3 == 0 ? "/-45" : "/90";
+    EXPECT_EQ(Plies("[" + plies + "]").size(), 100'000u);
+    EXPECT_EQ(Mistake("[" + plies + "/0]").text, "the laminate has more than 100000 plies");
+}
+
+TEST(StackingNotation, ExpandsAnAntisymmetricLaminate) {
+    EXPECT_THAT(Plies("[30/60]as"), ElementsAre(30, 60, -60, -30));
+    EXPECT_THAT(Plies("[0/90/-45]AS"), ElementsAre(0, 90, -45, 45, 90, 0));
+    EXPECT_THAT(Plies("[-90/10]_as"), ElementsAre(-90, 10, -10, 90));
+    EXPECT_THAT(Plies("[±20]2as"), ElementsAre(20, -20, 20, -20, 20, -20, 20, -20));
+    EXPECT_EQ(Mistake("[0/90_bar]as").text, "a mid-ply stands in a symmetric laminate only: [...]s");
+    EXPECT_EQ(Mistake("[0/90]a").position, 7u);
+}
+
+TEST(StackingNotation, TakesADegreeSignAfterAnAngle) {
+    EXPECT_THAT(Plies("[0°/±45°/90°_2]"), ElementsAre(0, 45, -45, 90, 90));
+    EXPECT_EQ(Mistake("[°]").position, 2u);
+    EXPECT_EQ(Mistake("[0°°]").position, 4u);
+}
+
+TEST(StackingNotation, KnowsNoLettersForPlusMinus) {
+    EXPECT_EQ(Mistake("[p45]").text, "an angle in degrees was expected here");
+    EXPECT_EQ(Mistake("[m45]").text, "an angle in degrees was expected here");
+    EXPECT_EQ(Mistake("[\x01"
+                      "45]")
+                  .text,
+              "an angle in degrees was expected here");
+}
+
+TEST(StackingNotation, HoldsAnglesWithinAFullTurn) {
+    EXPECT_THAT(Plies("[360/-360]"), ElementsAre(360, -360));
+    EXPECT_EQ(Mistake("[0/360.5]").text, "an angle lies between -360 and 360 degrees");
+    EXPECT_EQ(Mistake("[0/360.5]").position, 4u);
+    EXPECT_EQ(Mistake("[1e3]").position, 3u);
 }
 
 TEST(StackingNotation, ReadsBackWhatItWrites) {

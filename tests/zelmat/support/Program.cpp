@@ -34,9 +34,14 @@ constexpr const char* kTestData = ZELMAT_TEST_DATA;
 }  // namespace
 
 ProgramRun RunZelmat(const std::vector<std::string>& arguments) {
+    return RunZelmatWith(arguments, "");
+}
+
+ProgramRun RunZelmatWith(const std::vector<std::string>& arguments, const std::string& redirections) {
     const std::string output = testing::TempDir() + "zelmat-run-" + std::to_string(getpid());
-    std::string command = "cd " + Quoted(kTestData) + " && " + CommandOf(arguments);
-    command += " >" + Quoted(output + ".out") + " 2>" + Quoted(output + ".err");
+    const std::string command = "cd " + Quoted(kTestData) + " && { " + CommandOf(arguments) + " " +
+                                redirections + "; } >" + Quoted(output + ".out") + " 2>" +
+                                Quoted(output + ".err");
 
     const int status = std::system(command.c_str());
 

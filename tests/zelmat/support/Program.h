@@ -18,5 +18,8 @@ ProgramRun RunZelmat(const std::vector<std::string>& arguments);
 ProgramRun RunZelmatOnTerminal(const std::vector<std::string>& arguments,
                                const std::vector<std::string>& environment = {});
 
+/// The same with the shell's own words behind the command: ">&-", "| head -c 1".
+ProgramRun RunZelmatWith(const std::vector<std::string>& arguments, const std::string& redirections);
+
 /// Path of a card in samples/.
 std::string Sample(const std::string& name);
