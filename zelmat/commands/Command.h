@@ -6,6 +6,7 @@
 #include <string>
 
 #include "zelmat/findings/Findings.h"
+#include "zelmat/quantities/UnitChoice.h"
 
 namespace CLI {
 class App;
@@ -19,11 +20,14 @@ struct CommonOptions {
     std::string output;          ///< where the file goes that the command makes; empty: nowhere
     std::string color = "auto";  ///< "auto": on a terminal, unless NO_COLOR is set; "always"; "never"
     bool json = false;           ///< one JSON object on standard output, findings included
+    bool csv = false;            ///< tables on standard output as CSV
+    std::string units;           ///< of the numbers shown: "us", "stress=MPa,..."; empty: not said
 };
 
 /// What a command works with.
 struct CommandContext {
     const CommonOptions& options;
+    const UnitChoice& units;  ///< of the numbers shown, as options and configuration choose them
     Findings& findings;
     std::ostream& notes;  ///< standard error, for what is neither result nor finding
 };
@@ -47,7 +51,7 @@ public:
     /// What the work came to, for a reader; nothing when it came to nothing.
     virtual void Print(std::ostream& out) const = 0;
 
-    /// The same as an object; the frame adds the findings. Numbers are SI, each with its unit beside it.
+    /// The same as an object; the frame adds the findings. Each number has its unit beside it.
     virtual nlohmann::ordered_json Json() const = 0;
 };
 
@@ -58,6 +62,8 @@ struct CommandKind {
     std::string brief;        ///< what it does, in half a line
     std::string text;         ///< the same in full
     std::string output = {};  ///< what --output is for; empty: the command has no such option
+    bool units = false;       ///< has --units: it shows numbers that have a unit
+    bool csv = false;         ///< has --csv: it shows tables
     std::unique_ptr<Command> (*make)() = nullptr;
 };
 

@@ -28,7 +28,12 @@ void Declare(CLI::App& line, const CommandKind& kind, CommonOptions& options, Co
     command.Declare(line);
     options.catalogs = CatalogsOfThisProgram();
     if (!kind.output.empty()) line.add_option("--output", options.output, kind.output);
-    line.add_flag("--json", options.json, "Print one JSON object, findings included");
+    auto* json = line.add_flag("--json", options.json, "Print one JSON object, findings included");
+    if (kind.csv) line.add_flag("--csv", options.csv, "Print the tables as CSV")->excludes(json);
+    if (kind.units) {
+        line.add_option("--units", options.units,
+                        "Units of the numbers shown: si, mm-t-s, mm-kg-ms, us, stress=MPa,temperature=degC");
+    }
     line.add_option("--catalogs", options.catalogs, "Folder of the feature catalogs")->capture_default_str();
     line.add_option("--color", options.color,
                     "Colours: auto (on a terminal, unless NO_COLOR is set), always, never")

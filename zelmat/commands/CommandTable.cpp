@@ -10,7 +10,8 @@ namespace zelmat {
     COMMAND(Summary)             \
     COMMAND(Upgrade)             \
     COMMAND(Layup)               \
-    COMMAND(Unit)
+    COMMAND(Unit)                \
+    COMMAND(Config)
 
 #define ZELMAT_DECLARE(name) CommandKind name##Command();
 ZELMAT_COMMANDS(ZELMAT_DECLARE)

@@ -1,6 +1,7 @@
 #include "zelmat/commands/JsonReport.h"
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/materials/InUnits.h"
 
 namespace zelmat {
 
@@ -13,13 +14,14 @@ ordered_json ToJson(const Value& value) {
 }
 
 /// The values beside the tables: those that are stored, or the notes that only the card has.
-ordered_json ToJson(const BlockKind& kind, const Values& values, bool stored) {
+ordered_json ToJson(const BlockKind& kind, const Values& values, bool stored, const UnitChoice& units) {
     ordered_json json = ordered_json::object();
     for (const Setting& setting : kind.settings) {
         const Value* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
         if (!value) continue;
-        json[setting.name] = {{"value", ToJson(*value)}};
-        if (!setting.unit.empty()) json[setting.name]["unit"] = setting.unit;
+        const auto [shown, unit] = InUnits(setting, *value, units);
+        json[setting.name] = {{"value", ToJson(shown)}};
+        if (!unit.empty()) json[setting.name]["unit"] = unit;
     }
     return json;
 }
@@ -38,13 +40,13 @@ ordered_json ToJson(const Table& table) {
             {"rows", std::move(rows)}};
 }
 
-ordered_json ToJson(const StoredBlock& stored) {
+ordered_json ToJson(const StoredBlock& stored, const UnitChoice& units) {
     const Block& block = stored.block;
     ordered_json json = {{"name", block.kind->name},
-                         {"values", ToJson(*block.kind, block.values, true)},
+                         {"values", ToJson(*block.kind, block.values, true, units)},
                          {"tables", ordered_json::array()}};
-    for (const Table& table : block.tables) json["tables"].push_back(ToJson(table));
-    if (stored.given) json["on_the_card"] = ToJson(*block.kind, stored.given->values, false);
+    for (const Table& table : block.tables) json["tables"].push_back(ToJson(InUnits(table, units)));
+    if (stored.given) json["on_the_card"] = ToJson(*block.kind, stored.given->values, false, units);
     return json;
 }
 
@@ -60,7 +62,7 @@ ordered_json Information(const Material& material) {
 
 }  // namespace
 
-ordered_json ToJson(const StoredMaterial& material) {
+ordered_json ToJson(const StoredMaterial& material, const UnitChoice& units) {
     const Material& given = *material.given;
     ordered_json json = {{"name", given.name},
                          {"description", given.description},
@@ -76,7 +78,8 @@ ordered_json ToJson(const StoredMaterial& material) {
                          {"fits", ordered_json::array()},
                          {"for_information", Information(given)},
                          {"kept", ordered_json::object()}};
-    for (const StoredBlock* stored : material.SwitchedOn()) json["behaviors"].push_back(ToJson(*stored));
+    for (const StoredBlock* stored : material.SwitchedOn())
+        json["behaviors"].push_back(ToJson(*stored, units));
     for (const Block& fit : given.fits) json["fits"].push_back(FitName(fit));
     for (const KeptValue& kept : given.kept) json["kept"][kept.name] = ordered_json::parse(kept.json);
     return json;

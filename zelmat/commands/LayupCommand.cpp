@@ -59,6 +59,7 @@ public:
 
     void Work(CommandContext& context) override {
         Findings& findings = context.findings;
+        units_ = context.units;
         card_ = Given(findings);
         if (card_) stored_ = Store(context.options.catalogs, findings);
         if (!stored_) return;
@@ -71,13 +72,13 @@ public:
     bool TakesStandardOutput() const override { return drawing_ == "-"; }
 
     void Print(std::ostream& out) const override {
-        if (stored_) PrintLayup(out, *card_, *stored_);
+        if (stored_) PrintLayup(out, *card_, *stored_, units_);
         if (drawn_) PrintWritten(out, "drawn", *drawn_);
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"layup", nullptr}, {"drawing", nullptr}};
-        if (stored_) json["layup"] = ToJson(*card_, *stored_);
+        if (stored_) json["layup"] = ToJson(*card_, *stored_, units_);
         if (drawn_) AddWritten(json, "drawing", *drawn_);
         return json;
     }
@@ -154,6 +155,7 @@ private:
     std::string thickness_;  // of a notation: of each ply, with its unit
     std::string section_;    // "composite", "homogeneous": one that references the layup; empty: none
     std::string drawing_;    // where the SVG picture goes; empty: nowhere
+    UnitChoice units_ = UnitChoice::Si();
     std::optional<LayupCard> card_;
     std::optional<StoredLayup> stored_;
     std::optional<WrittenFile> drawn_;
@@ -168,6 +170,7 @@ CommandKind LayupCommand() {
                 "Make a composite layup from a stacking notation or a layup card in a document in memory,\n"
                 "read it back from there, check it and print its layers from the bottom up with the z of\n"
                 "their faces. Notation: [0/45/-45/90]s, [±45/0]2, [0_2/90]s, [0/90_bar]s.",
+            .units = true,
             .make = &MakeCommand<Layup>};
 }
 

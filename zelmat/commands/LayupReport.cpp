@@ -1,8 +1,12 @@
 #include "zelmat/commands/LayupReport.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "zelmat/layups/Millimetres.h"
 #include "zelmat/materials/StatusText.h"
 #include "zelmat/quantities/NumberText.h"
+#include "zelmat/quantities/UnitConversion.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
@@ -13,6 +17,33 @@ namespace {
 
 using nlohmann::ordered_json;
 
+/// Numbers of one kind, in the unit that was chosen for it.
+class Shown {
+public:
+    Shown(const Quantity& quantity, const UnitChoice& units)
+        : unit_(units.For(quantity)), conversion_(UnitConversion::FromStored(quantity, unit_)) {}
+
+    const std::string& Unit() const { return unit_.Spelling(); }
+
+    /// Not a number where the unit cannot hold it.
+    double operator()(double stored) const {
+        return conversion_(stored).value_or(std::numeric_limits<double>::quiet_NaN());
+    }
+
+    std::string Text(double stored) const { return WithUnit((*this)(stored), Unit()); }
+    ordered_json Json(double stored) const { return {{"value", (*this)(stored)}, {"unit", Unit()}}; }
+
+private:
+    zelmat::Unit unit_;
+    UnitConversion conversion_;
+};
+
+/// A constant of a ply; those in Pa are moduli.
+Shown ShownConstant(const std::string& name, const UnitChoice& units) {
+    const std::string unit = PlyConstantUnit(name);
+    return {unit == "Pa" ? *FindQuantity("modulus") : *FindQuantityStoredIn(unit), units};
+}
+
 constexpr const char* kNoMaterial = "(none)";
 constexpr const char* kConvention =
     "layers from the bottom up; z from the middle plane, upwards; angles from the x axis to the fibre, "
@@ -22,33 +53,35 @@ std::string WhatTheSequenceIs(const StoredLayup& stored) {
     return stored.IsOfOnePly() ? "stacking sequence" : "stacking sequence, angles only";
 }
 
-void PrintHead(std::ostream& out, const LayupCard& card, const StoredLayup& stored) {
+void PrintHead(std::ostream& out, const LayupCard& card, const StoredLayup& stored, const Shown& length) {
     out << card.name << '\n';
     if (!card.description.empty()) out << card.description << '\n';
     for (const std::string& source : card.sources) out << "source: " << source << '\n';
     out << '\n'
-        << stored.name << ": " << stored.LayerCount() << ", " << Millimetres(stored.Thickness())
-        << " mm thick\n";
+        << stored.name << ": " << stored.LayerCount() << ", "
+        << length.Text(WithoutNoiseOfSums(stored.Thickness())) << " thick\n";
     if (stored.layers.empty()) return;
     out << WhatTheSequenceIs(stored) << ": " << stored.Notation() << "\n\n" << kConvention << '\n';
 }
 
-void PrintLayers(std::ostream& out, const StoredLayup& stored) {
+void PrintLayers(std::ostream& out, const StoredLayup& stored, const Shown& length, const Shown& angle) {
     if (stored.layers.empty()) return;
     const std::vector<double> z = stored.Interfaces();
-    TablePrinter printer(
-        {"layer", "material", "thickness [mm]", "angle [deg]", "z bottom [mm]", "z top [mm]"});
+    const auto lengthText = [&](double metres) { return NumberText(length(WithoutNoiseOfSums(metres))); };
+    const std::string in = " [" + length.Unit() + "]";
+    TablePrinter printer({"layer", "material", "thickness" + in, "angle [" + angle.Unit() + "]",
+                          "z bottom" + in, "z top" + in});
     printer.SetLeft(1);
     for (std::size_t i = 0; i < stored.layers.size(); ++i) {
         const StoredLayer& layer = stored.layers[i];
         printer.AddRow({std::to_string(i + 1), Printable(layer.material.value_or(kNoMaterial)),
-                        Millimetres(layer.thickness), NumberText(layer.angle), Millimetres(z[i]),
-                        Millimetres(z[i + 1])});
+                        lengthText(layer.thickness), NumberText(angle(layer.angle)), lengthText(z[i]),
+                        lengthText(z[i + 1])});
     }
     printer.Print(out);
 }
 
-void PrintMaterials(std::ostream& out, const LayupCard& card) {
+void PrintMaterials(std::ostream& out, const LayupCard& card, const UnitChoice& units) {
     bool first = true;
     for (const PlyMaterial& material : card.materials) {
         if (material.constants.empty()) continue;
@@ -56,36 +89,32 @@ void PrintMaterials(std::ostream& out, const LayupCard& card) {
         first = false;
         out << "  " << Printable(material.name) << ": "
             << WordList(material.constants,
-                        [](const auto& constant) {
+                        [&](const auto& constant) {
                             return constant.first + " = " +
-                                   WithUnit(constant.second, PlyConstantUnit(constant.first));
+                                   ShownConstant(constant.first, units).Text(constant.second);
                         })
             << '\n';
         if (!material.source.empty()) out << "    source: " << Printable(material.source) << '\n';
     }
 }
 
-ordered_json Measure(double value, const char* unit) {
-    return {{"value", value}, {"unit", unit}};
-}
-
-ordered_json Layers(const StoredLayup& stored) {
+ordered_json Layers(const StoredLayup& stored, const Shown& length, const Shown& angle) {
     ordered_json layers = ordered_json::array();
     for (const StoredLayer& layer : stored.layers) {
         layers.push_back({{"layer", layers.size() + 1},
                           {"material", layer.material ? ordered_json(*layer.material) : ordered_json()},
-                          {"thickness", Measure(layer.thickness, "m")},
-                          {"angle", Measure(layer.angle, "deg")}});
+                          {"thickness", length.Json(layer.thickness)},
+                          {"angle", angle.Json(layer.angle)}});
     }
     return layers;
 }
 
-ordered_json Materials(const LayupCard& card) {
+ordered_json Materials(const LayupCard& card, const UnitChoice& units) {
     ordered_json materials = ordered_json::array();
     for (const PlyMaterial& material : card.materials) {
         ordered_json constants = ordered_json::object();
         for (const auto& [name, value] : material.constants) {
-            constants[name] = Measure(value, PlyConstantUnit(name).c_str());
+            constants[name] = ShownConstant(name, units).Json(value);
         }
         materials.push_back(
             {{"name", material.name}, {"constants", std::move(constants)}, {"source", material.source}});
@@ -110,15 +139,20 @@ void ReportValidity(const LayupCard& card, const StoredLayup& stored, Findings& 
     }
 }
 
-void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& stored) {
-    PrintHead(out, card, stored);
-    PrintLayers(out, stored);
+void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& stored,
+                const UnitChoice& units) {
+    const Shown length(*FindQuantity("length"), units);
+    PrintHead(out, card, stored, length);
+    PrintLayers(out, stored, length, Shown(*FindQuantity("angle"), units));
     out << "\nvalid: " << (stored.valid ? "yes" : "no") << '\n'
         << "used by a composite section: " << (stored.unused ? "no" : "yes") << '\n';
-    PrintMaterials(out, card);
+    PrintMaterials(out, card, units);
 }
 
-ordered_json ToJson(const LayupCard& card, const StoredLayup& stored) {
+ordered_json ToJson(const LayupCard& card, const StoredLayup& stored, const UnitChoice& units) {
+    const Shown length(*FindQuantity("length"), units);
+    std::vector<double> interfaces = stored.Interfaces();
+    std::ranges::transform(interfaces, interfaces.begin(), length);
     return {{"name", card.name},
             {"description", card.description},
             {"source", card.sources},
@@ -126,12 +160,12 @@ ordered_json ToJson(const LayupCard& card, const StoredLayup& stored) {
             {"notation", stored.Notation()},
             {"one_ply", stored.IsOfOnePly()},
             {"convention", kConvention},
-            {"layers", Layers(stored)},
-            {"interfaces", {{"z", stored.Interfaces()}, {"unit", "m"}}},
-            {"total_thickness", Measure(stored.Thickness(), "m")},
+            {"layers", Layers(stored, length, Shown(*FindQuantity("angle"), units))},
+            {"interfaces", {{"z", std::move(interfaces)}, {"unit", length.Unit()}}},
+            {"total_thickness", length.Json(stored.Thickness())},
             {"valid", stored.valid},
             {"used", !stored.unused},
-            {"ply_materials", Materials(card)}};
+            {"ply_materials", Materials(card, units)}};
 }
 
 }  // namespace zelmat

@@ -6,6 +6,7 @@
 #include "zelmat/findings/Findings.h"
 #include "zelmat/layups/LayupCard.h"
 #include "zelmat/layups/StoredLayup.h"
+#include "zelmat/quantities/UnitChoice.h"
 
 namespace zelmat {
 
@@ -13,10 +14,10 @@ namespace zelmat {
 void ReportValidity(const LayupCard& card, const StoredLayup& stored, Findings& findings);
 
 /// The layup as an analyst reads it: its layers from the bottom up with the z of their faces, whether it is
-/// valid and used, and the constants of its materials. Lengths in mm.
-void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& stored);
+/// valid and used, and the constants of its materials. Numbers are in the units chosen.
+void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& stored, const UnitChoice& units);
 
-/// The same for programs. Numbers are SI, each with its unit beside it.
-nlohmann::ordered_json ToJson(const LayupCard& card, const StoredLayup& stored);
+/// The same for programs, each number with its unit beside it.
+nlohmann::ordered_json ToJson(const LayupCard& card, const StoredLayup& stored, const UnitChoice& units);
 
 }  // namespace zelmat

@@ -8,6 +8,7 @@
 #include <exception>
 #include <iostream>
 
+#include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/CommandLine.h"
 #include "zelmat/commands/CommandTable.h"
 #include "zelmat/commands/FindingPrinter.h"
@@ -63,8 +64,10 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
         return EXIT_CLEAN;
     }
     Findings findings;
-    CommandContext context{line.options, findings, std::cerr};
-    command->Work(context);
+    if (const auto units = kind.units ? ChosenUnits(line.options, findings) : UnitChoice::Si()) {
+        CommandContext context{line.options, *units, findings, std::cerr};
+        command->Work(context);
+    }
     // Standard output belongs to the file that the command makes, when that goes there.
     const bool taken = line.options.output == "-" || command->TakesStandardOutput();
     std::ostream& out = taken ? std::cerr : std::cout;

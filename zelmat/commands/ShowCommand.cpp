@@ -5,6 +5,7 @@
 #include "zelmat/commands/CallTrace.h"
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/CsvReport.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/ShowReport.h"
 
@@ -29,6 +30,8 @@ public:
 
     void Work(CommandContext& context) override {
         Findings& findings = context.findings;
+        units_ = context.units;
+        csv_ = context.options.csv;
         std::optional<CallTrace> calls;
         if (trace_) calls.emplace(context.notes);
 
@@ -43,12 +46,17 @@ public:
     }
 
     void Print(std::ostream& out) const override {
-        if (stored_) PrintMaterial(out, *material_);
+        if (!stored_) return;
+        if (csv_) {
+            PrintTablesAsCsv(out, *material_, units_);
+        } else {
+            PrintMaterial(out, *material_, units_);
+        }
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"material", nullptr}};
-        if (material_) json["material"] = ToJson(*material_);
+        if (material_) json["material"] = ToJson(*material_, units_);
         return json;
     }
 
@@ -67,6 +75,8 @@ private:
     FitChoice fit_;         // of several hyperelastic fits
     bool allFits_ = false;  // show each in turn
     bool trace_ = false;
+    UnitChoice units_ = UnitChoice::Si();
+    bool csv_ = false;
     std::optional<Material> card_;
     std::optional<StoredMaterial> material_;
     bool stored_ = false;
@@ -75,14 +85,17 @@ private:
 }  // namespace
 
 CommandKind ShowCommand() {
-    return {.name = "show",
-            .brief = "print the properties on a material card as a document holds them",
-            .text =
-                "Print the properties on a material card as a document holds them.\n"
-                "The card is checked, written into a document in memory, read back from there and\n"
-                "printed behavior by behavior with units (SI). Nothing is kept on disk. A material\n"
-                "holds one hyperelastic fit: the one that is asked for, else the card's first.",
-            .make = &MakeCommand<Show>};
+    return {
+        .name = "show",
+        .brief = "print the properties on a material card as a document holds them",
+        .text =
+            "Print the properties on a material card as a document holds them.\n"
+            "The card is checked, written into a document in memory, read back from there and\n"
+            "printed behavior by behavior, each number with its unit. Nothing is kept on disk. A material\n"
+            "holds one hyperelastic fit: the one that is asked for, else the card's first.",
+        .units = true,
+        .csv = true,
+        .make = &MakeCommand<Show>};
 }
 
 }  // namespace zelmat

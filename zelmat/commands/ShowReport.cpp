@@ -4,6 +4,8 @@
 #include <cmath>
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/materials/InUnits.h"
+#include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"
@@ -14,7 +16,7 @@ namespace zelmat {
 
 namespace {
 
-std::string ValueText(const Setting& setting, const Value& value) {
+std::string ValueText(const Setting& setting, const Value& stored, const UnitChoice& units) {
     struct ToText {
         const std::string& unit;
         std::string operator()(bool flag) const { return flag ? "yes" : "no"; }
@@ -22,16 +24,18 @@ std::string ValueText(const Setting& setting, const Value& value) {
         std::string operator()(double number) const { return WithUnit(number, unit); }
         std::string operator()(const std::string& text) const { return Printable(text); }
     };
-    return std::visit(ToText{setting.unit}, value);
+    const auto [value, unit] = InUnits(setting, stored, units);
+    return std::visit(ToText{unit}, value);
 }
 
 /// The values beside the tables: those that are stored, or the notes that only the card has.
-void PrintValues(std::ostream& out, const BlockKind& kind, const Values& values, bool stored) {
+void PrintValues(std::ostream& out, const BlockKind& kind, const Values& values, bool stored,
+                 const UnitChoice& units) {
     for (const Setting& setting : kind.settings) {
         const Value* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
         if (!value) continue;
-        out << "  " << setting.title << (stored ? ": " : ", on the card: ") << ValueText(setting, *value)
-            << '\n';
+        out << "  " << setting.title << (stored ? ": " : ", on the card: ")
+            << ValueText(setting, *value, units) << '\n';
     }
 }
 
@@ -43,12 +47,14 @@ std::string Header(const ColumnKind& column) {
 void PrintTable(std::ostream& out, const Table& table) {
     std::vector<std::string> headers;
     for (const Column& column : table.columns) headers.push_back(Header(column.kind));
+    std::vector<std::vector<std::string>> texts;
+    for (const Column& column : table.columns) texts.push_back(NumberColumn(column.values));
     TablePrinter printer(headers);
     for (std::size_t row = 0; row < table.Rows(); ++row) {
         std::vector<std::string> cells;
-        for (const Column& column : table.columns) {
-            const double number = column.values[row];
-            cells.push_back(std::isnan(number) ? "-" : NumberText(number));
+        for (std::size_t column = 0; column < texts.size(); ++column) {
+            const bool missing = std::isnan(table.columns[column].values[row]);
+            cells.push_back(missing ? "-" : texts[column][row]);
         }
         printer.AddRow(std::move(cells));
     }
@@ -65,19 +71,19 @@ const char* FlagWords(const Table& table) {
     return table.temperatureDependent ? ", temperature dependent" : ", not temperature dependent";
 }
 
-void PrintBlock(std::ostream& out, const StoredBlock& stored) {
+void PrintBlock(std::ostream& out, const StoredBlock& stored, const UnitChoice& units) {
     const Block& block = stored.block;
     const bool ownTable = block.kind->FindTable("") != nullptr;
     out << '\n' << block.kind->title;
     if (ownTable && !block.tables.empty()) out << FlagWords(block.tables.front());
     out << '\n';
-    PrintValues(out, *block.kind, block.values, true);
+    PrintValues(out, *block.kind, block.values, true, units);
     for (const Table& table : block.tables) {
         if (!ownTable) out << "  " << table.kind->title << FlagWords(table) << '\n';
-        PrintTable(out, table);
+        PrintTable(out, InUnits(table, units));
         PrintSource(out, stored, table);
     }
-    if (stored.given) PrintValues(out, *block.kind, stored.given->values, false);
+    if (stored.given) PrintValues(out, *block.kind, stored.given->values, false, units);
 }
 
 /// Which of several fits the material holds. Every fit that is shown tells its name itself.
@@ -126,14 +132,14 @@ void PrintHead(std::ostream& out, const Material& given) {
 
 }  // namespace
 
-void PrintMaterial(std::ostream& out, const StoredMaterial& material) {
+void PrintMaterial(std::ostream& out, const StoredMaterial& material, const UnitChoice& units) {
     const Material& given = *material.given;
     PrintHead(out, given);
     out << '\n';
     PrintNote(out, "switched on", WordList(material.Names(true)));
     PrintNote(out, "switched off", WordList(material.Names(false)));
     if (material.heatGeneration.value_or(false)) out << "the material generates heat\n";
-    for (const StoredBlock* stored : material.SwitchedOn()) PrintBlock(out, *stored);
+    for (const StoredBlock* stored : material.SwitchedOn()) PrintBlock(out, *stored, units);
     PrintFits(out, material);
     if (!given.information.empty() || !given.kept.empty()) out << '\n';
     PrintNote(out, "for information only, used by no behavior", WordList(given.information, InformationText));

@@ -59,6 +59,7 @@ public:
     }
 
     void Work(CommandContext& context) override {
+        units_ = context.units;
         MaterialHost host(context.options.catalogs);
         for (const std::string& path : paths_) {
             Findings own;
@@ -71,7 +72,8 @@ public:
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"materials", nlohmann::ordered_json::array()}};
-        for (const StoredMaterial& material : materials_) json["materials"].push_back(ToJson(material));
+        for (const StoredMaterial& material : materials_)
+            json["materials"].push_back(ToJson(material, units_));
         return json;
     }
 
@@ -87,6 +89,7 @@ private:
     }
 
     std::vector<std::string> paths_;
+    UnitChoice units_ = UnitChoice::Si();
     std::deque<Material> cards_;  // does not move its elements, which the materials refer to
     std::deque<StoredMaterial> materials_;
 };
@@ -100,6 +103,7 @@ CommandKind SummaryCommand() {
                 "Put the materials of several cards into one document in memory and print a line for each:\n"
                 "which behaviors are switched on with how many rows, and how many features the material\n"
                 "made.",
+            .units = true,
             .make = &MakeCommand<Summary>};
 }
 

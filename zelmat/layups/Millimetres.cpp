@@ -6,11 +6,25 @@
 
 namespace zelmat {
 
+namespace {
+
+constexpr double kSteps = 1e12;  // in a metre
+
+/// No minus zero.
+double Steps(double metres) {
+    const double steps = std::round(metres * kSteps);
+    return steps == 0.0 ? 0.0 : steps;
+}
+
+}  // namespace
+
+double WithoutNoiseOfSums(double metres) {
+    return Steps(metres) / kSteps;
+}
+
 std::string Millimetres(double metres) {
-    constexpr double kPerMetre = 1000.0;
-    constexpr double kSteps = 1e9;  // a millimetre has that many
-    const double steps = std::round(metres * kPerMetre * kSteps);
-    return NumberText(steps == 0.0 ? 0.0 : steps / kSteps);
+    constexpr double kStepsOfAMillimetre = kSteps / 1000.0;
+    return NumberText(Steps(metres) / kStepsOfAMillimetre);
 }
 
 }  // namespace zelmat

@@ -60,8 +60,8 @@ TEST(LayupCommand, PrintsACardWithTheConstantsOfItsMaterials) {
                                     "B and D.\n"
                                     "source: A. K. Kaw"));
     EXPECT_THAT(run.out, HasSubstr("Ply materials, for reference: the layup keeps a link to the material\n"
-                                   "  graphite/epoxy: E1 = 1.81e+11 Pa, E2 = 1.03e+10 Pa, nu12 = 0.28, G12 = "
-                                   "7.17e+09 Pa\n"
+                                   "  graphite/epoxy: E1 = 181000 MPa, E2 = 10300 MPa, nu12 = 0.28, G12 = "
+                                   "7170 MPa\n"
                                    "    source: A. K. Kaw"));
 }
 

@@ -25,13 +25,13 @@ TEST(ShowCommand, PrintsWhatTheDocumentHolds) {
               "gasket, gasket_membrane, gasket_transverse_shear\n"
               "\n"
               "Elastic, temperature dependent\n"
-              "  Young's modulus [Pa]  Poisson's ratio [-]  temperature [K]\n"
-              "               2.1e+11                  0.3           293.15\n"
-              "              1.89e+11                 0.31           473.15\n"
+              "  Young's modulus [MPa]  Poisson's ratio [-]  temperature [degC]\n"
+              "                 210000                 0.30                  20\n"
+              "                 189000                 0.31                 200\n"
               "  source: a handbook\n"
               "\n"
               "Thermal expansion, not temperature dependent\n"
-              "  reference temperature: 293.15 K\n"
+              "  reference temperature: 20 degC\n"
               "  thermal expansion [1/K]\n"
               "                  1.2e-05\n");
 }
@@ -52,8 +52,8 @@ TEST(ShowCommand, ShowsTheWarningOfACutElasticTable) {
               "user_material, hyperelastic, gasket, gasket_membrane, gasket_transverse_shear\n"
               "\n"
               "Elastic, not temperature dependent\n"
-              "  Young's modulus [Pa]  Poisson's ratio [-]\n"
-              "               2.1e+11                  0.3\n");
+              "  Young's modulus [MPa]  Poisson's ratio [-]\n"
+              "                 210000                  0.3\n");
 }
 
 TEST(ShowCommand, KeepsEveryRowOfTheOtherTables) {
@@ -189,18 +189,18 @@ TEST(SteelS355, IsShownWithItsTemperatureTables) {
 
     EXPECT_THAT(run.out, StartsWith("Structural steel S355\n"));
     EXPECT_THAT(run.out, HasSubstr("\nElastic, temperature dependent\n"
-                                   "  Young's modulus [Pa]  Poisson's ratio [-]  temperature [K]\n"
-                                   "               2.1e+11                  0.3           293.15\n"));
-    EXPECT_THAT(run.out, HasSubstr("             4.725e+09                  0.3          1373.15\n"));
+                                   "  Young's modulus [MPa]  Poisson's ratio [-]  temperature [degC]\n"
+                                   "                 210000                  0.3                  20\n"));
+    EXPECT_THAT(run.out, HasSubstr("                   4725                  0.3                1100\n"));
     EXPECT_THAT(run.out, HasSubstr("\nDensity, not temperature dependent\n"
                                    "  density [kg/m3]\n"
                                    "             7850\n"));
     EXPECT_THAT(run.out, HasSubstr("\nThermal expansion, temperature dependent\n"
-                                   "  reference temperature: 293.15 K\n"
-                                   "  thermal expansion [1/K]  temperature [K]\n"
-                                   "                1.248e-05           373.15\n"));
+                                   "  reference temperature: 20 degC\n"
+                                   "  thermal expansion [1/K]  temperature [degC]\n"
+                                   "               1.2480e-05                 100\n"));
     EXPECT_THAT(run.out, HasSubstr("\nSpecific heat, temperature dependent\n"));
-    EXPECT_THAT(run.out, HasSubstr("                      5000          1008.15\n"));
+    EXPECT_THAT(run.out, HasSubstr("                  5000.000                 735\n"));
 }
 
 /// The cells of the table that follows a caption, row by row; blanks between them.
@@ -218,22 +218,24 @@ TEST(SteelS355, IsShownWithItsHardeningCurves) {
 
     EXPECT_EQ(TableAfter(run.out, "Plastic, temperature dependent", 4),
               "  hardening: isotropic\n"
-              "  yield stress [Pa]  plastic strain [-]  temperature [K]\n"
-              "           3.55e+08                   0           293.15\n"
-              "           3.55e+08             0.14831           293.15\n");
+              "  yield stress [MPa]  plastic strain [-]  temperature [degC]\n"
+              "           355.00000          0.00000000                  20\n"
+              "           355.00000          0.14831000                  20\n");
 }
 
 TEST(JohnsonCookMetals, AreShownWithTheirParameters) {
-    EXPECT_EQ(TableAfter(RunZelmat({"show", Sample("copper_ofhc.json")}).out,
-                         "Plastic, not temperature dependent", 3),
-              "  hardening: johnson-cook\n"
-              "  A [Pa]    B [Pa]  n [-]  m [-]  melting temperature [K]  transition temperature [K]\n"
-              "   9e+07  2.92e+08   0.31   1.09                     1356                         298\n");
-    EXPECT_EQ(TableAfter(RunZelmat({"show", Sample("steel_4340.json")}).out,
-                         "Plastic, not temperature dependent", 3),
-              "  hardening: johnson-cook\n"
-              "    A [Pa]   B [Pa]  n [-]  m [-]  melting temperature [K]  transition temperature [K]\n"
-              "  7.92e+08  5.1e+08   0.26   1.03                     1793                         298\n");
+    EXPECT_EQ(
+        TableAfter(RunZelmat({"show", Sample("copper_ofhc.json")}).out, "Plastic, not temperature dependent",
+                   3),
+        "  hardening: johnson-cook\n"
+        "  A [MPa]  B [MPa]  n [-]  m [-]  melting temperature [degC]  transition temperature [degC]\n"
+        "       90      292   0.31   1.09                     1082.85                          24.85\n");
+    EXPECT_EQ(
+        TableAfter(RunZelmat({"show", Sample("steel_4340.json")}).out, "Plastic, not temperature dependent",
+                   3),
+        "  hardening: johnson-cook\n"
+        "  A [MPa]  B [MPa]  n [-]  m [-]  melting temperature [degC]  transition temperature [degC]\n"
+        "      792      510   0.26   1.03                     1519.85                          24.85\n");
 }
 
 TEST(NaturalRubber, IsStoredWithItsFirstFitAndSaysSo) {
@@ -242,10 +244,10 @@ TEST(NaturalRubber, IsStoredWithItsFirstFitAndSaysSo) {
     EXPECT_EQ(TableAfter(run.out, "Hyperelastic, not temperature dependent", 4),
               "  model: OGDEN\n"
               "  order: 3\n"
-              "  mu_1 [Pa]  alpha_1 [-]  mu_2 [Pa]  alpha_2 [-]  mu_3 [Pa]  alpha_3 [-]  D1 [1/Pa]  D2 "
-              "[1/Pa]  D3 [1/Pa]\n"
-              "     630000          1.3       1200            5     -10000           -2          0         "
-              " 0          0\n");
+              "  mu_1 [MPa]  alpha_1 [-]  mu_2 [MPa]  alpha_2 [-]  mu_3 [MPa]  alpha_3 [-]  D1 [1/MPa]  "
+              "D2 [1/MPa]  D3 [1/MPa]\n"
+              "        0.63          1.3      0.0012            5       -0.01           -2           0  "
+              "         0           0\n");
     EXPECT_THAT(run.out, HasSubstr("\nhyperelastic fits on the card: 10, stored: OGDEN\n"));
     EXPECT_THAT(run.out, HasSubstr("test_data (uniaxial 24 rows, equibiaxial 16 rows, planar 13 rows)\n"));
 }
@@ -259,8 +261,8 @@ TEST(NaturalRubber, IsStoredWithTheFitThatIsAskedFor) {
     EXPECT_EQ(TableAfter(run.out, "Hyperelastic, not temperature dependent", 4),
               "  model: MOONEY_RIVLIN\n"
               "  order: 1\n"
-              "  C10 [Pa]  C01 [Pa]  D1 [1/Pa]\n"
-              "    234800    -65000          0\n");
+              "  C10 [MPa]  C01 [MPa]  D1 [1/MPa]\n"
+              "     0.2348     -0.065           0\n");
 }
 
 TEST(NaturalRubber, IsRefusedWithAModelThatTheCardDoesNotHave) {
@@ -305,8 +307,8 @@ TEST(ShowCommand, ShowsATableThatBreaksARuleButWasStored) {
               "(has to be 0, the table was stored all the same)\n");
     EXPECT_EQ(TableAfter(run.out, "Plastic, not temperature dependent", 3),
               "  hardening: isotropic\n"
-              "  yield stress [Pa]  plastic strain [-]  temperature [K]\n"
-              "           2.35e+08               0.002           293.15\n");
+              "  yield stress [MPa]  plastic strain [-]  temperature [degC]\n"
+              "                 235               0.002                  20\n");
 }
 
 TEST(ShowCommand, PrintsNothingWhenATableWasNotStored) {

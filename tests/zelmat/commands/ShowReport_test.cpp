@@ -14,7 +14,7 @@ using testing::HasSubstr;
 
 std::string Printed(const zelmat::StoredMaterial& material) {
     std::ostringstream out;
-    zelmat::PrintMaterial(out, material);
+    zelmat::PrintMaterial(out, material, zelmat::UnitChoice::ForText());
     return out.str();
 }
 
@@ -38,13 +38,13 @@ TEST(ShowReport, PrintsEveryBehaviorThatIsOnWithUnitsAndSource) {
               "gasket, gasket_membrane, gasket_transverse_shear\n"
               "\n"
               "Density, temperature dependent\n"
-              "  density [kg/m3]  temperature [K]\n"
-              "             7850           293.15\n"
-              "           7700.5           773.15\n"
+              "  density [kg/m3]  temperature [degC]\n"
+              "           7850.0                  20\n"
+              "           7700.5                 500\n"
               "  source: page 7\n"
               "\n"
               "Thermal expansion, not temperature dependent\n"
-              "  reference temperature: 293.15 K\n"
+              "  reference temperature: 20 degC\n"
               "  thermal expansion [1/K]\n"
               "                  1.2e-05\n"
               "  kind, on the card: mean\n"
@@ -62,16 +62,16 @@ TEST(ShowReport, PrintsABehaviorOfSeveralTables) {
                                                     "  kind of thickness behavior: 10\n"
                                                     "  yield onset by: relative\n"
                                                     "  yield onset, relative value: 0.1\n"
-                                                    "  yield onset, closure: 1e-04 m\n"
+                                                    "  yield onset, closure: 0.1 mm\n"
                                                     "  tensile stiffness factor: 0.001\n"
                                                     "  unloading data: yes\n"
                                                     "  loading, not temperature dependent\n"
-                                                    "  pressure [Pa]  closure [m]  temperature [K]\n"
-                                                    "              0            0           293.15\n"
-                                                    "          2e+06        4e-05           293.15\n"
-                                                    "          5e+06        8e-05           293.15\n"
+                                                    "  pressure [MPa]  closure [mm]  temperature [degC]\n"
+                                                    "               0          0.00                  20\n"
+                                                    "               2          0.04                  20\n"
+                                                    "               5          0.08                  20\n"
                                                     "  source: page 8\n"
-                                                    "  initial thickness, on the card: 0.002 m\n"));
+                                                    "  initial thickness, on the card: 2 mm\n"));
 }
 
 TEST(ShowReport, PrintsAUserMaterial) {
@@ -86,7 +86,7 @@ TEST(ShowReport, PrintsAUserMaterial) {
                           "  solution-dependent state variables: 0\n"
                           "  constants, in the routine's own order and units\n"
                           "  constant\n"
-                          "        45\n"
+                          "      45.0\n"
                           "       0.5\n"
                           "  meaning of the constants, on the card: conductivity, exponent\n"
                           "  source, on the card: page 9\n"));
@@ -104,8 +104,8 @@ TEST(ShowReport, SaysWhichFitIsStored) {
                           "Hyperelastic, not temperature dependent\n"
                           "  model: NEO_HOOKE\n"
                           "  order: 1\n"
-                          "  C10 [Pa]  D1 [1/Pa]\n"
-                          "    195000          0\n"
+                          "  C10 [MPa]  D1 [1/MPa]\n"
+                          "      0.195           0\n"
                           "  source: page 10\n"
                           "  potential, on the card: W = C10 (I1 - 3)\n"
                           "  relative deviation from the tests, RMS, on the card: 0.223\n"
@@ -132,7 +132,8 @@ TEST(ShowReport, SaysWhenTheValuesAreMadeUp) {
 
 TEST(ShowReport, PrintsTheSameAsJson) {
     const StoredCard stored(kTwoFits);
-    EXPECT_EQ(nlohmann::json(zelmat::ToJson(stored.material)), nlohmann::json::parse(R"json(
+    EXPECT_EQ(nlohmann::json(zelmat::ToJson(stored.material, zelmat::UnitChoice::Si())),
+              nlohmann::json::parse(R"json(
            {"name": "Rubber", "description": "", "class": "", "source": [], "notes": [], "illustrative": false,
             "heat_generation": false,
             "switched_on": ["hyperelastic"],

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace {
 
 using zelmat::Millimetres;
@@ -13,6 +15,11 @@ TEST(Millimetres, AreWrittenWithoutTheNoiseOfSums) {
     EXPECT_EQ(Millimetres(1.084e-19), "0");
     EXPECT_EQ(Millimetres(-1.084e-19), "0") << "no minus zero";
     EXPECT_EQ(Millimetres(0.000127 * 3), "0.381");
+}
+
+TEST(Millimetres, LeaveTheNoiseOfSumsOutOfMetresToo) {
+    EXPECT_EQ(zelmat::WithoutNoiseOfSums(0.000127 * 3), 0.000381);
+    EXPECT_FALSE(std::signbit(zelmat::WithoutNoiseOfSums(-1.084e-19)));
 }
 
 }  // namespace

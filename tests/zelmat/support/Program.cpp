@@ -23,25 +23,29 @@ std::string Quoted(const std::string& text) {
     return "'" + text + "'";
 }
 
-std::string CommandOf(const std::vector<std::string>& arguments) {
-    std::string command = Quoted(ZELMAT_PROGRAM);
+constexpr const char* kTestData = ZELMAT_TEST_DATA;
+
+/// For the shell: the program with its arguments, in the folder of the test cards.
+std::string CommandOf(const std::vector<std::string>& arguments,
+                      const std::vector<std::string>& environment) {
+    std::string command = "cd " + Quoted(kTestData) + " && env XDG_CONFIG_HOME=/no-such-folder";
+    for (const std::string& setting : environment) command += " " + Quoted(setting);
+    command += " " + Quoted(ZELMAT_PROGRAM);
     for (const std::string& argument : arguments) command += " " + Quoted(argument);
     return command;
 }
 
-constexpr const char* kTestData = ZELMAT_TEST_DATA;
-
 }  // namespace
 
-ProgramRun RunZelmat(const std::vector<std::string>& arguments) {
-    return RunZelmatWith(arguments, "");
+ProgramRun RunZelmat(const std::vector<std::string>& arguments, const std::vector<std::string>& environment) {
+    return RunZelmatWith(arguments, "", environment);
 }
 
-ProgramRun RunZelmatWith(const std::vector<std::string>& arguments, const std::string& redirections) {
+ProgramRun RunZelmatWith(const std::vector<std::string>& arguments, const std::string& redirections,
+                         const std::vector<std::string>& environment) {
     const std::string output = testing::TempDir() + "zelmat-run-" + std::to_string(getpid());
-    const std::string command = "cd " + Quoted(kTestData) + " && { " + CommandOf(arguments) + " " +
-                                redirections + "; } >" + Quoted(output + ".out") + " 2>" +
-                                Quoted(output + ".err");
+    const std::string command = "{ " + CommandOf(arguments, environment) + " " + redirections + "; } >" +
+                                Quoted(output + ".out") + " 2>" + Quoted(output + ".err");
 
     const int status = std::system(command.c_str());
 
@@ -54,9 +58,7 @@ ProgramRun RunZelmatWith(const std::vector<std::string>& arguments, const std::s
 
 ProgramRun RunZelmatOnTerminal(const std::vector<std::string>& arguments,
                                const std::vector<std::string>& environment) {
-    std::string command = "cd " + Quoted(kTestData) + " && env -u NO_COLOR TERM=xterm";
-    for (const std::string& setting : environment) command += " " + Quoted(setting);
-    command += " " + CommandOf(arguments);
+    const std::string command = "unset NO_COLOR; export TERM=xterm; " + CommandOf(arguments, environment);
 
     int terminal = -1;
     const pid_t child = ::forkpty(&terminal, nullptr, nullptr, nullptr);
