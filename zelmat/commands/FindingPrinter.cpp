@@ -10,6 +10,7 @@ namespace {
 constexpr std::size_t kMostOfOneCode = 20;
 
 const char* ColorOf(FindingKind kind) {
+    if (kind == FindingKind::NOTE) return "\033[36m";
     return kind == FindingKind::WARNING ? "\033[33m" : "\033[31m";
 }
 

@@ -1,6 +1,7 @@
 #include "zelmat/commands/JsonReport.h"
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/materials/DerivedValues.h"
 #include "zelmat/materials/InUnits.h"
 
 namespace zelmat {
@@ -40,12 +41,28 @@ ordered_json ToJson(const Table& table) {
             {"rows", std::move(rows)}};
 }
 
+/// What the stored data mean.
+ordered_json Derived(const Block& block, const UnitChoice& units) {
+    ordered_json json = ordered_json::array();
+    for (const DerivedValue& derived : DerivedValues(block)) {
+        const ShownValue shown = derived.In(units);
+        ordered_json told = {{"name", derived.name}, {"value", ToJson(shown.value)}};
+        if (!shown.unit.empty()) told["unit"] = shown.unit;
+        if (const auto temperature = derived.TemperatureIn(units)) {
+            told["temperature"] = {{"value", ToJson(temperature->value)}, {"unit", temperature->unit}};
+        }
+        json.push_back(std::move(told));
+    }
+    return json;
+}
+
 ordered_json ToJson(const StoredBlock& stored, const UnitChoice& units) {
     const Block& block = stored.block;
     ordered_json json = {{"name", block.kind->name},
                          {"values", ToJson(*block.kind, block.values, true, units)},
                          {"tables", ordered_json::array()}};
     for (const Table& table : block.tables) json["tables"].push_back(ToJson(InUnits(table, units)));
+    json["derived"] = Derived(block, units);
     if (stored.given) json["on_the_card"] = ToJson(*block.kind, stored.given->values, false, units);
     return json;
 }

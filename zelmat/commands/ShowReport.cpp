@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/materials/DerivedValues.h"
 #include "zelmat/materials/InUnits.h"
 #include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
@@ -16,7 +17,7 @@ namespace zelmat {
 
 namespace {
 
-std::string ValueText(const Setting& setting, const Value& stored, const UnitChoice& units) {
+std::string ValueText(const ShownValue& shown) {
     struct ToText {
         const std::string& unit;
         std::string operator()(bool flag) const { return flag ? "yes" : "no"; }
@@ -24,8 +25,7 @@ std::string ValueText(const Setting& setting, const Value& stored, const UnitCho
         std::string operator()(double number) const { return WithUnit(number, unit); }
         std::string operator()(const std::string& text) const { return Printable(text); }
     };
-    const auto [value, unit] = InUnits(setting, stored, units);
-    return std::visit(ToText{unit}, value);
+    return std::visit(ToText{shown.unit}, shown.value);
 }
 
 /// The values beside the tables: those that are stored, or the notes that only the card has.
@@ -35,7 +35,16 @@ void PrintValues(std::ostream& out, const BlockKind& kind, const Values& values,
         const Value* value = setting.stored == stored ? values.Find(setting.name) : nullptr;
         if (!value) continue;
         out << "  " << setting.title << (stored ? ": " : ", on the card: ")
-            << ValueText(setting, *value, units) << '\n';
+            << ValueText(InUnits(setting, *value, units)) << '\n';
+    }
+}
+
+/// What the stored data mean: "initial shear modulus mu0 at 293.15 K: 390000 Pa".
+void PrintDerived(std::ostream& out, const Block& block, const UnitChoice& units) {
+    for (const DerivedValue& derived : DerivedValues(block)) {
+        out << "  " << derived.title;
+        if (const auto temperature = derived.TemperatureIn(units)) out << " at " << ValueText(*temperature);
+        out << ": " << ValueText(derived.In(units)) << '\n';
     }
 }
 
@@ -83,6 +92,7 @@ void PrintBlock(std::ostream& out, const StoredBlock& stored, const UnitChoice& 
         PrintTable(out, InUnits(table, units));
         PrintSource(out, stored, table);
     }
+    PrintDerived(out, block, units);
     if (stored.given) PrintValues(out, *block.kind, stored.given->values, false, units);
 }
 

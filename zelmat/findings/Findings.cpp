@@ -16,6 +16,7 @@ bool Holds(const std::vector<Finding>& findings, FindingKind kind) {
 }  // namespace
 
 const char* KindWord(FindingKind kind) {
+    if (kind == FindingKind::NOTE) return "note";
     return kind == FindingKind::WARNING ? "warning" : "error";
 }
 
@@ -44,14 +45,17 @@ std::vector<Finding> Findings::ByLine() const {
 }
 
 bool Findings::HasErrors() const {
-    return std::any_of(all_.begin(), all_.end(),
-                       [](const Finding& finding) { return finding.kind != FindingKind::WARNING; });
+    return std::any_of(all_.begin(), all_.end(), [](const Finding& finding) {
+        return finding.kind != FindingKind::WARNING && finding.kind != FindingKind::NOTE;
+    });
 }
 
 ExitCode Findings::Exit() const {
     if (Holds(all_, FindingKind::UNREADABLE)) return EXIT_UNREADABLE;
     if (Holds(all_, FindingKind::USAGE)) return EXIT_USAGE;
-    return all_.empty() ? EXIT_CLEAN : EXIT_FINDINGS;
+    const bool notesOnly = std::all_of(
+        all_.begin(), all_.end(), [](const Finding& finding) { return finding.kind == FindingKind::NOTE; });
+    return notesOnly ? EXIT_CLEAN : EXIT_FINDINGS;
 }
 
 }  // namespace zelmat

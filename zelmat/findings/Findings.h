@@ -15,6 +15,7 @@ enum ExitCode : int {
 };
 
 enum class FindingKind {
+    NOTE,        ///< what was done with the data, by rule; nothing is wrong
     WARNING,     ///< the data went in, though not as given
     ERROR,       ///< the data are refused
     USAGE,       ///< the command line asks for what the file does not have; shown as an error
@@ -40,7 +41,7 @@ struct Finding {
 /// the file holds.
 std::string FindingLine(const Finding& finding);
 
-/// "error" or "warning"
+/// "error", "warning" or "note"
 const char* KindWord(FindingKind kind);
 
 /// What was found so far, in the order of finding.

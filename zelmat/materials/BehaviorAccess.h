@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 #include "ZELMaterialModel/include/ZELGenHeapObjectProxy.h"
 #include "ZELMaterialModel/include/ZELIMaterial.h"
 #include "ZELMaterialModel/include/ZELMaterialConductivity.h"
@@ -11,7 +13,20 @@
 
 namespace zelmat {
 
-/// Which operations of a behavior class do what. One such list per behavior that holds a single table.
+/// A number that a behavior holds beside its table: its name on the block, the attribute that holds it, and
+/// the operations that write it, read it from the store, and answer it.
+template <class Behavior>
+struct BehaviorNumber {
+    const char* name;
+    const char* attribute;
+    bool required;
+    HRESULT (Behavior::*set)(const double&);
+    HRESULT (Behavior::*load)();
+    double (Behavior::*get)() const;
+};
+
+/// Which operations of a behavior class do what. One such list per behavior that holds a single table; a new
+/// attribute of the behavior is a row of its kNumbers.
 struct ElasticNames {
     using Behavior = ZELMaterialElastic;
     static constexpr auto kHandOut = &ZELIMaterial::GetElasticProperties;
@@ -43,6 +58,10 @@ struct ThermalExpansionNames {
     static constexpr auto kEnabled = &Behavior::GetThermalExpansionEnabled;
     static constexpr auto kLoadTable = &Behavior::GetPropertyThermalExpansionDataArray;
     static constexpr auto kTable = &Behavior::GetThermalExpansionDataArray;
+    static constexpr const char* kLateType = "ZELThermalExpansionLT";
+    static constexpr std::array kNumbers = {BehaviorNumber<Behavior>{
+        "reference_temperature", "ReferenceTemperature", true, &Behavior::SetReferenceTemperature,
+        &Behavior::GetPropertyReferenceTemperature, &Behavior::GetReferenceTemperature}};
 };
 
 struct ConductivityNames {
@@ -72,9 +91,19 @@ template <class Names>
 struct BehaviorAccess {
     using Behavior = typename Names::Behavior;
 
-    static constexpr bool kHasReferenceTemperature = requires(Behavior & behavior, double kelvin) {
-        behavior.SetReferenceTemperature(kelvin);
-    };
+    static constexpr bool kHasNumbers = requires { Names::kNumbers; };
+
+    /// The numbers beside the table, as settings of the block.
+    static std::vector<Setting> Settings() {
+        std::vector<Setting> settings;
+        if constexpr (kHasNumbers) {
+            for (const auto& number : Names::kNumbers) {
+                settings.push_back(StoredSetting(number.name, Names::kLateType, number.attribute,
+                                                 {.required = number.required}));
+            }
+        }
+        return settings;
+    }
 
     /// Flags come before the rows: a behavior decides by them which columns it stores.
     static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block) {
@@ -84,9 +113,10 @@ struct BehaviorAccess {
         Behavior& object = *behavior.GetProxyObject();
 
         answers.ToValue((object.*Names::kSetEnabled)(block.enabled ? 1 : 0));
-        if constexpr (kHasReferenceTemperature) {
-            if (const auto kelvin = block.values.template Get<double>("reference_temperature")) {
-                answers.ToValue(object.SetReferenceTemperature(*kelvin));
+        if constexpr (kHasNumbers) {
+            for (const auto& number : Names::kNumbers) {
+                const auto value = block.values.template Get<double>(number.name);
+                if (value) answers.ToValue((object.*number.set)(*value));
             }
         }
         for (const Table& table : block.tables) {
@@ -107,10 +137,11 @@ struct BehaviorAccess {
         // The table's columns depend on the temperature flag, which therefore is read before it.
         status = object.GetPropertyTemperatureDependent();
         if (SUCCEEDED(status)) status = (object.*Names::kLoadTable)();
-        if constexpr (kHasReferenceTemperature) {
-            if (SUCCEEDED(status)) status = object.GetPropertyReferenceTemperature();
-            if (SUCCEEDED(status))
-                block.values.Set("reference_temperature", object.GetReferenceTemperature());
+        if constexpr (kHasNumbers) {
+            for (const auto& number : Names::kNumbers) {
+                if (SUCCEEDED(status)) status = (object.*number.load)();
+                if (SUCCEEDED(status)) block.values.Set(number.name, (object.*number.get)());
+            }
         }
         if (FAILED(status)) return status;
         AddTable(block, block.kind->tables.front(), object.GetTemperatureDependent() != 0,

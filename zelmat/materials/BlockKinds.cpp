@@ -19,6 +19,7 @@ template <class Names>
 BlockKind SingleTable(const char* name, const char* title, Form (*form)(const Values&)) {
     return {.name = name,
             .title = title,
+            .settings = BehaviorAccess<Names>::Settings(),
             .tables = {{.form = form}},
             .write = &BehaviorAccess<Names>::Write,
             .read = &BehaviorAccess<Names>::Read};
@@ -57,7 +58,15 @@ BlockKind Plastic() {
     return {.name = "plastic",
             .title = "Plastic",
             .settings = {StoredSetting("hardening", "ZELPlasticLT", "PlasticHardeningType",
-                                       {.required = true, .choices = PlasticAccess::HardeningWords()})},
+                                       {.required = true, .choices = PlasticAccess::HardeningWords()}),
+                         {.name = "stress",
+                          .title = "stress given as",
+                          .stored = false,
+                          .choices = {"true", "engineering"}},
+                         {.name = "strain",
+                          .title = "strain given as",
+                          .stored = false,
+                          .choices = {"plastic", "total"}}},
             .tables = {{.form = PlasticForm,
                         .rules = {{.code = "first-plastic-strain",
                                    .column = "plastic_strain",
@@ -80,9 +89,7 @@ BlockKind ThermalExpansion() {
             return TableForm{.columns = {StoredColumn("thermal_expansion", "ZELThermalExpansionLT",
                                                       "ThermalExpansionData")}};
         });
-    block.settings = {StoredSetting("reference_temperature", "ZELThermalExpansionLT", "ReferenceTemperature",
-                                    {.required = true}),
-                      {.name = "kind", .title = "kind", .stored = false}};
+    block.settings.push_back({.name = "kind", .title = "kind", .stored = false});
     return block;
 }
 
@@ -130,6 +137,10 @@ BlockKind Hyperelastic() {
                                        {.required = true, .least = 1, .most = 6}),
                          {.name = "variant", .title = "variant", .stored = false},
                          {.name = "potential", .title = "potential", .stored = false},
+                         {.name = "ogden_convention",
+                          .title = "convention of mu",
+                          .stored = false,
+                          .choices = {"2mu/alpha^2", "mu/alpha"}},
                          {.name = "status", .title = "status", .stored = false},
                          {.name = "rms_relative_deviation",
                           .title = "relative deviation from the tests, RMS",
@@ -192,27 +203,26 @@ BlockKind Gasket() {
     Setting yieldOnset = stored("yield_onset.method", "ZELGasketYieldOnsetMethodType");
     yieldOnset.kind = SettingKind::TEXT;  // words for the numbers of the store
     yieldOnset.choices = GasketAccess::YieldOnsetWords();
-    return {.name = "gasket",
-            .title = "Gasket",
-            .settings = {stored("behavior_type", "ZELGasketThicknessBehaviorType"),
-                         yieldOnset,
-                         stored("yield_onset.relative_value", "ZELGasketYieldOnsetMethodRelativeValue"),
-                         stored("yield_onset.closure_value", "ZELGasketYieldOnsetMethodClosureValue"),
-                         stored("tensile_stiffness_factor", "ZELGasketTensileStiffnessFactor"),
-                         stored("unloading", "ZELGasketThicknessUnLoadingFlag"),
-                         {.name = "initial_thickness",
-                          .title = "initial thickness",
-                          .unit = "m",
-                          .kind = SettingKind::NUMBER,
-                          .stored = false},
-                         {.name = "illustrative",
-                          .title = "illustrative",
-                          .kind = SettingKind::FLAG,
-                          .stored = false},
-                         {.name = "anchors", .title = "anchors", .kind = SettingKind::UNREAD}},
-            .tables = GasketTables(),
-            .write = &GasketAccess::Write,
-            .read = &GasketAccess::Read};
+    return {
+        .name = "gasket",
+        .title = "Gasket",
+        .settings =
+            {stored("behavior_type", "ZELGasketThicknessBehaviorType"),
+             yieldOnset,
+             stored("yield_onset.relative_value", "ZELGasketYieldOnsetMethodRelativeValue"),
+             stored("yield_onset.closure_value", "ZELGasketYieldOnsetMethodClosureValue"),
+             stored("tensile_stiffness_factor", "ZELGasketTensileStiffnessFactor"),
+             stored("unloading", "ZELGasketThicknessUnLoadingFlag"),
+             {.name = "initial_thickness",
+              .title = "initial thickness",
+              .unit = "m",
+              .kind = SettingKind::NUMBER,
+              .stored = false},
+             {.name = "illustrative", .title = "illustrative", .kind = SettingKind::FLAG, .stored = false},
+             {.name = "anchors", .title = "anchors", .kind = SettingKind::UNREAD, .stored = false}},
+        .tables = GasketTables(),
+        .write = &GasketAccess::Write,
+        .read = &GasketAccess::Read};
 }
 
 BlockKind GasketMembrane() {

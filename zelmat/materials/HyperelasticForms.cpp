@@ -77,17 +77,23 @@ Columns Yeoh(int) {
 struct Potential {
     const char* model;
     Columns (*columns)(int order);
+    const char* formula;  ///< of the part without change of volume
 };
 
 constexpr std::array<Potential, 8> kPotentials = {{
-    {"ARRUDA_BOYCE", ArrudaBoyce},
-    {"MOONEY_RIVLIN", MooneyRivlin},
-    {"NEO_HOOKE", NeoHooke},
-    {"OGDEN", Ogden},
-    {"POLYNOMIAL", Polynomial},
-    {"REDUCED_POLYNOMIAL", ReducedPolynomial},
-    {"VAN_DER_WAALS", VanDerWaals},
-    {"YEOH", Yeoh},
+    {"ARRUDA_BOYCE", ArrudaBoyce,
+     "W = mu [1/2 (I1-3) + 1/(20 lambda_m^2) (I1^2-9) + 11/(1050 lambda_m^4) (I1^3-27) + 19/(7000 "
+     "lambda_m^6) "
+     "(I1^4-81) + 519/(673750 lambda_m^8) (I1^5-243)]"},
+    {"MOONEY_RIVLIN", MooneyRivlin, "W = C10 (I1-3) + C01 (I2-3)"},
+    {"NEO_HOOKE", NeoHooke, "W = C10 (I1-3)"},
+    {"OGDEN", Ogden, "W = sum (2 mu_i/alpha_i^2) (l1^alpha_i + l2^alpha_i + l3^alpha_i - 3)"},
+    {"POLYNOMIAL", Polynomial, "W = sum Cij (I1-3)^i (I2-3)^j, 1 <= i+j <= order"},
+    {"REDUCED_POLYNOMIAL", ReducedPolynomial, "W = sum Ci0 (I1-3)^i, i = 1 to order"},
+    {"VAN_DER_WAALS", VanDerWaals,
+     "W = mu {-(lambda_m^2-3) [ln(1-eta) + eta] - (2/3) a ((I-3)/2)^(3/2)}, I = (1-beta) I1 + beta I2, "
+     "eta = sqrt((I-3)/(lambda_m^2-3))"},
+    {"YEOH", Yeoh, "W = C10 (I1-3) + C20 (I1-3)^2 + C30 (I1-3)^3"},
 }};
 
 }  // namespace
@@ -108,6 +114,13 @@ std::optional<TableForm> HyperelasticForm(const std::string& model, int order) {
                          .with = model + " of order " + std::to_string(order)};
     }
     return std::nullopt;
+}
+
+std::string StrainEnergyFormula(const std::string& model) {
+    for (const Potential& potential : kPotentials) {
+        if (model == potential.model) return potential.formula;
+    }
+    return {};
 }
 
 }  // namespace zelmat

@@ -16,4 +16,8 @@ const std::vector<std::string>& HyperelasticModels();
 /// Nothing for a potential that there is not. `order` is from 1 on; potentials without terms ignore it.
 std::optional<TableForm> HyperelasticForm(const std::string& model, int order);
 
+/// The strain energy as a formula in the coefficients' names, from the principal stretches l1, l2, l3 or the
+/// invariants I1, I2 of a deformation without change of volume. Empty for a potential that there is not.
+std::string StrainEnergyFormula(const std::string& model);
+
 }  // namespace zelmat

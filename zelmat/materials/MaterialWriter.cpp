@@ -6,6 +6,7 @@
 #include "zelmat/materials/AnalysisData.h"
 #include "zelmat/materials/BrokenRules.h"
 #include "zelmat/materials/StatusText.h"
+#include "zelmat/materials/StoredMeaning.h"
 
 namespace zelmat {
 
@@ -60,6 +61,12 @@ void Report(const Block& block, const WriteStatus& answer, const std::string& fi
                   {StatusText(answer.status)}});
 }
 
+void WriteBlock(ZELIMaterial& behaviors, const Block& block, const std::string& file, Findings& findings) {
+    for (const WriteStatus& answer : block.kind->write(behaviors, block)) {
+        Report(block, answer, file, findings);
+    }
+}
+
 void WriteHeatGeneration(ZELIMaterial& behaviors, const Material& material, Findings& findings) {
     if (!material.heatGeneration) return;
     const auto data = KORGetImplementation<ZELMaterial>(&behaviors);
@@ -88,8 +95,10 @@ void WriteBlocks(KORISpecObject* feature, const Material& material, const std::v
     }
     WriteHeatGeneration(*behaviors, material, findings);
     for (const Block* block : blocks) {
-        for (const WriteStatus& answer : block->kind->write(*behaviors, *block)) {
-            Report(*block, answer, material.file, findings);
+        if (IsInStoredMeaning(*block)) {
+            WriteBlock(*behaviors, *block, material.file, findings);
+        } else if (const auto stored = ToStoredMeaning(*block, material, findings)) {
+            WriteBlock(*behaviors, *stored, material.file, findings);
         }
     }
 }

@@ -107,6 +107,9 @@ TEST(ShowReport, SaysWhichFitIsStored) {
                           "  C10 [MPa]  D1 [1/MPa]\n"
                           "      0.195           0\n"
                           "  source: page 10\n"
+                          "  strain energy: W = C10 (I1-3)\n"
+                          "  initial shear modulus mu0: 390000 Pa\n"
+                          "  initial bulk modulus K0: none, incompressible\n"
                           "  potential, on the card: W = C10 (I1 - 3)\n"
                           "  relative deviation from the tests, RMS, on the card: 0.223\n"
                           "\n"
@@ -145,6 +148,9 @@ TEST(ShowReport, PrintsTheSameAsJson) {
                 "tables": [{"table": "", "temperature_dependent": false,
                     "columns": [{"name": "C10", "unit": "Pa"}, {"name": "D1", "unit": "1/Pa"}],
                     "rows": [[195000.0, 0.0]]}],
+                "derived": [{"name": "strain_energy", "value": "W = C10 (I1-3)"},
+                    {"name": "initial_shear_modulus", "value": 390000.0, "unit": "Pa"},
+                    {"name": "initial_bulk_modulus", "value": "none, incompressible"}],
                 "on_the_card": {"potential": {"value": "W = C10 (I1 - 3)"},
                     "rms_relative_deviation": {"value": 0.223}}}],
             "fits": ["NEO_HOOKE", "MOONEY_RIVLIN (uniaxial)"],

@@ -88,4 +88,15 @@ TEST(Findings, CanBeTakenBackForOneFile) {
     EXPECT_EQ(findings.All()[0].code, "y");
 }
 
+TEST(Findings, CountANoteAsClean) {
+    Findings findings;
+    findings.Add({FindingKind::NOTE, {"a", 7}, "converted", "done", {}});
+    EXPECT_FALSE(findings.HasErrors());
+    EXPECT_EQ(findings.Exit(), 0);
+    EXPECT_EQ(FindingLine(findings.All()[0]), "a:7: note[converted]: done");
+
+    findings.Add({FindingKind::WARNING, {"a", 8}, "w", "", {}});
+    EXPECT_EQ(findings.Exit(), 1);
+}
+
 }  // namespace

@@ -1,0 +1,185 @@
+#include "zelmat/materials/HardeningMeaning.h"
+
+#include <algorithm>
+
+#include "zelmat/mechanics/plastic/StressStrain.h"
+#include "zelmat/mechanics/tables/TemperatureTable.h"
+#include "zelmat/quantities/NumberText.h"
+#include "zelmat/text/CountText.h"
+
+namespace zelmat {
+
+namespace {
+
+using mechanics::StressStrain;
+
+constexpr const char* kStress = "yield_stress";
+constexpr const char* kStrain = "plastic_strain";
+constexpr const char* kTemperature = "temperature";
+
+/// A plastic strain below this share of the elastic strain is none: cards round their strains.
+constexpr double kNoPlasticStrain = 0.01;
+
+struct Measures {
+    bool engineering;
+    bool total;
+};
+
+Measures MeasuresOf(const Block& block) {
+    return {block.values.Get<std::string>("stress") == "engineering",
+            block.values.Get<std::string>("strain") == "total"};
+}
+
+/// Young's modulus at a temperature; nothing, and why, when the material does not say it.
+std::optional<double> YoungsModulus(const Material& material, double temperature, std::string& why) {
+    const Block* elastic = material.Find("elastic");
+    if (!elastic || elastic->tables.empty() || elastic->tables.front().Rows() == 0) {
+        why = "the material has no elastic block";
+        return std::nullopt;
+    }
+    const Table& table = elastic->tables.front();
+    const auto& moduli = table.columns.front().values;
+    if (!table.temperatureDependent) return moduli.front();
+    std::vector<mechanics::TemperatureTable::Row> rows;
+    for (std::size_t row = 0; row < table.Rows(); ++row) {
+        rows.push_back({table.Find(kTemperature)->values[row], {moduli[row]}});
+    }
+    const auto over = mechanics::TemperatureTable::Over(std::move(rows));
+    const auto value = over.Ok() ? over->At(temperature, mechanics::OutsidePolicy::REFUSE)
+                                 : mechanics::Outcome<mechanics::TableValue>(over.Refused());
+    if (value.Ok()) return value->values.front();
+    why = value.Why();
+    return std::nullopt;
+}
+
+/// A point of a curve as it is stored: stress, and plastic strain.
+StressStrain Stored(const StressStrain& given, const Measures& measures, double modulus) {
+    StressStrain whole = given;
+    if (!measures.total) whole.strain += given.stress / modulus;
+    if (measures.engineering) whole = mechanics::TrueFromEngineering(whole);
+    return {mechanics::PlasticStrain(whole, modulus), whole.stress};
+}
+
+/// Converts the curves of a table one after the other.
+class Curves {
+public:
+    Curves(const Block& block, const Material& material, Findings& findings)
+        : block_(block), material_(material), findings_(findings), given_(block.tables.front()) {}
+
+    std::optional<Table> Convert() {
+        Table table = given_;
+        for (Column& column : table.columns) column.values.clear();
+        const auto& temperatures = given_.Find(kTemperature)->values;
+        for (std::size_t begin = 0; begin < given_.Rows();) {
+            std::size_t end = begin;
+            while (end < given_.Rows() && temperatures[end] == temperatures[begin]) ++end;
+            if (!ConvertCurve(begin, end, table)) return std::nullopt;
+            begin = end;
+        }
+        table.origin = Origin([origin = given_.origin, rows = rows_](std::size_t row) {
+            return row == Origin::kWhole ? origin.Line() : origin.Line(rows[row]);
+        });
+        return table;
+    }
+
+private:
+    bool ConvertCurve(std::size_t begin, std::size_t end, Table& table) {
+        const double temperature = given_.Find(kTemperature)->values[begin];
+        std::string why;
+        const auto modulus = YoungsModulus(material_, temperature, why);
+        if (!modulus) {
+            return Fail(begin, "no-youngs-modulus",
+                        "the curve of plastic at " + NumberText(temperature) +
+                            " K cannot be converted without Young's modulus there",
+                        {why});
+        }
+        std::vector<StressStrain> points;
+        for (std::size_t row = begin; row < end; ++row) {
+            points.push_back(Stored({given_.Find(kStrain)->values[row], given_.Find(kStress)->values[row]},
+                                    MeasuresOf(block_), *modulus));
+        }
+        const std::size_t yield = YieldPoint(points, *modulus);
+        if (yield == points.size()) {
+            return Fail(begin, "no-yield-point",
+                        "the curve of plastic at " + NumberText(temperature) +
+                            " K begins beyond yield, at plastic strain " + NumberText(points[0].strain),
+                        {"give the yield point as its first point"});
+        }
+        Report(begin, yield, temperature, *modulus);
+        points[yield].strain = 0.0;
+        for (std::size_t at = yield; at < points.size(); ++at) {
+            rows_.push_back(begin + at);
+            for (Column& column : table.columns) {
+                const bool stress = column.kind.name == kStress;
+                const bool strain = column.kind.name == kStrain;
+                column.values.push_back(stress   ? points[at].stress
+                                        : strain ? points[at].strain
+                                                 : temperature);
+            }
+        }
+        return true;
+    }
+
+    /// The last point before plastic strain; as many as there are points when there is none.
+    static std::size_t YieldPoint(const std::vector<StressStrain>& points, double modulus) {
+        std::size_t yield = points.size();
+        for (std::size_t at = 0; at < points.size(); ++at) {
+            if (points[at].strain > kNoPlasticStrain * points[at].stress / modulus) break;
+            yield = at;
+        }
+        return yield;
+    }
+
+    void Report(std::size_t begin, std::size_t dropped, double temperature, double modulus) {
+        const Measures measures = MeasuresOf(block_);
+        const std::string curve = "the curve of plastic at " + NumberText(temperature) + " K";
+        const Place place{material_.file, given_.origin.Line(begin)};
+        findings_.Add({FindingKind::NOTE,
+                       place,
+                       "hardening-converted",
+                       curve + " was converted to true stress over plastic strain",
+                       {std::string(measures.engineering ? "engineering" : "true") + " stress over " +
+                            (measures.total ? "total" : "plastic") + " strain given",
+                        "Young's modulus " + WithUnit(modulus, "Pa")}});
+        if (dropped == 0) return;
+        findings_.Add({FindingKind::WARNING,
+                       place,
+                       "before-yield",
+                       CountText(dropped, "point") + " of " + curve + " before yield " +
+                           (dropped == 1 ? "was" : "were") + " left out",
+                       {"the first stored one is the yield point"}});
+    }
+
+    bool Fail(std::size_t row, const char* code, std::string text, std::vector<std::string> details) {
+        findings_.Add({FindingKind::ERROR,
+                       {material_.file, given_.origin.Line(row)},
+                       code,
+                       std::move(text),
+                       std::move(details)});
+        return false;
+    }
+
+    const Block& block_;
+    const Material& material_;
+    Findings& findings_;
+    const Table& given_;
+    std::vector<std::size_t> rows_;  // the given row of each converted one
+};
+
+}  // namespace
+
+bool IsOtherHardening(const Block& block) {
+    if (block.kind->name != "plastic" || block.tables.empty()) return false;
+    const Measures measures = MeasuresOf(block);
+    return (measures.engineering || measures.total) && block.tables.front().Find(kStrain) != nullptr;
+}
+
+std::optional<Block> ToTrueOverPlastic(const Block& block, const Material& material, Findings& findings) {
+    auto table = Curves(block, material, findings).Convert();
+    if (!table) return std::nullopt;
+    Block stored = block;
+    stored.tables = {std::move(*table)};
+    return stored;
+}
+
+}  // namespace zelmat
