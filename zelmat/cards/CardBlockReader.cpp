@@ -4,6 +4,9 @@
 #include <map>
 
 #include "zelmat/cards/CardTableReader.h"
+#include "zelmat/cards/CommentKey.h"
+#include "zelmat/quantities/Measured.h"
+#include "zelmat/text/NearestName.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -32,7 +35,7 @@ std::optional<Block> CardBlockReader::Read() const {
         return block;
     }
     if (!node_.ExpectObject()) return std::nullopt;
-    bool good = ReportUnknownKeys();
+    bool good = KeepUnknownKeys(block);
     for (const Setting& setting : kind_.settings) {
         if (!ReadSetting(setting, block)) good = false;
     }
@@ -42,7 +45,8 @@ std::optional<Block> CardBlockReader::Read() const {
     return good ? std::optional(std::move(block)) : std::nullopt;
 }
 
-bool CardBlockReader::ReportUnknownKeys() const {
+/// False when what has to be a group of keys is none.
+bool CardBlockReader::KeepUnknownKeys(Block& block) const {
     std::vector<std::string> known;
     std::map<std::string, std::vector<std::string>> groups;
     for (const TableKind& kind : kind_.tables) {
@@ -50,6 +54,7 @@ bool CardBlockReader::ReportUnknownKeys() const {
             known = CardTableReader::Keys(kind);
         } else {
             known.push_back(kind.name);
+            if (!kind.list) groups[kind.name] = CardTableReader::Keys(kind);
         }
     }
     for (const Setting& setting : kind_.settings) {
@@ -61,13 +66,31 @@ bool CardBlockReader::ReportUnknownKeys() const {
         if (groups[path.group].empty()) known.push_back(path.group);
         groups[path.group].push_back(path.key);
     }
-    bool good = node_.ExpectKeys(known);
+    KeepUnknownKeys(node_, known, "", block);
+    bool good = true;
     for (const auto& [group, keys] : groups) {
         if (!node_.Has(group)) continue;
         const JsonNode inner = node_.At(group);
-        if (!inner.ExpectObject() || !inner.ExpectKeys(keys)) good = false;
+        if (inner.Json().is_object()) {
+            KeepUnknownKeys(inner, keys, group + ".", block);
+        } else if (!kind_.FindTable(group)) {
+            good = inner.ExpectObject();
+        }
     }
     return good;
+}
+
+void CardBlockReader::KeepUnknownKeys(const JsonNode& node, const std::vector<std::string>& known,
+                                      const std::string& group, Block& block) const {
+    for (const std::string& key : node.Keys()) {
+        if (IsComment(key) || std::find(known.begin(), known.end(), key) != known.end()) continue;
+        const JsonNode value = node.At(key);
+        block.kept.push_back({group + key, value.Json().dump()});
+        const std::string nearest = NearestName(key, known);
+        value.Report(FindingKind::WARNING, "unknown-key", node.Path() + " has no key " + Quoted(key),
+                     {nearest.empty() ? "known: " + WordList(known) : "did you mean " + nearest + "?",
+                      "it is kept, and nothing uses it"});
+    }
 }
 
 bool CardBlockReader::ReadSetting(const Setting& setting, Block& block) const {
@@ -79,26 +102,47 @@ bool CardBlockReader::ReadSetting(const Setting& setting, Block& block) const {
         block.kept.push_back({setting.name, holder.At(path.key).Json().dump()});
         return true;
     }
-    auto value = ReadValue(setting, holder.At(path.key));
+    auto value = ReadValue(setting, holder.At(path.key), block);
     if (!value) return false;
     block.values.Set(setting.name, std::move(*value));
     return true;
 }
 
-std::optional<Value> CardBlockReader::ReadValue(const Setting& setting, const JsonNode& node) const {
+std::optional<Value> CardBlockReader::ReadValue(const Setting& setting, const JsonNode& node,
+                                                Block& block) const {
     switch (setting.kind) {
         case SettingKind::FLAG:
             return node.Flag();
         case SettingKind::COUNT:
             return node.Whole(setting.least, setting.most);
         case SettingKind::NUMBER:
-            return node.Number();
+            return ReadNumber(setting, node, block);
         case SettingKind::TEXT:
             return ReadText(setting, node);
         case SettingKind::UNREAD:
             break;
     }
     return std::nullopt;
+}
+
+/// A number, in the card's units, or a text with a unit: "20 degC".
+std::optional<double> CardBlockReader::ReadNumber(const Setting& setting, const JsonNode& node,
+                                                  Block& block) const {
+    const Quantity* quantity = QuantityOf(setting.name, setting.unit);
+    const bool text = node.Json().is_string() && setting.unit != "-";
+    if (!quantity || !(text || node.Json().is_number())) return node.Number();
+    const auto measured =
+        text ? ReadMeasured(node.Json().get_ref<const std::string&>(), *quantity)
+             : QuantityResult<Measured>(Measured{node.Json().get<double>(), units_.For(*quantity)});
+    const auto stored = measured ? measured->Stored(*quantity) : QuantityResult<double>(measured.Error());
+    if (!stored) {
+        node.Report("wrong-value", node.Path() + ": " + stored.Error().text);
+        return std::nullopt;
+    }
+    if (measured->unit.Spelling() != setting.unit) {
+        block.written[setting.name] = {measured->number, measured->unit.Spelling()};
+    }
+    return *stored;
 }
 
 std::optional<Value> CardBlockReader::ReadText(const Setting& setting, const JsonNode& node) const {
@@ -117,7 +161,7 @@ bool CardBlockReader::ReadTable(const TableKind& kind, Block& block) const {
         return !kind.required || node_.Required(kind.name).has_value();
     }
     const JsonNode node = kind.name.empty() ? node_ : node_.At(kind.name);
-    auto table = CardTableReader(node, kind, block.values, file_).Read();
+    auto table = CardTableReader(node, kind, block.values, units_, file_).Read();
     if (table) block.tables.push_back(std::move(*table));
     return block.Find(&kind) != nullptr;
 }

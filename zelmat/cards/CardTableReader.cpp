@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "zelmat/cards/PropertyNames.h"
+#include "zelmat/quantities/Measured.h"
+#include "zelmat/quantities/UnitConversion.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/WordList.h"
 
@@ -56,8 +59,7 @@ std::optional<Table> CardTableReader::ReadList() {
 
 std::optional<Table> CardTableReader::ReadColumns() {
     if (!node_.ExpectObject()) return std::nullopt;
-    // The block's reader looks at the keys of the block itself, where other values stand beside the table.
-    bool good = kind_.name.empty() || node_.ExpectKeys(Keys(kind_));
+    bool good = true;
     Table table{.kind = &kind_};
     const bool flagged = ReadFlag(table);
     const auto columnsNode = node_.Required("columns");
@@ -68,9 +70,10 @@ std::optional<Table> CardTableReader::ReadColumns() {
         form_ = *form;
         wanted_ = form_.ColumnsOf(table.temperatureDependent);
         for (const ColumnKind& column : wanted_) table.columns.push_back({.kind = column});
-        if (columns) order = ReadOrder(*columns);
+        if (columns) order = ReadOrder(ColumnNames(*columns));
     }
     const bool read = columns && ReadRows(*columns, order, table);
+    if (read && order && !ConvertColumns(*order, table)) good = false;
     if (!ReadSource(table)) good = false;
     if (!good || !order || !read) return std::nullopt;
     table.origin = OriginOf(node_.At("rows"));
@@ -90,6 +93,16 @@ bool CardTableReader::ReadSource(Table& table) const {
     const auto source = node_.At("source").Text();
     table.source = source.value_or("");
     return source.has_value();
+}
+
+std::vector<std::string> CardTableReader::ColumnNames(const std::vector<std::string>& headers) const {
+    std::vector<std::string> names;
+    for (const std::string& header : headers) {
+        const std::string name = ReadColumnHeader(header).name;
+        const std::string canonical = IsWanted(wanted_, name) ? name : PropertyName(name);
+        names.push_back(IsWanted(wanted_, canonical) ? canonical : name);
+    }
+    return names;
 }
 
 std::optional<CardTableReader::Order> CardTableReader::ReadOrder(
@@ -181,6 +194,40 @@ bool CardTableReader::ReadRows(const std::vector<std::string>& given, const std:
         }
     }
     return good;
+}
+
+bool CardTableReader::ConvertColumns(const Order& order, Table& table) const {
+    bool good = true;
+    for (std::size_t at = 0; at < order.size(); ++at) {
+        if (!order[at]) continue;  // 0 in every unit
+        const JsonNode header = node_.At("columns").At(*order[at]);
+        if (!ConvertColumn(header, table.columns[at])) good = false;
+    }
+    return good;
+}
+
+bool CardTableReader::ConvertColumn(const JsonNode& header, Column& column) const {
+    const ColumnHeader given = ReadColumnHeader(header.Json().get_ref<const std::string&>());
+    const Quantity* quantity = QuantityOf(column.kind.name, column.kind.unit);
+    if (!quantity) return true;
+    const auto unit =
+        given.hasUnit ? ReadUnit(given.unit, *quantity) : QuantityResult<Unit>(units_.For(*quantity));
+    if (!unit) {
+        header.Report("wrong-unit", unit.Error().text);
+        return false;
+    }
+    if (*unit == quantity->stored) return true;
+    const auto conversion = UnitConversion::ToStored(*unit, *quantity);
+    if (conversion.IsIdentity()) {
+        column.written = WrittenNumbers{unit->Spelling(), {}};
+        return true;
+    }
+    column.written = WrittenNumbers{unit->Spelling(), column.values};
+    const auto failed = conversion.Convert(column.values);
+    if (!failed) return true;
+    const Measured number{column.written->numbers[*failed], *unit};
+    node_.At("rows").At(*failed).Report("wrong-value", number.Stored(*quantity).Error().text);
+    return false;
 }
 
 void CardTableReader::ReportRow(const JsonNode& row, std::size_t number,

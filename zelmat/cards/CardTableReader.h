@@ -3,6 +3,7 @@
 #include <memory>
 #include <optional>
 
+#include "zelmat/cards/CardUnits.h"
 #include "zelmat/files/JsonNode.h"
 #include "zelmat/materials/Material.h"
 
@@ -12,9 +13,10 @@ namespace zelmat {
 class CardTableReader {
 public:
     /// `values`: the block's, which say what form the table has. `file`: the one that the node is of.
-    CardTableReader(const JsonNode& node, const TableKind& kind, const Values& values,
-                    std::shared_ptr<const KORJsonFile> file)
-        : node_(node), kind_(kind), values_(values), file_(std::move(file)) {}
+    /// `units`: the card's.
+    CardTableReader(const JsonNode& node, const TableKind& kind, const Values& values, const CardUnits& units,
+                    std::shared_ptr<const PlacedJson> file)
+        : node_(node), kind_(kind), values_(values), units_(units), file_(std::move(file)) {}
 
     /// The keys that a table of this kind takes.
     static std::vector<std::string> Keys(const TableKind& kind);
@@ -30,6 +32,8 @@ private:
     bool ReadFlag(Table& table) const;
     bool ReadSource(Table& table) const;
 
+    /// The columns' names as the form has them, whatever the card calls them; units aside.
+    std::vector<std::string> ColumnNames(const std::vector<std::string>& headers) const;
     std::optional<Order> ReadOrder(const std::vector<std::string>& given) const;
     bool ReportColumn(const JsonNode& column, const std::string& name) const;
     bool ReportMissing(const std::vector<std::string>& given) const;
@@ -37,6 +41,9 @@ private:
     /// Puts the numbers into the table's columns; without an order it only looks for mistakes.
     bool ReadRows(const std::vector<std::string>& given, const std::optional<Order>& order,
                   Table& table) const;
+    /// Brings the numbers into the stored units, from the ones that the headers or else the card name.
+    bool ConvertColumns(const Order& order, Table& table) const;
+    bool ConvertColumn(const JsonNode& header, Column& column) const;
     void ReportRow(const JsonNode& row, std::size_t number, const std::vector<std::string>& given) const;
     bool ReportSurplusRows(const Table& table) const;
 
@@ -49,7 +56,8 @@ private:
     JsonNode node_;
     const TableKind& kind_;
     const Values& values_;
-    std::shared_ptr<const KORJsonFile> file_;
+    const CardUnits& units_;
+    std::shared_ptr<const PlacedJson> file_;
     TableForm form_ = {};
     std::vector<ColumnKind> wanted_ = {};
 };

@@ -2,14 +2,24 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "zelmat/findings/Findings.h"
 #include "zelmat/materials/Material.h"
 
 namespace zelmat {
 
+/// What a card says beyond its own text.
+struct CardReading {
+    bool decimalComma = false;  ///< numbers of a CSV card have a comma for their decimal point
+};
+
 /// Reads a material card. The one place that knows which forms of cards there are and which reader each has;
-/// the form is told by the file's content, never by its name. Nothing, and findings, when it cannot be read.
+/// the form is told by the file's content, never by its name. "-" is standard input. Answers the materials
+/// that have no mistake; findings tell what is wrong with the others, or with the file.
+std::vector<Material> ReadCards(const std::string& path, Findings& findings, const CardReading& how = {});
+
+/// The same where one material is wanted; a card with several is a finding.
 std::optional<Material> ReadCard(const std::string& path, Findings& findings);
 
 }  // namespace zelmat

@@ -9,7 +9,7 @@ namespace zelmat {
 
 using nlohmann::json;
 
-JsonNode::JsonNode(const KORJsonFile& file, Findings& findings)
+JsonNode::JsonNode(const PlacedJson& file, Findings& findings)
     : file_(&file), findings_(&findings), json_(&file.Root()) {}
 
 JsonNode::JsonNode(const JsonNode& parent, json::json_pointer at)
@@ -124,7 +124,7 @@ std::string JsonNode::Excerpt() const {
 }
 
 int JsonNode::Line() const {
-    return file_->Line(*json_);
+    return file_->Line(at_);
 }
 
 void JsonNode::Report(FindingKind kind, std::string code, std::string text,

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/catalog/KORJsonFile.h"
+#include "zelmat/files/PlacedJson.h"
 #include "zelmat/findings/Findings.h"
 
 namespace zelmat {
@@ -16,7 +16,7 @@ namespace zelmat {
 class JsonNode {
 public:
     /// The card as a whole.
-    JsonNode(const KORJsonFile& file, Findings& findings);
+    JsonNode(const PlacedJson& file, Findings& findings);
 
     JsonNode At(const std::string& key) const;  ///< of an object that has the key
     JsonNode At(std::size_t index) const;       ///< of a list that is longer than that
@@ -57,7 +57,7 @@ private:
     JsonNode(const JsonNode& parent, nlohmann::json::json_pointer at);
     void ReportKind(const char* expected) const;
 
-    const KORJsonFile* file_;
+    const PlacedJson* file_;
     Findings* findings_;
     nlohmann::json::json_pointer at_;
     const nlohmann::json* json_;

@@ -32,16 +32,17 @@ const std::vector<std::string> kKeys = {"name",       "description",   "source",
 
 std::optional<LayupCard> LayupCardReader::Read(const std::string& path) {
     KORFileError error;
-    const auto file = KORJsonFile::Read(path, error);
-    if (!file) {
+    auto read = KORJsonFile::Read(path, error);
+    if (!read) {
         findings_.Add(UnreadableFile(path, error, "broken-json"));
         return std::nullopt;
     }
 
+    const PlacedJson file(std::move(*read));
     Findings mistakes;
     LayupCard card;
     card.file = path;
-    const JsonNode root(*file, mistakes);
+    const JsonNode root(file, mistakes);
     if (root.ExpectObject()) ReadCard(root, card);
     for (const Finding& mistake : mistakes.ByLine()) findings_.Add(mistake);
     if (mistakes.HasErrors()) return std::nullopt;

@@ -298,6 +298,8 @@ const std::vector<BlockKind>& BlockKinds() {
         GasketTransverseShear(),
         TestData(),
         {.name = "strength", .title = "Strength", .use = BlockUse::FOR_INFORMATION},
+        {.name = "other_properties", .title = "Other properties", .use = BlockUse::FOR_INFORMATION},
+        {.name = "fcmat", .title = "From an FCMat card", .use = BlockUse::FOR_INFORMATION},
     };
     return blocks;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -16,13 +17,20 @@ struct KeptValue {
     std::string json;  ///< as a JSON text
 };
 
+/// A value's number as somebody wrote it, where that was not in the stored unit in its own spelling.
+struct WrittenNumber {
+    double number = 0.0;
+    std::string unit;  ///< in its spelling: "degC"
+};
+
 /// What a material has of one block.
 struct Block {
     const BlockKind* kind = nullptr;
     bool enabled =
         true;  ///< false: the behavior is switched off; of a block that was read nothing else is there
     Values values = {};
-    std::vector<Table> tables = {};  ///< in the order of the kind's; those that there are
+    std::map<std::string, WrittenNumber> written = {};  ///< of numbers in `values`, by the same names
+    std::vector<Table> tables = {};                     ///< in the order of the kind's; those that there are
     std::vector<KeptValue> kept = {};
     Origin origin = {};
 

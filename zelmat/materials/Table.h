@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -8,11 +9,18 @@
 
 namespace zelmat {
 
+/// A column's numbers as somebody wrote them, where that was not in the stored unit in its own spelling.
+struct WrittenNumbers {
+    std::string unit;             ///< in its spelling: "GPa"
+    std::vector<double> numbers;  ///< empty: the same numbers as are stored
+};
+
 /// The numbers of one column, from the first row to the last. Never absent: a row of the store that is
 /// shorter than the others has NaN there.
 struct Column {
     ColumnKind kind;
     std::vector<double> values = {};  ///< in the kind's unit
+    std::optional<WrittenNumbers> written = std::nullopt;
 };
 
 /// One table of a material, column by column. All columns are equally long.

@@ -1,4 +1,4 @@
-#include "zelmat/cards/JsonCardReader.h"
+#include "zelmat/cards/ReadCard.h"
 
 #include <gmock/gmock.h>
 
@@ -111,7 +111,7 @@ TEST(JsonCardReader, WantsATemperatureInEveryPlasticCurve) {
 
 TEST(JsonCardReader, RefusesAFileThatIsNotThere) {
     zelmat::Findings findings;
-    EXPECT_FALSE(zelmat::JsonCardReader(findings).Read("no/such/card.json"));
+    EXPECT_FALSE(zelmat::ReadCard("no/such/card.json", findings));
 
     ASSERT_EQ(findings.All().size(), 1u);
     EXPECT_EQ(zelmat::FindingLine(findings.All()[0]),
@@ -121,7 +121,7 @@ TEST(JsonCardReader, RefusesAFileThatIsNotThere) {
 
 TEST(JsonCardReader, RefusesAFolder) {
     zelmat::Findings findings;
-    EXPECT_FALSE(zelmat::JsonCardReader(findings).Read("/"));
+    EXPECT_FALSE(zelmat::ReadCard("/", findings));
 
     ASSERT_EQ(findings.All().size(), 1u);
     EXPECT_EQ(zelmat::FindingLine(findings.All()[0]), "/: error[unreadable]: cannot be read: Is a directory");
@@ -158,9 +158,12 @@ TEST(JsonCardReader, RefusesAKeyGivenTwice) {
 }
 
 TEST(JsonCardReader, RefusesACardThatIsNoObject) {
-    EXPECT_THAT(
-        FindingsOf("[1, 2]"),
-        ElementsAre("card.json:1: error[wrong-type]: the card is not an object in braces (got [1,2])"));
+    EXPECT_THAT(FindingsOf("12"),
+                ElementsAre("card.json:1: error[wrong-type]: the card is not an object in braces (got 12)"));
+    EXPECT_THAT(FindingsOf("[{\"name\": \"x\"},\n2]"),
+                ElementsAre("card.json:2: error[wrong-type]: [1] is not an object in braces (got 2)"));
+    EXPECT_THAT(FindingsOf("[]"), ElementsAre("card.json:1: error[empty-list]: the card is an empty list "
+                                              "(expected the cards of materials)"));
 }
 
 TEST(JsonCardReader, WantsAName) {
@@ -185,24 +188,13 @@ TEST(JsonCardReader, CutsALongValueInAMessage) {
                             "(got [\"01234567890123456789012345678901234567...)"));
 }
 
-TEST(JsonCardReader, AcceptsSiUnitsOnly) {
-    EXPECT_THAT(
-        FindingsOf(
-            "{\"name\": \"x\", \"units\": {\n\"stress\": \"MPa\",\n\"force\": \"N\",\n\"density\": 1}}"),
-        ElementsAre("card.json:2: error[wrong-unit]: stress is given in \"MPa\" (expected Pa, convert the "
-                    "values)",
-                    "card.json:3: error[unknown-unit]: there is no quantity \"force\" (known: stress, "
-                    "length, temperature, density, thermal_expansion, conductivity, specific_heat)",
-                    "card.json:4: error[wrong-type]: units.density is not a text (got 1)"));
-}
-
 TEST(JsonCardReader, NamesAnUnknownBlock) {
     EXPECT_THAT(
         FindingsOf("{\"name\": \"x\",\n\"elastc\": {}}"),
         ElementsAre("card.json:2: warning[unknown-block]: there is no block \"elastc\" (known: elastic, "
                     "plastic, density, thermal_expansion, conductivity, specific_heat, "
                     "user_material, hyperelastic, gasket, gasket_membrane, gasket_transverse_shear, "
-                    "test_data, strength, it is kept, and nothing uses it)"));
+                    "test_data, strength, other_properties, fcmat, it is kept, and nothing uses it)"));
 }
 
 TEST(JsonCardReader, TellsAllMistakesInTheOrderOfTheLines) {
@@ -229,7 +221,7 @@ TEST(JsonCardReader, KeepsWhatItHasNoMeaningFor) {
 "gasket": {"anchors": {"seal": 1}, "loading": {"temperature_dependent": false,
 "columns": ["pressure", "closure", "temperature"], "rows": [[0, 0, 293.15]]}}})");
     zelmat::Findings findings;
-    const auto card = zelmat::JsonCardReader(findings).Read(file.Path());
+    const auto card = zelmat::ReadCard(file.Path(), findings);
 
     ASSERT_TRUE(card);
     ASSERT_EQ(card->kept.size(), 1u);
@@ -240,6 +232,54 @@ TEST(JsonCardReader, KeepsWhatItHasNoMeaningFor) {
     EXPECT_EQ(card->Find("gasket")->kept.at(0).name, "anchors");
     EXPECT_EQ(card->Find("gasket")->kept.at(0).json, R"({"seal":1})");
     EXPECT_EQ(findings.Exit(), 1);
+}
+
+TEST(JsonCardReader, IgnoresCommentsAndKeepsUnknownKeysUnderTheirName) {
+    const CardFile file(R"({"name": "x", "//": "a note", "// density": "kg/m3", "density": {"//": [1],
+"temperature_dependent": false, "columns": ["density"], "rows": [[7850]],
+"tolerance": {"percent": 2}}})");
+    zelmat::Findings findings;
+    const auto card = zelmat::ReadCard(file.Path(), findings);
+
+    ASSERT_TRUE(card);
+    EXPECT_THAT(card->kept, IsEmpty());
+    ASSERT_EQ(card->Find("density")->kept.size(), 1u);
+    EXPECT_EQ(card->Find("density")->kept[0].name, "tolerance");
+    EXPECT_EQ(card->Find("density")->kept[0].json, R"({"percent":2})");
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(findings.All()[0].kind, zelmat::FindingKind::WARNING);
+}
+
+TEST(JsonCardReader, ReadsVersionOneAndRefusesANewerOne) {
+    EXPECT_THAT(FindingsOf(R"({"name": "x", "version": 1})"), IsEmpty());
+    EXPECT_THAT(
+        FindingsOf("{\"name\": \"x\",\n\"version\": 2, \"elastic\": 7}"),
+        ElementsAre("card.json:2: error[newer-version]: the card is of version 2 (this program reads up "
+                    "to version 1)"));
+    EXPECT_THAT(FindingsOf(R"({"name": "x", "version": "1"})"),
+                ElementsAre("card.json:1: error[wrong-type]: version is not a whole number (got \"1\")"));
+    EXPECT_THAT(FindingsOf(R"({"name": "x", "version": 0})"),
+                ElementsAre("card.json:1: error[out-of-range]: version is 0 (expected 1 to 1)"));
+}
+
+TEST(ReadCards, ReadsAListOfMaterialsAndLeavesOutThoseWithMistakes) {
+    const CardFile file(R"([{"name": "a"}, {"name": "b", "density": 7},
+{"name": "c"}])");
+    zelmat::Findings findings;
+    const auto cards = zelmat::ReadCards(file.Path(), findings);
+
+    ASSERT_EQ(cards.size(), 2u);
+    EXPECT_EQ(cards[0].name, "a");
+    EXPECT_EQ(cards[1].name, "c");
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(findings.All()[0].code, "wrong-type");
+}
+
+TEST(ReadCards, WhereOneMaterialIsWantedNamesThoseOfACardWithSeveral) {
+    EXPECT_THAT(
+        FindingsOf(R"([{"name": "a"}, {"name": "b"}])"),
+        ElementsAre("card.json: error[several-materials]: the card holds 2 materials (expected one, has: "
+                    "a, b)"));
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ std::string CardFile::Shorten(std::string line) const {
 std::vector<std::string> FindingsOf(const std::string& text) {
     const CardFile file(text);
     zelmat::Findings findings;
-    const auto card = zelmat::JsonCardReader(findings).Read(file.Path());
+    const auto card = zelmat::ReadCard(file.Path(), findings);
     EXPECT_EQ(card.has_value(), !findings.HasErrors());
     std::vector<std::string> lines;
     for (const auto& finding : findings.All()) lines.push_back(file.Shorten(zelmat::FindingLine(finding)));
@@ -37,7 +37,7 @@ std::vector<std::string> FindingsOf(const std::string& text) {
 zelmat::Material CardOf(const std::string& text) {
     const CardFile file(text);
     zelmat::Findings findings;
-    const auto card = zelmat::JsonCardReader(findings).Read(file.Path());
+    const auto card = zelmat::ReadCard(file.Path(), findings);
     for (const auto& finding : findings.All()) ADD_FAILURE() << zelmat::FindingLine(finding);
     return card.value_or(zelmat::Material());
 }

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "zelmat/cards/JsonCardReader.h"
+#include "zelmat/cards/ReadCard.h"
 #include "zelmat/materials/StoredMaterial.h"
 
 /// A card written to a file of its own for as long as a test needs it.

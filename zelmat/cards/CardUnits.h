@@ -1,0 +1,35 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "zelmat/files/JsonNode.h"
+#include "zelmat/materials/TableKind.h"
+#include "zelmat/quantities/Quantity.h"
+
+namespace zelmat {
+
+/// What a column's numbers measure: "youngs_modulus" a modulus, "yield_stress" a stress. Null when they have
+/// no unit of their own.
+const Quantity* QuantityOf(const std::string& name, const std::string& storedUnit);
+
+/// The units of a card's numbers where the numbers themselves do not say one: its key `units`, and SI for
+/// what that does not name. "stress" speaks for moduli and pressures, too, unless these are named.
+class CardUnits {
+public:
+    CardUnits() = default;  ///< SI
+
+    /// Reports quantities that there are not and units that do not measure them.
+    explicit CardUnits(const JsonNode& units);
+
+    const Unit& For(const Quantity& quantity) const;
+
+private:
+    const Unit* Find(const Quantity& quantity) const;
+
+    std::vector<std::pair<const Quantity*, Unit>> units_;
+};
+
+}  // namespace zelmat

@@ -1,0 +1,113 @@
+#include "zelmat/cards/PropertyNames.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+
+#include "zelmat/quantities/PlainUnitText.h"
+
+namespace zelmat {
+
+namespace {
+
+struct Alias {
+    std::string_view alias;
+    std::string_view name;
+};
+
+/// Symbols, letter by letter.
+constexpr std::array<Alias, 15> kSymbols = {{
+    {"E", "youngs_modulus"},
+    {"nu", "poissons_ratio"},
+    {"NU", "poissons_ratio"},
+    {"ν", "poissons_ratio"},
+    {"rho", "density"},
+    {"RHO", "density"},
+    {"ρ", "density"},
+    {"alpha", "thermal_expansion"},
+    {"α", "thermal_expansion"},
+    {"cte", "thermal_expansion"},
+    {"CTE", "thermal_expansion"},
+    {"k", "conductivity"},
+    {"cp", "specific_heat"},
+    {"c_p", "specific_heat"},
+    {"T", "temperature"},
+}};
+
+/// Names in small letters, without what stands between their words.
+constexpr std::array<Alias, 38> kNames = {{
+    {"youngsmodulus", "youngs_modulus"},
+    {"youngmodulus", "youngs_modulus"},
+    {"emodulus", "youngs_modulus"},
+    {"elasticmodulus", "youngs_modulus"},
+    {"modulusofelasticity", "youngs_modulus"},
+    {"poissonsratio", "poissons_ratio"},
+    {"poissonratio", "poissons_ratio"},
+    {"density", "density"},
+    {"massdensity", "density"},
+    {"thermalexpansion", "thermal_expansion"},
+    {"thermalexpansioncoefficient", "thermal_expansion"},
+    {"coefficientofthermalexpansion", "thermal_expansion"},
+    {"conductivity", "conductivity"},
+    {"thermalconductivity", "conductivity"},
+    {"specificheat", "specific_heat"},
+    {"specificheatcapacity", "specific_heat"},
+    {"temperature", "temperature"},
+    {"temp", "temperature"},
+    {"yieldstress", "yield_stress"},
+    {"plasticstrain", "plastic_strain"},
+    {"equivalentplasticstrain", "plastic_strain"},
+    {"referencetemperature", "reference_temperature"},
+    {"thermalexpansionreferencetemperature", "reference_temperature"},
+    {"meltingtemperature", "melting_temperature"},
+    {"tmelt", "melting_temperature"},
+    {"transitiontemperature", "transition_temperature"},
+    {"pressure", "pressure"},
+    {"closure", "closure"},
+    {"plasticclosure", "plastic_closure"},
+    {"maxclosure", "max_closure"},
+    {"maximumclosure", "max_closure"},
+    {"shearstiffness", "shear_stiffness"},
+    {"shearmodulus", "shear_modulus"},
+    {"modulusofshare", "shear_modulus"},
+    {"bulkmodulus", "bulk_modulus"},
+    {"stretch", "stretch"},
+    {"nominalstress", "nominal_stress"},
+    {"engineeringstress", "nominal_stress"},
+}};
+
+template <std::size_t kCount>
+std::string_view Find(const std::array<Alias, kCount>& aliases, std::string_view text) {
+    const auto found =
+        std::find_if(aliases.begin(), aliases.end(), [&](const Alias& one) { return one.alias == text; });
+    return found == aliases.end() ? std::string_view() : found->name;
+}
+
+std::string Letters(std::string_view name) {
+    constexpr std::string_view kBetween = " _-'";
+    std::string letters;
+    for (const char c : name) {
+        if (kBetween.find(c) != std::string_view::npos) continue;
+        letters += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    }
+    return letters;
+}
+
+}  // namespace
+
+std::string PropertyName(std::string_view name) {
+    if (const auto symbol = Find(kSymbols, name); !symbol.empty()) return std::string(symbol);
+    const auto known = Find(kNames, Letters(name));
+    return std::string(known.empty() ? name : known);
+}
+
+ColumnHeader ReadColumnHeader(std::string_view text) {
+    text = WithoutBlanksAround(text);
+    const auto open = text.ends_with(']') ? text.find('[') : std::string_view::npos;
+    if (open == std::string_view::npos) return {std::string(text), {}, false};
+    const auto unit = text.substr(open + 1, text.size() - open - 2);
+    return {std::string(WithoutBlanksAround(text.substr(0, open))), std::string(WithoutBlanksAround(unit)),
+            true};
+}
+
+}  // namespace zelmat

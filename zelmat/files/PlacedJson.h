@@ -1,0 +1,36 @@
+#pragma once
+
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+#include "platform/catalog/KORJsonFile.h"
+
+namespace zelmat {
+
+/// A tree of values, each with the line of the file on which it stands: a JSON file, or what a reader of
+/// another form made of a file. What the values mean is the business of whoever walks through it.
+class PlacedJson {
+public:
+    /// Lines by JSON pointers ("/elastic/rows/3"). A value that is not named has the line of the value around
+    /// it.
+    using Lines = std::unordered_map<std::string, int>;
+
+    explicit PlacedJson(KORJsonFile file);
+    PlacedJson(std::string name, nlohmann::json root, Lines lines);
+
+    const std::string& Name() const { return name_; }  ///< what findings call the file
+    const nlohmann::json& Root() const { return file_ ? file_->Root() : root_; }
+
+    /// From 1; 0 when nothing is known about the file's lines.
+    int Line(nlohmann::json::json_pointer at) const;
+
+private:
+    std::string name_;
+    std::optional<KORJsonFile> file_;
+    nlohmann::json root_;  ///< when there is no JSON file
+    Lines lines_;
+};
+
+}  // namespace zelmat
