@@ -1,14 +1,30 @@
 #include "zelmat/commands/CardInput.h"
 
-#include "zelmat/cards/ReadCard.h"
+#include <algorithm>
+
 #include "zelmat/commands/WrongForm.h"
 
 namespace zelmat {
 
+namespace {
+
+/// A layup card reads as a material card of unknown blocks.
+bool IsDoubtful(const Material& material) {
+    return !material.kept.empty();
+}
+
+}  // namespace
+
+std::vector<Material> ReadGivenCards(const std::string& path, Findings& findings, const CardReading& how) {
+    auto cards = ReadCards(path, findings, how);
+    const bool doubtful = cards.empty() || std::any_of(cards.begin(), cards.end(), IsDoubtful);
+    if (doubtful && NameRightCommand(path, FileForm::MATERIAL_CARD, findings)) return {};
+    return cards;
+}
+
 std::optional<Material> ReadGivenCard(const std::string& path, Findings& findings) {
     auto card = ReadCard(path, findings);
-    // A layup card reads as a material card of unknown blocks.
-    const bool doubtful = !card || !card->kept.empty();
+    const bool doubtful = !card || IsDoubtful(*card);
     if (doubtful && NameRightCommand(path, FileForm::MATERIAL_CARD, findings)) return std::nullopt;
     return card;
 }

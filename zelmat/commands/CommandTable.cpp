@@ -8,6 +8,8 @@ namespace zelmat {
 #define ZELMAT_COMMANDS(COMMAND) \
     COMMAND(Show)                \
     COMMAND(Summary)             \
+    COMMAND(Convert)             \
+    COMMAND(New)                 \
     COMMAND(Upgrade)             \
     COMMAND(Layup)               \
     COMMAND(Unit)                \

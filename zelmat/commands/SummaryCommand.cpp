@@ -61,11 +61,7 @@ public:
     void Work(CommandContext& context) override {
         units_ = context.units;
         MaterialHost host(context.options.catalogs);
-        for (const std::string& path : paths_) {
-            Findings own;
-            Add(host, path, own);
-            for (const Finding& finding : own.All()) context.findings.Add(finding);
-        }
+        for (const std::string& path : paths_) Add(host, path, context.findings);
     }
 
     void Print(std::ostream& out) const override { PrintTable(out, materials_); }
@@ -79,13 +75,15 @@ public:
 
 private:
     void Add(MaterialHost& host, const std::string& path, Findings& findings) {
-        auto card = ReadGivenCard(path, findings);
-        if (!card) return;
-        cards_.push_back(std::move(*card));
-        const Block* fit = ChooseFit(cards_.back(), {}, findings);
-        auto material = StoreMaterial(host, cards_.back(),
-                                      fit ? std::vector{fit} : std::vector<const Block*>(), findings);
-        if (!findings.HasErrors()) materials_.push_back(std::move(material));
+        for (Material& card : ReadGivenCards(path, findings)) {
+            Findings own;
+            cards_.push_back(std::move(card));
+            const Block* fit = ChooseFit(cards_.back(), {}, own);
+            auto material =
+                StoreMaterial(host, cards_.back(), fit ? std::vector{fit} : std::vector<const Block*>(), own);
+            if (!own.HasErrors()) materials_.push_back(std::move(material));
+            for (const Finding& finding : own.All()) findings.Add(finding);
+        }
     }
 
     std::vector<std::string> paths_;

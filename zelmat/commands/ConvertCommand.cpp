@@ -1,0 +1,143 @@
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <iostream>
+#include <iterator>
+
+#include "zelmat/cards/WriteCard.h"
+#include "zelmat/commands/CardInput.h"
+#include "zelmat/commands/Command.h"
+#include "zelmat/files/OutputFile.h"
+#include "zelmat/files/ReadText.h"
+
+namespace zelmat {
+
+namespace {
+
+std::vector<std::string> FormNames() {
+    std::vector<std::string> names;
+    for (const CardForm& form : CardForms()) names.push_back(form.name);
+    return names;
+}
+
+/// Brings cards into another form: all into one text, or each into a file of its own in a folder. A card with
+/// a mistake is not written; of several that go into one text then none.
+class Convert final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("CARD", paths_, "Material cards of any form; - is standard input")->required();
+        line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(FormNames()));
+        line.add_flag("--decimal-comma", how_.decimalComma,
+                      "Numbers of a CSV card have a decimal comma (then ; or a tab sets columns apart)");
+    }
+
+    void Work(CommandContext& context) override {
+        const CardForm& form = *FindCardForm(form_);
+        const std::string& output = context.options.output;
+        if (!output.empty() && output != "-" && std::filesystem::is_directory(output)) {
+            for (const std::string& path : paths_) ConvertIntoFolder(form, path, output, context.findings);
+            return;
+        }
+        std::vector<Material> all;
+        for (const std::string& path : paths_) {
+            auto cards = ReadGivenCards(path, context.findings, how_);
+            all.insert(all.end(), std::move_iterator(cards.begin()), std::move_iterator(cards.end()));
+        }
+        if (context.findings.HasErrors() || !IsRoomFor(form, all.size(), context.findings)) return;
+        std::string text = form.write(all, context.findings);
+        if (output.empty()) {
+            text_ = std::move(text);
+        } else {
+            Write(output, text, paths_, context.findings);
+        }
+    }
+
+    void Print(std::ostream& out) const override {
+        if (text_) out << *text_;
+        for (const std::string& path : written_) out << "written: " << path << '\n';
+    }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"form", form_}, {"text", nullptr}, {"written", written_}};
+        if (text_) json["text"] = *text_;
+        return json;
+    }
+
+private:
+    static bool IsRoomFor(const CardForm& form, std::size_t materials, Findings& findings) {
+        if (form.severalInOne || materials == 1) return true;
+        findings.Add(
+            {FindingKind::USAGE,
+             {"zelmat convert", 0},
+             "several-materials",
+             "a file of the form " + form.name + " holds one material, not " + std::to_string(materials),
+             {"give a folder with --output"}});
+        return false;
+    }
+
+    void ConvertIntoFolder(const CardForm& form, const std::string& path, const std::string& folder,
+                           Findings& findings) {
+        Findings own;
+        const auto cards = ReadGivenCards(path, own, how_);
+        if (!own.HasErrors()) WriteIntoFolder(form, cards, path, folder, own);
+        for (const Finding& finding : own.All()) findings.Add(finding);
+    }
+
+    void WriteIntoFolder(const CardForm& form, const std::vector<Material>& cards, const std::string& path,
+                         const std::string& folder, Findings& findings) {
+        const std::string name =
+            path == "-" ? std::string("card") : std::filesystem::path(path).stem().string();
+        if (form.severalInOne || cards.size() == 1) {
+            WriteNew(folder + "/" + name + form.extension, form.write(cards, findings), path, findings);
+            return;
+        }
+        for (std::size_t i = 0; i < cards.size(); ++i) {
+            const std::string target = folder + "/" + name + "-" + std::to_string(i + 1) + form.extension;
+            WriteNew(target, form.write({cards[i]}, findings), path, findings);
+        }
+    }
+
+    /// Two cards of one name must not end in one file.
+    void WriteNew(const std::string& target, const std::string& text, const std::string& input,
+                  Findings& findings) {
+        if (std::find(written_.begin(), written_.end(), target) == written_.end()) {
+            Write(target, text, {input}, findings);
+            return;
+        }
+        findings.Add({FindingKind::ERROR,
+                      {ShownPath(input), 0},
+                      "same-file",
+                      "another card of this name is in " + target + " already",
+                      {"not written"}});
+    }
+
+    void Write(const std::string& path, const std::string& text, const std::vector<std::string>& inputs,
+               Findings& findings) {
+        if (path == "-") {
+            std::cout << text;
+        } else if (WriteOutputFile(path, text, inputs, findings)) {
+            written_.push_back(path);
+        }
+    }
+
+    std::vector<std::string> paths_;
+    std::string form_;
+    CardReading how_;
+    std::optional<std::string> text_;   // when it goes to no file
+    std::vector<std::string> written_;  // files
+};
+
+}  // namespace
+
+CommandKind ConvertCommand() {
+    return {
+        .name = "convert",
+        .brief = "bring material cards into another form",
+        .text =
+            "Bring material cards into another form: JSON, CSV or FCMat. The form of a card is told by its\n"
+            "content. Numbers and units are carried as they were written; what the new form cannot hold is\n"
+            "listed. Without --output the text goes to standard output.",
+        .output = "File for the converted cards, or a folder for a file each",
+        .make = &MakeCommand<Convert>};
+}
+
+}  // namespace zelmat
