@@ -19,7 +19,6 @@ template <class Behavior>
 struct BehaviorNumber {
     const char* name;
     const char* attribute;
-    bool required;
     HRESULT (Behavior::*set)(const double&);
     HRESULT (Behavior::*load)();
     double (Behavior::*get)() const;
@@ -60,7 +59,7 @@ struct ThermalExpansionNames {
     static constexpr auto kTable = &Behavior::GetThermalExpansionDataArray;
     static constexpr const char* kLateType = "ZELThermalExpansionLT";
     static constexpr std::array kNumbers = {BehaviorNumber<Behavior>{
-        "reference_temperature", "ReferenceTemperature", true, &Behavior::SetReferenceTemperature,
+        "reference_temperature", "ReferenceTemperature", &Behavior::SetReferenceTemperature,
         &Behavior::GetPropertyReferenceTemperature, &Behavior::GetReferenceTemperature}};
 };
 
@@ -98,8 +97,7 @@ struct BehaviorAccess {
         std::vector<Setting> settings;
         if constexpr (kHasNumbers) {
             for (const auto& number : Names::kNumbers) {
-                settings.push_back(StoredSetting(number.name, Names::kLateType, number.attribute,
-                                                 {.required = number.required}));
+                settings.push_back(StoredSetting(number.name, Names::kLateType, number.attribute));
             }
         }
         return settings;

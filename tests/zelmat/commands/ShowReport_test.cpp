@@ -108,7 +108,7 @@ TEST(ShowReport, SaysWhichFitIsStored) {
                           "      0.195           0\n"
                           "  source: page 10\n"
                           "  strain energy: W = C10 (I1-3)\n"
-                          "  initial shear modulus mu0: 390000 Pa\n"
+                          "  initial shear modulus mu0: 0.39 MPa\n"
                           "  initial bulk modulus K0: none, incompressible\n"
                           "  potential, on the card: W = C10 (I1 - 3)\n"
                           "  relative deviation from the tests, RMS, on the card: 0.223\n"
