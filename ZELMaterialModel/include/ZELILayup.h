@@ -18,8 +18,8 @@ public:
     /// E_FAIL as for SetLayers, and the caller's list is as it was.
     virtual HRESULT GetLayers(KORListValKORISpecObject_var& layers) = 0;
 
-    /// False when a composite shell section of the layup's analysis set references this layup, true
-    /// otherwise.
+    /// False when a composite shell section of the layup's first analysis set references this layup, true
+    /// otherwise. Sections that come after one without ZELIShellSection are not looked at.
     virtual bool IsUnused() = 0;
 
 protected:
