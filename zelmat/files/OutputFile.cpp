@@ -101,7 +101,7 @@ public:
         if (ModeForbidsWriting(target_, *state)) return "its mode does not allow writing";
         const SignalHold hold;
         if (IsOneOf(inputs, *state)) {
-            const std::string problem = KeepInput(*state);
+            std::string problem = KeepInput(*state);
             if (!problem.empty()) return problem;
         }
         return Replace(*state);
@@ -137,7 +137,7 @@ private:
         for (int i = 2; fs::symlink_status(name).type() != fs::file_type::not_found; ++i) {
             name = target_ + ".bak." + std::to_string(i);
         }
-        const std::string problem = Copy(target_, name, state.st_mode);
+        std::string problem = Copy(target_, name, state.st_mode);
         if (problem.empty()) backup_ = name;
         return problem;
     }
@@ -198,7 +198,7 @@ private:
             SyncFolderOf(to);
             return "";
         }
-        const std::string problem = Reason();
+        std::string problem = Reason();
         ::unlink(to.c_str());
         return problem;
     }
