@@ -1,6 +1,7 @@
 #include "framework/KORName.h"
 
-#include <functional>
+#include <array>
+#include <cstring>
 #include <vector>
 
 /// All names, in a table of open addressing: look-ups are on the way of every attribute key.
@@ -14,8 +15,17 @@ public:
 
     const KORName* Find(std::string_view text) const { return places_[PlaceOf(text, Hash(text))].name; }
 
+    const KORName* Find(const char* text) {
+        const auto address = reinterpret_cast<std::uintptr_t>(text);
+        Recent& recent = recent_[(address ^ address >> 8) % kRecent];
+        if (recent.text == text && std::strcmp(text, recent.name->c_str()) == 0) return recent.name;
+        const KORName* const name = Find(std::string_view(text));
+        if (name) recent = {text, name};
+        return name;
+    }
+
     const KORName* Intern(std::string_view text) {
-        const std::size_t hash = Hash(text);
+        const std::uint64_t hash = Hash(text);
         std::size_t place = PlaceOf(text, hash);
         if (places_[place].name) return places_[place].name;
         if (count_ >= places_.size() / 2) {
@@ -28,14 +38,40 @@ public:
 
 private:
     struct Place {
-        std::size_t hash = 0;
+        std::uint64_t hash = 0;
         const KORName* name = nullptr;
     };
 
-    static std::size_t Hash(std::string_view text) { return std::hash<std::string_view>()(text); }
+    /// Eight bytes at a time, the last eight once more where the length is no multiple of that: names are a
+    /// few words long and are hashed at every look-up.
+    static std::uint64_t Hash(std::string_view text) {
+        std::uint64_t hash = text.size();
+        if (text.size() < kWord) {
+            for (const char letter : text) hash = Mixed(hash, static_cast<unsigned char>(letter));
+        } else {
+            const char* const last = text.data() + text.size() - kWord;
+            for (const char* at = text.data(); at < last; at += kWord) hash = Mixed(hash, WordAt(at));
+            hash = Mixed(hash, WordAt(last));
+        }
+        return hash * kSpread >> 32;  // the upper bits depend on all of the last word's
+    }
+
+    static constexpr std::size_t kWord = sizeof(std::uint64_t);
+    static constexpr std::uint64_t kSpread =
+        0x9E3779B97F4A7C15;  ///< 2^64 over the golden ratio: odd, no pattern
+
+    static std::uint64_t Mixed(std::uint64_t hash, std::uint64_t word) {
+        hash = (hash ^ word) * kSpread;
+        return hash ^ hash >> 32;
+    }
+    static std::uint64_t WordAt(const char* text) {
+        std::uint64_t word;
+        std::memcpy(&word, text, kWord);
+        return word;
+    }
 
     /// Where a name stands, or would stand.
-    std::size_t PlaceOf(std::string_view text, std::size_t hash) const {
+    std::size_t PlaceOf(std::string_view text, std::uint64_t hash) const {
         const std::size_t mask = places_.size() - 1;
         std::size_t place = hash & mask;
         while (places_[place].name && (places_[place].hash != hash || places_[place].name->Text() != text)) {
@@ -52,6 +88,14 @@ private:
         }
     }
 
+    /// A text that was found, by its address. It may be gone by now, and another one may lie there.
+    struct Recent {
+        const char* text = nullptr;
+        const KORName* name = nullptr;
+    };
+    static constexpr std::size_t kRecent = 1024;
+
+    std::array<Recent, kRecent> recent_;
     std::vector<Place> places_ = std::vector<Place>(1024);  ///< a power of two, at most half full
     std::uint32_t count_ = 0;
 };
@@ -61,5 +105,9 @@ const KORName* KORName::Intern(std::string_view text) {
 }
 
 const KORName* KORName::Find(std::string_view text) {
+    return KORNamePool::Instance().Find(text);
+}
+
+const KORName* KORName::Find(const char* text) {
     return KORNamePool::Instance().Find(text);
 }

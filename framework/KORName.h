@@ -15,6 +15,10 @@ public:
     static const KORName* Intern(std::string_view text);  ///< the one name of this text, made on first use
     static const KORName* Find(std::string_view text);    ///< null when the text was never interned
 
+    /// The same of a zero-terminated text. Callers ask again and again with the same constants, so where the
+    /// text lies is remembered; what lies there is compared each time.
+    static const KORName* Find(const char* text);
+
     const std::string& Text() const { return text_; }
     const char* c_str() const { return text_.c_str(); }
 

@@ -50,6 +50,26 @@ public:
         other.text_ = mine.text, other.size_ = mine.size, other.shared_ = mine.shared;
     }
 
+    // The bare form of a string, for a slot that knows by itself whether it holds one: the address of its
+    // text in a counted buffer of its own or shared with copies. Null is the empty string.
+    static char* BareCopyOf(const KORUnicodeString& text) {  ///< counted for whoever takes it
+        KORUnicodeString copy(text);
+        if (!copy.shared_) return nullptr;
+        copy.shared_ = false;
+        return const_cast<char*>(copy.text_);
+    }
+    static KORUnicodeString OfBare(char* text) {  ///< a copy; the bare form keeps its count
+        KORUnicodeString copy;
+        if (!text) return copy;
+        copy.text_ = KORSharedBuffer<char>::Share(text);
+        copy.size_ = static_cast<std::uint32_t>(ViewOfBare(text).size());
+        copy.shared_ = true;
+        return copy;
+    }
+    static std::string_view ViewOfBare(const char* text) {
+        return {text, static_cast<std::size_t>(KORSharedBuffer<char>::SizeOf(text) - 1)};  // its end is a NUL
+    }
+
     friend constexpr bool operator==(const KORUnicodeString& a, const KORUnicodeString& b) {
         return a.View() == b.View();
     }

@@ -16,8 +16,8 @@
 /// never copied.
 class KOR_EXPORT ZELGasketBehavior : private ZELModuleObject {
 protected:
-    explicit ZELGasketBehavior(
-        KORISpecObject* material);  ///< takes a reference of its own; null is tolerated
+    /// Takes a reference of its own on the material; null is tolerated. `keys` is how many it will take.
+    ZELGasketBehavior(KORISpecObject* material, std::size_t keys);
     ZELGasketBehavior(const ZELGasketBehavior&) = default;
     ZELGasketBehavior& operator=(const ZELGasketBehavior&) = default;
     virtual ~ZELGasketBehavior();

@@ -1,12 +1,9 @@
 #include "platform/catalog/KORCatalog.h"
 
-#include "platform/catalog/KORStartUp.h"
-
 HRESULT KORCatalog::RetrieveStartUp(const KORUnicodeString& lateType, const char* interfaceName, void** out) {
     *out = nullptr;
     const KORCatalogType* type = file_->Find(KORName::Find(lateType.View()));
     const KORName* iid = KORName::Find(interfaceName);
     if (!type || !iid) return E_FAIL;
-    const auto startUp = KORVar<KORStartUp>::Adopt(new KORStartUp(type->layout));
-    return FAILED(startUp->QueryInterface(iid, out)) ? E_FAIL : S_OK;
+    return FAILED(type->startUp->QueryInterface(iid, out)) ? E_FAIL : S_OK;
 }

@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "platform/catalog/KORCatalogReader.h"
+#include "platform/catalog/KORStartUp.h"
 
 std::shared_ptr<const KORCatalogFile> KORCatalogFile::Open(const std::string& path, KORFileError& error) {
     static auto& parsed = *new std::unordered_map<std::string, std::shared_ptr<const KORCatalogFile>>;
@@ -30,9 +31,16 @@ std::shared_ptr<const KORCatalogFile> KORCatalogFile::Build(const KORJsonFile& f
     return std::shared_ptr<const KORCatalogFile>(new KORCatalogFile(file.Name(), std::move(types)));
 }
 
-const KORCatalogType* KORCatalogFile::Find(const KORName* lateType) const {
-    for (const KORCatalogType& type : types_) {
-        if (type.layout->Name() == lateType) return &type;
+KORCatalogFile::KORCatalogFile(std::string name, std::vector<KORCatalogType> types)
+    : name_(std::move(name)), types_(std::move(types)) {
+    for (KORCatalogType& type : types_) {
+        type.startUp = KORISpecObject_var::Adopt(new KORStartUp(type.layout));
+        const std::uint32_t number = type.layout->Name()->Number();
+        if (number >= byNumber_.size()) byNumber_.resize(number + 1);
+        byNumber_[number] = &type;
     }
-    return nullptr;
+}
+
+const KORCatalogType* KORCatalogFile::Find(const KORName* lateType) const {
+    return lateType && lateType->Number() < byNumber_.size() ? byNumber_[lateType->Number()] : nullptr;
 }

@@ -21,6 +21,7 @@ struct KORCatalogType {
     std::string meaning;
     int since = 0;
     std::vector<KORCatalogAttribute> attributes;  ///< in the order of layout->Attributes()
+    KORISpecObject_var startUp;                   ///< the one that all open catalogs over the file hand out
 };
 
 /// The late types that a catalog declares, read from its JSON text. It is the declaration only; an open
@@ -44,11 +45,11 @@ public:
     const KORCatalogType* Find(const KORName* lateType) const;  ///< null for null and when it is not declared
 
 private:
-    KORCatalogFile(std::string name, std::vector<KORCatalogType> types)
-        : name_(std::move(name)), types_(std::move(types)) {}
+    KORCatalogFile(std::string name, std::vector<KORCatalogType> types);
 
     static std::shared_ptr<const KORCatalogFile> Build(const KORJsonFile& file, KORFileError& error);
 
     std::string name_;
     std::vector<KORCatalogType> types_;
+    std::vector<const KORCatalogType*> byNumber_;  ///< types_ by the numbers of their names
 };

@@ -10,8 +10,12 @@ KORCatalogSet::KORCatalogSet(std::shared_ptr<const KORCatalogSet> behind) : behi
 }
 
 void KORCatalogSet::Add(std::string_view name, const std::shared_ptr<const KORCatalogFile>& file) {
-    const auto same = [name](const Catalog& catalog) { return catalog.name == name; };
-    if (std::ranges::none_of(catalogs_, same)) catalogs_.push_back({std::string(name), file});
+    if (!Opened(name)) catalogs_.push_back({std::string(name), file});
+}
+
+std::shared_ptr<const KORCatalogFile> KORCatalogSet::Opened(std::string_view name) const {
+    const auto found = std::ranges::find(catalogs_, name, &Catalog::name);
+    return found != catalogs_.end() ? found->file : nullptr;
 }
 
 const KORCatalogType* KORCatalogSet::Find(const KORName* lateType) const {

@@ -21,6 +21,9 @@ public:
     void Add(std::string_view name, const std::shared_ptr<const KORCatalogFile>& file);  ///< once per name
     const std::vector<Catalog>& Catalogs() const { return catalogs_; }
 
+    /// The catalog that was opened by that file name; null when it is none of this set's own.
+    std::shared_ptr<const KORCatalogFile> Opened(std::string_view name) const;
+
     /// The late type, from the first catalog that declares it; null for null and when none does.
     const KORCatalogType* Find(const KORName* lateType) const;
 

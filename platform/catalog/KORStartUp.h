@@ -3,7 +3,8 @@
 #include "platform/store/KORAttributeReads.h"
 
 /// The start-up of a late type: reads as its initial values, and makes features that begin with them. It is
-/// no feature: it lies in no document and container, has no extensions, and ignores writes.
+/// no feature: it lies in no document and container, has no extensions, and ignores writes. Nothing ever
+/// changes in it, so one per late type serves everybody.
 class KORStartUp final : public KORAttributeReads<KORStartUp> {
 public:
     explicit KORStartUp(const KORLayoutHandle& layout) : layout_(layout) {}

@@ -44,6 +44,7 @@ KORBaseUnknown* KORMemoryDocument::FindContainer(const char* name) {
 }
 
 std::shared_ptr<const KORCatalogFile> KORMemoryDocument::OpenCatalog(std::string_view fileName) {
+    if (auto known = catalogs_->Opened(fileName)) return known;
     KORFileError error;
     auto file = platform_.OpenCatalog(fileName, error);
     if (file) {

@@ -11,7 +11,7 @@ KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHa
     auto feature = KORVar<KORFeature>::Adopt(
         new (SlotCount{layout->SlotCount()}) KORFeature(type, number, document.Log().Stamp(), nullptr));
     if (name != layout->NameText()) {
-        feature->Slots()[KORLayout::kName] = KORValue::OfString(name);
+        feature->MakeUndeclared(document).At(KORLayout::kName) = KORValue::OfString(name);
     }
     feature->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
     return feature;
@@ -23,14 +23,7 @@ KORVar<KORFeature> KORFeature::NewCopy(const KORFeature& original, KORBaseUnknow
     const std::uint32_t number = document.Features().NextNumber();
     auto copy = KORVar<KORFeature>::Adopt(
         new (slots) KORFeature(*original.type_, number, document.Log().Stamp(), &original));
-    copy->Slots()[KORLayout::kName] = original.At(KORLayout::kName);
-    original.ForEachUndeclared([&](const KORUnicodeString& attribute, const KORValue& value) {
-        copy->hasUndeclared_ = true;
-        KORUndeclaredAttributes& attributes = document.UndeclaredOf(number);
-        KORValue& own = attributes.At(attributes.SlotOf(attribute));
-        own = value;
-        own.SetStamp(document.Log().Stamp());  // as if logged, like the values that its type declares
-    });
+    if (original.hasUndeclared_) copy->CopyUndeclared(document, original);
     copy->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
     return copy;
 }
@@ -52,14 +45,11 @@ KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t
     : type_(&type), number_(number) {
     const KORLayout& layout = type.Layout();
     KORValue* slots = Slots();
-    new (slots + KORLayout::kName) KORValue(KORAttributeKind::String);
-    new (slots + KORLayout::kAlias)
-        KORValue(original ? original->At(KORLayout::kAlias) : KORValue(KORAttributeKind::String));
     new (slots + KORLayout::kContainer) KORValue(KORAttributeKind::Component);
-    slots[KORLayout::kAlias].SetStamp(stamp);
+    const KORValue* values = (original ? original->Slots() : layout.Initials()) + KORLayout::kFirstAttribute;
     for (KORSlot slot = KORLayout::kFirstAttribute; slot < layout.SlotCount(); ++slot) {
         // As if logged: undoing the creation takes the values along.
-        (new (slots + slot) KORValue(original ? original->At(slot) : layout.Initial(slot)))->SetStamp(stamp);
+        (new (slots + slot) KORValue(*values++))->SetStamp(stamp);
     }
     type.AddRef();
     type.Document()->Features().Add(number, *this);
@@ -107,6 +97,9 @@ void KORFeature::SetContainer(KORBaseUnknown* container) {
 }
 
 void KORFeature::SetAlias(const KORUnicodeString& alias) {
+    KORStoreDocument* document = StoreDocument();
+    if (!document) return;
+    MakeUndeclared(*document);
     Write(KORLayout::kAlias, KORValue::OfString(alias));
 }
 
@@ -165,8 +158,7 @@ void KORFeature::RemoveValue(KORISpecAttrKey* key) {
 void KORFeature::SetUndeclared(const KORUnicodeString& name, KORValue&& value) {
     KORStoreDocument* document = StoreDocument();
     if (!document) return;
-    hasUndeclared_ = true;
-    Write(document->UndeclaredOf(number_).SlotOf(name), std::move(value));
+    Write(MakeUndeclared(*document).SlotOf(name), std::move(value));
 }
 
 void KORFeature::RemoveUndeclared(const KORUnicodeString& name) {
@@ -179,10 +171,30 @@ KORUndeclaredAttributes* KORFeature::Undeclared() const {
     return hasUndeclared_ ? &StoreDocument()->UndeclaredOf(number_) : nullptr;
 }
 
+KORUndeclaredAttributes& KORFeature::MakeUndeclared(KORStoreDocument& document) {
+    KORUndeclaredAttributes& undeclared = document.UndeclaredOf(number_);
+    hasUndeclared_ = true;
+    return undeclared;
+}
+
+void KORFeature::CopyUndeclared(KORStoreDocument& document, const KORFeature& original) {
+    KORUndeclaredAttributes& copy = MakeUndeclared(document);
+    const auto put = [&](KORSlot slot, const KORValue& value) {
+        copy.At(slot) = value;
+        copy.At(slot).SetStamp(
+            document.Log().Stamp());  // as if logged, like the values that its type declares
+    };
+    put(KORLayout::kName, original.At(KORLayout::kName));
+    put(KORLayout::kAlias, original.At(KORLayout::kAlias));
+    original.ForEachUndeclared(
+        [&](const KORUnicodeString& name, const KORValue& value) { put(copy.SlotOf(name), value); });
+}
+
 const KORValue& KORFeature::UndeclaredAt(KORSlot slot) const {
+    static const KORValue noText(KORAttributeKind::String);
     static const KORValue absent = KORValue::Absent();
-    const KORUndeclaredAttributes* undeclared = Undeclared();
-    return undeclared ? undeclared->At(slot) : absent;
+    if (const KORUndeclaredAttributes* undeclared = Undeclared()) return undeclared->At(slot);
+    return slot < KORLayout::kFirstUndeclared ? noText : absent;
 }
 
 void KORFeature::DropUndeclared() noexcept {

@@ -9,8 +9,8 @@
 inline const KORIID IID_KORFeature = KORName::Intern("KORFeature");
 
 /// A feature of a document: one allocation, a small header followed by one slot per attribute of its late
-/// type. Values, instance name, alias and container membership are all slots, and all changes go through
-/// Write, so that undo and dirty tracking cannot be forgotten. It is no start-up: those stand in catalogs.
+/// type. Values, alias and container membership are all slots, and all changes go through Write, so that
+/// undo and dirty tracking cannot be forgotten. It is no start-up: those stand in catalogs.
 ///
 /// A feature lies in at most one container, which keeps a reference on it: it lives on without other handles.
 /// Once its document is closed, its slots are empty, reads answer "never valued" and writes are ignored.
@@ -19,7 +19,7 @@ public:
     static KORIID Iid() { return IID_KORFeature; }
 
     /// A new feature with its type's initial values, in a container. Within an undo step the creation is
-    /// logged as one change; later writes to it in the same scope are part of it.
+    /// logged as one change; later writes to its declared attributes in the same scope are part of it.
     static KORVar<KORFeature> New(KORStoreDocument& document, const KORLayoutHandle& layout,
                                   const KORUnicodeString& name, KORBaseUnknown& container);
 
@@ -31,9 +31,10 @@ public:
     /// Its number in its document, from 1 on: never another feature's, also after this one is gone.
     std::uint32_t Number() const { return number_; }
     const KORLayout& Layout() const { return type_->Layout(); }
-    /// The value in a slot that every feature or its layout has, or in one of an undeclared attribute.
+    /// The value in a slot that every feature or its layout has, in one of an undeclared attribute, or the
+    /// name or alias.
     const KORValue& At(KORSlot slot) const {
-        return slot < KORLayout::kFirstUndeclared ? Slots()[slot] : UndeclaredAt(slot);
+        return slot < KORLayout::kAlias ? Slots()[slot] : UndeclaredAt(slot);
     }
     const KORValue& Declared(KORSlot slot) const { return Slots()[slot]; }  ///< of the layout, unchecked
     KORStoreDocument* StoreDocument() const { return type_->Document(); }   ///< null once it is closed
@@ -115,8 +116,10 @@ private:
     KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp, const KORFeature* original);
     ~KORFeature() override;
 
-    /// Null when it has none, and once its document is closed.
+    /// Its table of what its layout has no slots for. Null when it has none, and once its document is closed.
     KORUndeclaredAttributes* Undeclared() const;
+    KORUndeclaredAttributes& MakeUndeclared(KORStoreDocument& document);  ///< the same, made if it has none
+    void CopyUndeclared(KORStoreDocument& document, const KORFeature& original);
     const KORValue& UndeclaredAt(KORSlot slot) const;
     void DropUndeclared() noexcept;
 

@@ -18,6 +18,8 @@ KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes, 
       nameText_(std::string_view(name->Text())),
       attributes_(std::move(attributes)),
       ordinal_(NextOrdinal()) {
+    initials_.assign(kFirstAttribute, KORValue(KORAttributeKind::Component));
+    for (const KORAttribute& attribute : attributes_) initials_.push_back(attribute.initial);
     if (attributes_.empty()) return;
     const auto byNumber = [](const KORAttribute& a, const KORAttribute& b) {
         return a.name->Number() < b.name->Number();
@@ -37,10 +39,6 @@ KORLayoutHandle KORLayout::OfUndeclaredType(const KORName* name) {
     KORLayoutHandle& layout = layouts[name];
     if (!layout) layout = std::make_shared<KORLayout>(name, std::vector<KORAttribute>());
     return layout;
-}
-
-const KORValue& KORLayout::Initial(KORSlot slot) const {
-    return attributes_[static_cast<std::size_t>(slot - kFirstAttribute)].initial;
 }
 
 const char* KORLayout::SlotName(KORSlot slot) const {

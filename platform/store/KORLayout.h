@@ -21,18 +21,18 @@ using KORLayoutHandle = std::shared_ptr<const KORLayout>;
 /// meaning, unit or release; that is the catalog's. It belongs to the catalog that was read and lives as long
 /// as a feature uses it.
 ///
-/// Every feature begins with the same three slots, which no key reaches: instance name, alias and container.
+/// Every feature begins with a slot that no key reaches: its container. Two more such slots, its instance
+/// name and its alias, exist only where they are valued, which is rare.
 class KORLayout {
 public:
-    static constexpr KORSlot kName =
-        0;  ///< string; never valued: the late type's own name, as most features have
-    static constexpr KORSlot kAlias = 1;
-    static constexpr KORSlot kContainer = 2;
-    static constexpr KORSlot kFirstAttribute = 3;
+    static constexpr KORSlot kContainer = 0;  ///< no attribute's: where an attribute is asked for, 0 is none
+    static constexpr KORSlot kFirstAttribute = 1;
 
     /// Slots from here on are no late type's: they hold what a feature has beyond its layout.
+    static constexpr KORSlot kAlias = 0x7FFE;
+    static constexpr KORSlot kName = 0x7FFF;  ///< never valued: the late type's own name
     static constexpr KORSlot kFirstUndeclared = 0x8000;
-    static constexpr std::size_t kMostAttributes = kFirstUndeclared - kFirstAttribute;
+    static constexpr std::size_t kMostAttributes = kAlias - kFirstAttribute;
 
     /// Where an attribute lies; slot 0 when there is none.
     struct Place {
@@ -57,8 +57,10 @@ public:
         return index < places_.size() ? places_[index] : Place{};
     }
 
-    const KORValue& Initial(KORSlot slot) const;  ///< of an attribute's slot
-    const char* SlotName(KORSlot slot) const;     ///< the attribute's name; "Name", "Alias" and "Container"
+    /// What a new feature starts with, by slot: SlotCount() values in a row. It lies in no container.
+    const KORValue* Initials() const { return initials_.data(); }
+    const KORValue& Initial(KORSlot slot) const { return initials_[slot]; }
+    const char* SlotName(KORSlot slot) const;  ///< the attribute's name; "Name", "Alias" and "Container"
 
     /// The component attribute with the feature on which its features hang. Slot 0 when they hang on none.
     KORSlot FatherSlot() const { return father_; }
@@ -71,6 +73,7 @@ private:
     const KORName* role_;
     KORUnicodeString nameText_;
     std::vector<KORAttribute> attributes_;
+    std::vector<KORValue> initials_;
     std::vector<Place> places_;  ///< by the key's number, from firstNumber_ on
     std::uint32_t firstNumber_ = 0;
     KORSlot father_ = 0;

@@ -15,3 +15,9 @@ KORSlot KORUndeclaredAttributes::Find(std::string_view name) const {
     const auto found = slots_.find(name);
     return found != slots_.end() ? found->second : KORSlot{0};
 }
+
+const KORValue& KORUndeclaredAttributes::At(KORSlot slot) const {
+    if (slot == KORLayout::kName) return name_;
+    if (slot == KORLayout::kAlias) return alias_;
+    return attributes_[Index(slot)].value;
+}

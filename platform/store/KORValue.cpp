@@ -9,7 +9,7 @@ std::uint64_t AddressOf(const void* object) {
 }  // namespace
 
 KORValue KORValue::OfString(const KORUnicodeString& text) {
-    return {KORAttributeKind::String, text.empty() ? 0 : AddressOf(new KORUnicodeString(text))};
+    return {KORAttributeKind::String, AddressOf(KORUnicodeString::BareCopyOf(text))};
 }
 
 KORValue KORValue::OfListOfDoubles(const KORRawColldouble& list) noexcept {
@@ -37,7 +37,8 @@ std::uint64_t KORValue::CopyOwned() const {
         case KORAttributeKind::Double:
             return bits_;
         case KORAttributeKind::String:
-            return AddressOf(new KORUnicodeString(*Text()));
+            KORSharedBuffer<char>::Share(Pointer<char>());
+            return bits_;
         case KORAttributeKind::ListOfDoubles:
             KORSharedBuffer<double>::Share(Pointer<double>());
             return bits_;
@@ -57,7 +58,7 @@ void KORValue::DropOwned() noexcept {
         case KORAttributeKind::Double:
             return;
         case KORAttributeKind::String:
-            delete Text();
+            KORSharedBuffer<char>::Drop(Pointer<char>());
             return;
         case KORAttributeKind::ListOfDoubles:
             KORSharedBuffer<double>::Drop(Pointer<double>());
@@ -79,7 +80,8 @@ bool KORValue::OwnsSameAs(const KORValue& other) const {
         case KORAttributeKind::Component:
             return false;
         case KORAttributeKind::String:
-            return *Text() == *other.Text();
+            return KORUnicodeString::ViewOfBare(Pointer<char>()) ==
+                   KORUnicodeString::ViewOfBare(other.Pointer<char>());
         case KORAttributeKind::ListOfDoubles:
             return ListOfDoubles().SameBits(other.ListOfDoubles());
         case KORAttributeKind::ListOfComponents:

@@ -66,7 +66,7 @@ public:
     bool Boolean() const { return bits_ != 0; }
     int Integer() const { return static_cast<int>(static_cast<std::int64_t>(bits_)); }
     double Double() const { return std::bit_cast<double>(bits_); }
-    KORUnicodeString String() const { return bits_ ? *Text() : KORUnicodeString(); }
+    KORUnicodeString String() const { return KORUnicodeString::OfBare(Pointer<char>()); }
     KORRawColldouble ListOfDoubles() const;                     ///< a share of the list, not a copy
     KORBaseUnknown* Component() const { return Referenced(); }  ///< no reference
     KORListValKORISpecObject_var Features() const;       ///< a share of a list of components, as features
@@ -94,7 +94,6 @@ private:
     Object* Pointer() const {
         return reinterpret_cast<Object*>(static_cast<std::uintptr_t>(bits_));
     }
-    KORUnicodeString* Text() const { return Pointer<KORUnicodeString>(); }
     KORBaseUnknown* Referenced() const { return Pointer<KORBaseUnknown>(); }
     KORComponentList* Components() const { return Pointer<KORComponentList>(); }
 

@@ -39,6 +39,18 @@ TEST(KORName, IsFoundOnlyOnceItWasInterned) {
     EXPECT_EQ(KORName::Find("a name that nobody interned"), nullptr) << "asking does not intern";
 }
 
+TEST(KORName, IsFoundByWhatStandsThereAndNotByWhereItStands) {
+    const KORName* one = KORName::Intern("text one");
+    const KORName* two = KORName::Intern("text two");
+    char text[] = "text one";
+
+    EXPECT_EQ(KORName::Find(static_cast<const char*>(text)), one);
+    text[5] = 't', text[6] = 'w', text[7] = 'o';
+    EXPECT_EQ(KORName::Find(static_cast<const char*>(text)), two);
+    text[4] = '\0';
+    EXPECT_EQ(KORName::Find(static_cast<const char*>(text)), nullptr);
+}
+
 TEST(KORName, IsNumberedInOrderOfFirstUse) {
     const std::uint32_t first = KORName::Intern("numbered first")->Number();
 

@@ -3,7 +3,8 @@
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/store/ZELKeyOnce.h"
 #include "framework/KORDiagnostic.h"
 
-ZELGasketBehavior::ZELGasketBehavior(KORISpecObject* material) : material_(material) {
+ZELGasketBehavior::ZELGasketBehavior(KORISpecObject* material, std::size_t keys) : material_(material) {
+    keys_.reserve(keys);
     if (material_) material_->AddRef();
 }
 

@@ -28,6 +28,7 @@ enum KeyIndex : std::size_t {
     kUnloadingDamageFile = kUnloadingEPColumns + 4,
     kUnloadingDamageTemperatureDependent,
     kUnloadingDamageColumns,
+    kKeys = kUnloadingDamageColumns + 4,
 };
 
 constexpr const KORUnicodeString* kThicknessKeys[] = {
@@ -59,7 +60,7 @@ bool IsOff(double number) {
 }  // namespace
 
 ZELGasketThicknessBehavior::ZELGasketThicknessBehavior(KORISpecObject* material)
-    : ZELGasketBehavior(material) {
+    : ZELGasketBehavior(material, kKeys) {
     materialAccess_ = OpenMaterial();
     if (materialAccess_ && BindFeatures(*materialAccess_)) TakeKeys();
 }

@@ -28,10 +28,17 @@ protected:
 };
 
 TEST_F(KORCatalogTest, HandsOutAStartUpWithOneReferenceForTheCaller) {
+    const KORBaseUnknown_var watch(StartUp());
+    const auto before = watch->References();
+
     const auto startUp = StartUp();
 
     EXPECT_EQ(KORUnicodeString("KORTestLT"), startUp->GetType());
-    EXPECT_EQ(1, KORBaseUnknown_var(startUp)->References() - 1);
+    EXPECT_EQ(before + 1, watch->References());
+}
+
+TEST_F(KORCatalogTest, HandsOutTheSameStartUpEachTime) {
+    EXPECT_EQ(StartUp(), StartUp());
 }
 
 TEST_F(KORCatalogTest, AnswersAStartUpUnderTheInterfaceAskedFor) {

@@ -11,13 +11,13 @@ std::vector<KORAttribute> TwoAttributes() {
     return attributes;
 }
 
-TEST(KORLayout, PutsAttributesBehindNameAliasAndContainer) {
+TEST(KORLayout, PutsAttributesBehindTheContainer) {
     const KORLayout layout(KORName::Intern("SomeLT"), TwoAttributes());
 
-    EXPECT_EQ(3, layout.Find(KORName::Find("Second of the pool")).slot);
-    EXPECT_EQ(4, layout.Find(KORName::Find("Thickness")).slot);
+    EXPECT_EQ(1, layout.Find(KORName::Find("Second of the pool")).slot);
+    EXPECT_EQ(2, layout.Find(KORName::Find("Thickness")).slot);
     EXPECT_EQ(KORAttributeKind::Integer, layout.Find(KORName::Find("Thickness")).kind);
-    EXPECT_EQ(5, layout.SlotCount());
+    EXPECT_EQ(3, layout.SlotCount());
 }
 
 TEST(KORLayout, FindsNoNameItDoesNotDeclare) {
@@ -34,23 +34,23 @@ TEST(KORLayout, WithoutAttributesFindsNothing) {
     const KORLayout layout(KORName::Intern("SomeLT"), {});
 
     EXPECT_EQ(0, layout.Find(KORName::Intern("Thickness")).slot);
-    EXPECT_EQ(3, layout.SlotCount());
+    EXPECT_EQ(1, layout.SlotCount());
 }
 
 TEST(KORLayout, KnowsInitialValuesBySlot) {
     const KORLayout layout(KORName::Intern("SomeLT"), TwoAttributes());
 
-    EXPECT_EQ(2.5, layout.Initial(3).Double());
-    EXPECT_EQ(3, layout.Initial(4).Integer());
+    EXPECT_EQ(2.5, layout.Initial(1).Double());
+    EXPECT_EQ(3, layout.Initial(2).Integer());
 }
 
 TEST(KORLayout, NamesEverySlotForReports) {
     const KORLayout layout(KORName::Intern("SomeLT"), TwoAttributes());
 
-    EXPECT_STREQ("Name", layout.SlotName(0));
-    EXPECT_STREQ("Alias", layout.SlotName(1));
-    EXPECT_STREQ("Container", layout.SlotName(2));
-    EXPECT_STREQ("Thickness", layout.SlotName(4));
+    EXPECT_STREQ("Name", layout.SlotName(KORLayout::kName));
+    EXPECT_STREQ("Alias", layout.SlotName(KORLayout::kAlias));
+    EXPECT_STREQ("Container", layout.SlotName(0));
+    EXPECT_STREQ("Thickness", layout.SlotName(2));
 }
 
 TEST(KORLayout, HasANumberOfItsOwnAlsoUnderTheSameName) {

@@ -129,17 +129,37 @@ TEST_F(KORUndoLogTest, UndoesACreationAndBringsTheFeatureBackWithItsValues) {
     EXPECT_TRUE(document->Features().Find(number)->LiesInContainer());
 }
 
-TEST_F(KORUndoLogTest, KeepsACreationAsOneEntryWhateverIsWrittenToTheNewFeature) {
+TEST_F(KORUndoLogTest, KeepsACreationAsOneEntryWhicheverAttributesAreWritten) {
     KORStep step(*document, "Create");
 
     const auto created = NewFeature("Created");
     created->SetDouble(length, 9.5, 0);
-    created->SetAlias("new");
     created->AppendComponent(others, feature.Get());
 
     ASSERT_EQ(1u, log.OpenEntries().size());
     EXPECT_EQ(created, log.OpenEntries()[0].feature);
     EXPECT_STREQ("Container", log.OpenEntries()[0].AttributeName());
+}
+
+TEST_F(KORUndoLogTest, KeepsTheAliasOfANewFeatureBesideItsCreation) {
+    KORVar<KORFeature> created;
+    {
+        KORStep step(*document, "Create");
+        created = NewFeature("Created");
+        created->SetAlias("new");
+
+        ASSERT_EQ(2u, log.OpenEntries().size());
+        EXPECT_STREQ("Container", log.OpenEntries()[0].AttributeName());
+        EXPECT_STREQ("Alias", log.OpenEntries()[1].AttributeName());
+        step.Commit();
+    }
+    document->Undo();
+    EXPECT_FALSE(created->LiesInContainer());
+    EXPECT_EQ(KORUnicodeString(), created->GetAlias());
+
+    document->Redo();
+    EXPECT_TRUE(created->LiesInContainer());
+    EXPECT_EQ(KORUnicodeString("new"), created->GetAlias());
 }
 
 TEST_F(KORUndoLogTest, UndoesTheRemovalOfAFeature) {
