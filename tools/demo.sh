@@ -37,6 +37,9 @@ run upgrade "$upgraded"
 # All materials in one document.
 run summary samples/*.json
 
+# What the checks find on a card with five faults; errors end the command with 1.
+run check samples/faulty/steel_five_faults.json || echo "(exit code $?)"
+
 # A quasi-isotropic laminate: created in a document, checked, drawn.
 run layup "[0/45/-45/90]s" --material "T300/5208" --thickness 0.125mm
 run layup samples/layups/quasi_isotropic_t300_5208.json --section composite --svg build/quasi_isotropic.svg

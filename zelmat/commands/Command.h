@@ -19,6 +19,7 @@ struct CommonOptions {
     std::string catalogs;        ///< folder of the feature catalogs
     std::string output;          ///< where the file goes that the command makes; empty: nowhere
     std::string color = "auto";  ///< "auto": on a terminal, unless NO_COLOR is set; "always"; "never"
+    bool strict = false;         ///< warnings count as errors for the exit code
     bool json = false;           ///< one JSON object on standard output, findings included
     bool csv = false;            ///< tables on standard output as CSV
     std::string units;           ///< of the numbers shown: "us", "stress=MPa,..."; empty: not said

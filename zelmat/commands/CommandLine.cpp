@@ -34,6 +34,7 @@ void Declare(CLI::App& line, const CommandKind& kind, CommonOptions& options, Co
         line.add_option("--units", options.units,
                         "Units of the numbers shown: si, mm-t-s, mm-kg-ms, us, stress=MPa,temperature=degC");
     }
+    line.add_flag("--strict", options.strict, "End with exit code 1 for warnings, too");
     line.add_option("--catalogs", options.catalogs, "Folder of the feature catalogs")->capture_default_str();
     line.add_option("--color", options.color,
                     "Colours: auto (on a terminal, unless NO_COLOR is set), always, never")
@@ -110,7 +111,8 @@ std::string ProgramHelp() {
     }
     help +=
         "\nzelmat help COMMAND tells more about one of them, zelmat --version the version.\n"
-        "Exit codes: 0 clean, 1 findings, 2 wrong command line, 3 could not read or write.\n"
+        "Exit codes: 0 clean or warnings alone, 1 errors (under --strict warnings, too),\n"
+        "2 wrong command line, 3 could not read or write.\n"
         "Findings go to standard error as file:line: error[code]: text (value, bound, hint).\n";
     return help;
 }

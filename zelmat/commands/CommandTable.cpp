@@ -8,6 +8,7 @@ namespace zelmat {
 #define ZELMAT_COMMANDS(COMMAND) \
     COMMAND(Show)                \
     COMMAND(Summary)             \
+    COMMAND(Check)               \
     COMMAND(Convert)             \
     COMMAND(New)                 \
     COMMAND(Upgrade)             \

@@ -21,13 +21,13 @@ namespace {
 
 using Arguments = std::vector<std::string>;
 
-ExitCode EndWith(const Findings& findings, const std::string& color) {
-    const bool colored = IsColored(STDERR_FILENO, color);
+ExitCode EndWith(const Findings& findings, const CommonOptions& options) {
+    const bool colored = IsColored(STDERR_FILENO, options.color);
     PrintFindings(std::cerr, findings, colored);
     if (findings.All().empty() && IsTerminal(STDERR_FILENO)) {
         std::cerr << (colored ? "\033[32mno findings\033[0m\n" : "no findings\n");
     }
-    return findings.Exit();
+    return findings.Exit(options.strict);
 }
 
 /// Hands everything printed so far to the system; false, and a finding, when that does not take it. Told
@@ -45,7 +45,7 @@ bool FlushOutput(Findings& findings) {
 ExitCode EndWithMistake(const Finding& mistake) {
     Findings findings;
     findings.Add(mistake);
-    return EndWith(findings, "auto");
+    return EndWith(findings, {});
 }
 
 void PrintJson(std::ostream& out, const Command& command, const Findings& findings) {
@@ -73,12 +73,12 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     std::ostream& out = taken ? std::cerr : std::cout;
     if (line.options.json) {
         PrintJson(out, *command, findings);
-        return FlushOutput(findings) ? findings.Exit() : EndWith(findings, line.options.color);
+        return FlushOutput(findings) ? findings.Exit(line.options.strict) : EndWith(findings, line.options);
     }
     command->Print(out);
     // Where both go to one terminal, the result stands before what was found.
     static_cast<void>(FlushOutput(findings));
-    return EndWith(findings, line.options.color);
+    return EndWith(findings, line.options);
 }
 
 /// `zelmat help`, `zelmat help COMMAND`

@@ -8,6 +8,7 @@
 #include "zelmat/commands/CsvReport.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/ShowReport.h"
+#include "zelmat/commands/WriteGate.h"
 
 namespace zelmat {
 
@@ -25,6 +26,7 @@ public:
         line.add_flag("--all-models", allFits_, "Store and show each hyperelastic fit in turn")
             ->excludes(model)
             ->excludes(variant);
+        gate_.Declare(line);
         line.add_flag("--trace", trace_, "Print each call of a material interface on standard error");
     }
 
@@ -39,10 +41,12 @@ public:
         if (!card_) return;
         const auto fits = FitsToShow(findings);
         material_ = StoredMaterial{.given = &*card_};
-        if (findings.HasErrors()) return;
+        if (findings.HasErrors() || !gate_.Passes(*card_, findings)) return;
+        Findings answers;  // apart from what the checks said
         MaterialHost host(context.options.catalogs);
-        material_ = StoreMaterial(host, *card_, fits, findings);
-        stored_ = !findings.HasErrors();
+        material_ = StoreMaterial(host, *card_, fits, answers);
+        stored_ = !answers.HasErrors();
+        findings.Add(answers);
     }
 
     void Print(std::ostream& out) const override {
@@ -74,6 +78,7 @@ private:
     std::string path_;
     FitChoice fit_;         // of several hyperelastic fits
     bool allFits_ = false;  // show each in turn
+    WriteGate gate_;
     bool trace_ = false;
     UnitChoice units_ = UnitChoice::Si();
     bool csv_ = false;
@@ -92,7 +97,8 @@ CommandKind ShowCommand() {
             "Print the properties on a material card as a document holds them.\n"
             "The card is checked, written into a document in memory, read back from there and\n"
             "printed behavior by behavior, each number with its unit. Nothing is kept on disk. A material\n"
-            "holds one hyperelastic fit: the one that is asked for, else the card's first.",
+            "holds one hyperelastic fit: the one that is asked for, else the card's first. A card on\n"
+            "which the checks find errors is not shown without --keep-going.",
         .units = true,
         .csv = true,
         .make = &MakeCommand<Show>};

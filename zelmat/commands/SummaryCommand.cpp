@@ -5,6 +5,7 @@
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/JsonReport.h"
+#include "zelmat/commands/WriteGate.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
@@ -56,6 +57,7 @@ class Summary final : public Command {
 public:
     void Declare(CLI::App& line) override {
         line.add_option("CARD.json", paths_, "Material cards, JSON files")->required();
+        gate_.Declare(line);
     }
 
     void Work(CommandContext& context) override {
@@ -76,18 +78,20 @@ public:
 private:
     void Add(MaterialHost& host, const std::string& path, Findings& findings) {
         for (Material& card : ReadGivenCards(path, findings)) {
-            Findings own;
+            Findings own;  // apart from what the checks said
+            if (!gate_.Passes(card, findings)) continue;
             cards_.push_back(std::move(card));
             const Block* fit = ChooseFit(cards_.back(), {}, own);
             auto material =
                 StoreMaterial(host, cards_.back(), fit ? std::vector{fit} : std::vector<const Block*>(), own);
             if (!own.HasErrors()) materials_.push_back(std::move(material));
-            for (const Finding& finding : own.All()) findings.Add(finding);
+            findings.Add(own);
         }
     }
 
     std::vector<std::string> paths_;
     UnitChoice units_ = UnitChoice::Si();
+    WriteGate gate_;
     std::deque<Material> cards_;  // does not move its elements, which the materials refer to
     std::deque<StoredMaterial> materials_;
 };
@@ -100,7 +104,7 @@ CommandKind SummaryCommand() {
             .text =
                 "Put the materials of several cards into one document in memory and print a line for each:\n"
                 "which behaviors are switched on with how many rows, and how many features the material\n"
-                "made.",
+                "made. A card on which the checks find errors is left out without --keep-going.",
             .units = true,
             .make = &MakeCommand<Summary>};
 }

@@ -43,6 +43,11 @@ const KnownForm* FormOf(const std::string& path) {
 
 }  // namespace
 
+std::optional<FileForm> FormOfFile(const std::string& path) {
+    const KnownForm* found = FormOf(path);
+    return found ? std::optional(found->form) : std::nullopt;
+}
+
 bool NameRightCommand(const std::string& path, FileForm expected, Findings& findings) {
     const KnownForm* found = FormOf(path);
     if (!found || found->form == expected) return false;

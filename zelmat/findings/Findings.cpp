@@ -33,6 +33,10 @@ std::string FindingLine(const Finding& finding) {
     return Printable(line);
 }
 
+void Findings::Add(const Findings& others) {
+    all_.insert(all_.end(), others.all_.begin(), others.all_.end());
+}
+
 void Findings::RemoveAbout(const std::string& file) {
     std::erase_if(all_, [&](const Finding& finding) { return finding.place.file == file; });
 }
@@ -50,12 +54,11 @@ bool Findings::HasErrors() const {
     });
 }
 
-ExitCode Findings::Exit() const {
+ExitCode Findings::Exit(bool strict) const {
     if (Holds(all_, FindingKind::UNREADABLE)) return EXIT_UNREADABLE;
     if (Holds(all_, FindingKind::USAGE)) return EXIT_USAGE;
-    const bool notesOnly = std::all_of(
-        all_.begin(), all_.end(), [](const Finding& finding) { return finding.kind == FindingKind::NOTE; });
-    return notesOnly ? EXIT_CLEAN : EXIT_FINDINGS;
+    const bool count = HasErrors() || (strict && Holds(all_, FindingKind::WARNING));
+    return count ? EXIT_FINDINGS : EXIT_CLEAN;
 }
 
 }  // namespace zelmat

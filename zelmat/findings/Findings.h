@@ -8,8 +8,8 @@ namespace zelmat {
 
 /// How the program ends.
 enum ExitCode : int {
-    EXIT_CLEAN = 0,
-    EXIT_FINDINGS = 1,    ///< the work is done or was refused; something was found on the way
+    EXIT_CLEAN = 0,       ///< nothing was found, or nothing but what was only worth saying
+    EXIT_FINDINGS = 1,    ///< there were errors; the work was refused, unless it was to go on
     EXIT_USAGE = 2,       ///< the command line asks for something that there is not
     EXIT_UNREADABLE = 3,  ///< something could not be read or written at all
 };
@@ -48,12 +48,14 @@ const char* KindWord(FindingKind kind);
 class Findings {
 public:
     void Add(Finding finding) { all_.push_back(std::move(finding)); }
+    void Add(const Findings& others);           ///< all of them
     void RemoveAbout(const std::string& file);  ///< those with a place in the file
 
     const std::vector<Finding>& All() const { return all_; }
     std::vector<Finding> ByLine() const;  ///< in the order of their lines; of one file
     bool HasErrors() const;               ///< anything worse than a warning
-    ExitCode Exit() const;                ///< the worst of them decides
+    /// The worst of them decides. Warnings alone are clean unless they are to count as errors.
+    ExitCode Exit(bool strict = false) const;
 
 private:
     std::vector<Finding> all_;

@@ -27,18 +27,21 @@ void AddBroken(const TableRule& rule, const std::string& tableName, const Table&
     const std::size_t looked = rule.everyRow ? table.Rows() : 1;
     const Outcome outcome = OutcomeOf(table);
     for (std::size_t row = 0; row < looked; ++row) {
-        const double value = column->values[row];
-        if (!rule.broken(value)) continue;
+        if (!rule.broken(column->values[row])) continue;
         findings.push_back({outcome.finding,
                             {file, table.origin.Line(row)},
                             rule.code,
-                            "row " + std::to_string(row + 1) + " of " + tableName + ": " +
-                                column->kind.title + " is " + WithUnit(value, column->kind.unit),
+                            RowText(tableName, *column, row),
                             {rule.bound, outcome.stored}});
     }
 }
 
 }  // namespace
+
+std::string RowText(const std::string& tableName, const Column& column, std::size_t row) {
+    return "row " + std::to_string(row + 1) + " of " + tableName + ": " + column.kind.title + " is " +
+           WithUnit(column.values[row], column.kind.unit);
+}
 
 std::vector<Finding> BrokenRules(const BlockKind& block, const Table& table, const std::string& file) {
     std::vector<Finding> findings;

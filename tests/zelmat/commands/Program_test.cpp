@@ -27,7 +27,7 @@ TEST(Program, NamesAnUnknownCommandWithTheNearest) {
               "zelmat: error[unknown-command]: there is no command \"shwo\" (did you mean show?)\n");
     EXPECT_THAT(
         RunZelmat({"frobnicate"}).err,
-        HasSubstr("there is no command \"frobnicate\" (known: show, summary, convert, new, upgrade, layup"));
+        HasSubstr("there is no command \"frobnicate\" (known: show, summary, check, convert, new, upgrade, layup"));
     EXPECT_EQ(RunZelmat({"help", "shwo"}).err, RunZelmat({"shwo"}).err);
 }
 
@@ -48,9 +48,9 @@ TEST(Program, ExplainsItselfWhenAsked) {
     const ProgramRun run = RunZelmat({"--help"});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.out, HasSubstr("\n  show     print the properties on a material card"));
-    EXPECT_THAT(
-        run.out,
-        HasSubstr("Exit codes: 0 clean, 1 findings, 2 wrong command line, 3 could not read or write."));
+    EXPECT_THAT(run.out,
+                HasSubstr("Exit codes: 0 clean or warnings alone, 1 errors (under --strict warnings, too),\n"
+                          "2 wrong command line, 3 could not read or write.\n"));
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(RunZelmat({"help"}).out, run.out);
 }

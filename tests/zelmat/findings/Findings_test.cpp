@@ -28,10 +28,12 @@ TEST(Findings, LeaveTheLineOutWhenTheWholeFileIsMeant) {
 TEST(Findings, DecideTheExitCodeByTheWorst) {
     Findings findings;
     EXPECT_EQ(findings.Exit(), 0);
+    EXPECT_EQ(findings.Exit(true), 0);
     EXPECT_FALSE(findings.HasErrors());
 
     findings.Add({FindingKind::WARNING, {"a", 1}, "w", "", {}});
-    EXPECT_EQ(findings.Exit(), 1);
+    EXPECT_EQ(findings.Exit(), 0);
+    EXPECT_EQ(findings.Exit(true), 1);
     EXPECT_FALSE(findings.HasErrors());
 
     findings.Add({FindingKind::ERROR, {"a", 1}, "e", "", {}});

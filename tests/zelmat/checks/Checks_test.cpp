@@ -1,0 +1,126 @@
+#include "zelmat/checks/Checks.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+
+#include "tests/zelmat/support/CardFile.h"
+
+namespace {
+
+using namespace zelmat;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<std::string> Checked(const std::string& text) {
+    const CardFile file(text);
+    Findings findings;
+    const auto material = JsonCardReader(findings).Read(file.Path());
+    EXPECT_TRUE(findings.All().empty()) << text;
+    std::vector<std::string> lines;
+    if (!material) return lines;
+    const Findings found = CheckMaterial(*material);
+    for (const Finding& finding : found.All()) lines.push_back(file.Shorten(FindingLine(finding)));
+    return lines;
+}
+
+TEST(Checks, FindAModulusInMPaAndADensityInTonnesPerCubicMillimetre) {
+    EXPECT_THAT(
+        Checked(R"({"name": "M",
+                    "elastic": {"temperature_dependent": false, "columns": ["youngs_modulus", "poissons_ratio"],
+                                "rows": [[210000, 0.3]]},
+                    "density": {"temperature_dependent": false, "columns": ["density"],
+                                "rows": [[7.85e-9]]}})"),
+        ElementsAre(
+            "card.json:3: warning[implausible-modulus]: row 1 of elastic: Young's modulus is 210000 Pa "
+            "(expected 5e+05 to 1.25e+12 Pa for any material, in MPa it would be plausible)",
+            "card.json:5: error[impossible-density]: row 1 of density: density is 7.85e-09 kg/m3 "
+            "(beyond 0.1 to 23000 kg/m3 there is no solid, in t/mm3 it would be plausible)"));
+}
+
+TEST(Checks, FindADensityInGramsPerCubicCentimetreByTheSpeedOfSound) {
+    EXPECT_THAT(
+        Checked(R"({"name": "M",
+                    "elastic": {"temperature_dependent": false, "columns": ["youngs_modulus", "poissons_ratio"],
+                                "rows": [[210e9, 0.3]]},
+                    "density": {"temperature_dependent": false, "columns": ["density"],
+                                "rows": [[7.85]]}})"),
+        ElementsAre("card.json:3: error[impossible-speed-of-sound]: the speed of sound sqrt(E/density) is "
+                    "163600 m/s for E 2.1e+11 Pa and density 7.85 kg/m3 (beyond 0.3 to 36100 m/s there is no "
+                    "solid)",
+                    "card.json:5: warning[implausible-density]: row 1 of density: density is 7.85 kg/m3 "
+                    "(expected 10 to 22700 kg/m3 for any material, in g/cm^3 it would be plausible)"));
+}
+
+TEST(Checks, HoldAMaterialAgainstTheBandOfItsClass) {
+    const std::string rest = R"("density": {"temperature_dependent": false, "columns": ["density"],
+                                            "rows": [[2500]]}})";
+    EXPECT_THAT(Checked(R"({"name": "M", "class": "foam", )" + rest),
+                ElementsAre("card.json:2: warning[implausible-density]: row 1 of density: density is 2500 "
+                            "kg/m3 (expected 10 to 1500 kg/m3 for a foam)"));
+    EXPECT_THAT(Checked(R"({"name": "M", "class": "concrete", )" + rest), IsEmpty());
+    EXPECT_THAT(Checked(R"({"name": "M", )" + rest), IsEmpty());
+}
+
+TEST(Checks, JudgeATableByItsRowsNearRoomTemperature) {
+    const auto conductivity = [](const std::string& rows) {
+        return R"({"name": "M", "class": "metal", "conductivity": {"temperature_dependent": true,
+                   "columns": ["conductivity", "temperature"], "rows": )" +
+               rows + "}}";
+    };
+    EXPECT_THAT(Checked(conductivity("[[1500, 20], [400, 293]]")), IsEmpty());
+    EXPECT_THAT(Checked(conductivity("[[1500, 20], [1400, 30]]")),
+                ElementsAre(testing::HasSubstr("row 2 of conductivity: conductivity is 1400 W/(m K)")));
+}
+
+TEST(Checks, FindATemperatureThatComesBackAndOneThatFalls) {
+    const auto hardening = [](const std::string& rows) {
+        return R"({"name": "M",
+                   "elastic": {"temperature_dependent": false, "columns": ["youngs_modulus", "poissons_ratio"],
+                               "rows": [[210e9, 0.3]]},
+                   "plastic": {"hardening": "isotropic", "temperature_dependent": true,
+                               "columns": ["yield_stress", "plastic_strain", "temperature"], "rows": )" +
+               rows + "}}";
+    };
+    EXPECT_THAT(
+        Checked(hardening("[[4e8, 0, 293], [3e8, 0, 400], [4e8, 0, 293]]")),
+        ElementsAre("card.json:5: error[scattered-curve]: row 3 of plastic: temperature is 293 K (the "
+                    "rows of one temperature have to stand together, the curve of this temperature "
+                    "has ended above)"));
+    EXPECT_THAT(Checked(hardening("[[3e8, 0, 400], [4e8, 0, 293], [5e8, 0.1, 293]]")),
+                ElementsAre("card.json:5: error[temperature-order]: row 2 of plastic: temperature is 293 K "
+                            "(has to be above the one before, the row before has 400 K)"));
+}
+
+TEST(Checks, LeaveModulusAndPoissonsRatioThatWereSwappedNoWayOut) {
+    EXPECT_THAT(
+        Checked(R"({"name": "M",
+                    "elastic": {"temperature_dependent": false, "columns": ["youngs_modulus", "poissons_ratio"],
+                                "rows": [[0.3, 210e9]]}})"),
+        ElementsAre(
+            testing::HasSubstr("error[poissons-ratio]: row 1 of elastic: Poisson's ratio is 2.1e+11"),
+            testing::HasSubstr("error[impossible-modulus]: row 1 of elastic: Young's modulus is 0.3")));
+}
+
+TEST(Checks, FindOnlyWhatTheSamplesSayOfThemselves) {
+    std::vector<std::string> found;
+    for (const auto& entry : std::filesystem::directory_iterator(ZELMAT_SAMPLES)) {
+        if (entry.path().extension() != ".json") continue;
+        Findings findings;
+        const auto material = JsonCardReader(findings).Read(entry.path());
+        ASSERT_TRUE(material) << entry.path();
+        const Findings checked = CheckMaterial(*material);
+        for (const Finding& finding : checked.All()) {
+            found.push_back(entry.path().filename().string() + ":" + std::to_string(finding.place.line) +
+                            ": " + KindWord(finding.kind) + " " + finding.code);
+        }
+    }
+    EXPECT_THAT(found, ElementsAre("gasket_fibre_illustrative.json:82: warning unloading-above-loading",
+                                   "gasket_fibre_illustrative.json:86: warning unloading-above-loading"));
+}
+
+TEST(Checks, SurviveAMaterialWithoutAnything) {
+    EXPECT_THAT(CheckMaterial({.file = "none", .name = {}}).All(), IsEmpty());
+}
+
+}  // namespace

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "zelmat/findings/Findings.h"
+#include "zelmat/materials/Material.h"
+
+namespace CLI {
+class App;
+}
+
+namespace zelmat {
+
+/// Stands before whatever a command writes of a material: it runs the checks, and errors stop the write
+/// unless the user wants it all the same.
+class WriteGate {
+public:
+    void Declare(CLI::App& line);  ///< --keep-going
+
+    /// Adds what the checks find. False: nothing of the material is to be written.
+    bool Passes(const Material& material, Findings& findings) const;
+
+private:
+    bool keepGoing_ = false;
+};
+
+}  // namespace zelmat
