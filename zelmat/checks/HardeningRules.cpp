@@ -10,11 +10,18 @@ constexpr const char* kJohnsonCook =
     "G. R. Johnson, W. H. Cook, Proc. 7th Int. Symp. on Ballistics, The Hague, 1983";
 constexpr const char* kPlasticity = "definition of the plastic strain: 0 at yield, never decreasing";
 
+/// A curve of engineering stress or total strain, which the block then says, does not begin at strain 0 and
+/// falls at necking: it is converted before it is stored.
+bool IsTrueOverPlastic(const Block& block) {
+    return block.values.Get<std::string>("stress").value_or("true") == "true" &&
+           block.values.Get<std::string>("strain").value_or("plastic") == "plastic";
+}
+
 /// Calls `visit` for each hardening curve; nothing for Johnson-Cook's constants.
 template <class Visit>
 void ForEachHardeningCurve(const Material& material, Visit visit) {
     const Block* block = material.Find("plastic");
-    if (!block) return;
+    if (!block || !IsTrueOverPlastic(*block)) return;
     for (const Table& table : block->tables) {
         const Column* stress = table.Find("yield_stress");
         const Column* strain = table.Find("plastic_strain");

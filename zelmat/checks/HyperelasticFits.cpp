@@ -1,8 +1,10 @@
 #include "zelmat/checks/HyperelasticFits.h"
 
 #include <cmath>
+#include <utility>
 
 #include "zelmat/mechanics/hyperelastic/HyperelasticModel.h"
+#include "zelmat/mechanics/hyperelastic/OgdenConvention.h"
 
 namespace zelmat {
 
@@ -25,6 +27,12 @@ std::optional<EnergyOutcome> EnergyOfRow(const Block& fit, const Table& table, s
         const Column* column = table.Find(name);
         if (!column || std::isnan(column->values[row])) return std::nullopt;
         coefficients.push_back(column->values[row]);
+    }
+    const auto convention = fit.values.Get<std::string>("ogden_convention");
+    const auto known = convention ? mechanics::OgdenConventionOf(*convention) : std::nullopt;
+    if (known && *model == mechanics::HyperelasticModel::OGDEN) {
+        coefficients = mechanics::ConvertOgden(std::move(coefficients), *known,
+                                               mechanics::OgdenConvention::TWO_MU_BY_ALPHA_SQUARED);
     }
     return mechanics::MakeStrainEnergy(*model, *order, coefficients);
 }

@@ -102,6 +102,19 @@ TEST(Checks, LeaveModulusAndPoissonsRatioThatWereSwappedNoWayOut) {
             testing::HasSubstr("error[impossible-modulus]: row 1 of elastic: Young's modulus is 0.3")));
 }
 
+TEST(Checks, TakeACurveOfTotalStrainForWhatItIs) {
+    const CardFile file(R"({"name": "M",
+        "plastic": {"hardening": "isotropic", "temperature_dependent": false,
+                    "columns": ["yield_stress", "plastic_strain", "temperature"],
+                    "rows": [[4e8, 0.002, 293], [3e8, 0.1, 293]]}})");
+    Findings findings;
+    auto material = JsonCardReader(findings).Read(file.Path());
+    ASSERT_TRUE(material);
+    EXPECT_TRUE(CheckMaterial(*material).HasErrors());
+    material->blocks[0].values.Set("strain", std::string("total"));
+    EXPECT_FALSE(CheckMaterial(*material).HasErrors());
+}
+
 TEST(Checks, FindOnlyWhatTheSamplesSayOfThemselves) {
     std::vector<std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator(ZELMAT_SAMPLES)) {
