@@ -1,11 +1,16 @@
 #include "zelmat/cards/ReadCard.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
+#include "zelmat/cards/CardFormKind.h"
+#include "zelmat/cards/CsvCardReader.h"
+#include "zelmat/cards/FcmatCardReader.h"
 #include "zelmat/cards/JsonCardReader.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/files/UnreadableFile.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -22,12 +27,42 @@ Tree JsonTree(std::string text, const std::string& path, Findings& findings) {
     return nullptr;
 }
 
+/// Of forms other than JSON; the lines of a text that no JSON allows are UTF-8 all the same.
+bool IsText(const std::string& text, const std::string& path, Findings& findings) {
+    const auto bad = FirstBadByte(text);
+    if (!bad) return true;
+    const auto line = 1 + std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(*bad), '\n');
+    findings.Add({FindingKind::UNREADABLE,
+                  {path, static_cast<int>(line)},
+                  "not-utf8",
+                  "the text is not UTF-8 from here",
+                  {"byte " + std::to_string(*bad + 1)}});
+    return false;
+}
+
+Tree TreeOf(std::string text, const std::string& path, const CardReading& how, Findings& findings) {
+    const CardFormKind form = CardFormOf(text);
+    if (form == CardFormKind::JSON) return JsonTree(std::move(text), path, findings);
+    if (!IsText(text, path, findings)) return nullptr;
+    switch (form) {
+        case CardFormKind::CSV:
+            return CsvCardReader(path, how, findings).Read(text);
+        case CardFormKind::FCMAT_INI:
+            return FcmatCardReader(path, findings).ReadIni(text);
+        case CardFormKind::FCMAT_YAML:
+            return FcmatCardReader(path, findings).ReadYaml(text);
+        case CardFormKind::JSON:
+            break;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
-std::vector<Material> ReadCards(const std::string& path, Findings& findings, const CardReading&) {
+std::vector<Material> ReadCards(const std::string& path, Findings& findings, const CardReading& how) {
     auto text = ReadText(path, findings);
     if (!text) return {};
-    const Tree tree = JsonTree(std::move(*text), ShownPath(path), findings);
+    const Tree tree = TreeOf(std::move(*text), ShownPath(path), how, findings);
     return tree ? JsonCardReader(tree, findings).Read() : std::vector<Material>();
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "zelmat/cards/CardJson.h"
+#include "zelmat/cards/CsvCardWriter.h"
+#include "zelmat/cards/FcmatCardWriter.h"
 
 namespace zelmat {
 
@@ -10,6 +12,12 @@ const std::vector<CardForm>& CardForms() {
     static const std::vector<CardForm> forms = {
         {"json", ".json", true,
          [](const std::vector<Material>& materials, Findings&) { return JsonCardText(materials); }},
+        {"csv", ".csv", true,
+         [](const std::vector<Material>& materials, Findings&) { return CsvCardText(materials); }},
+        {"fcmat", ".FCMat", false,
+         [](const std::vector<Material>& materials, Findings& findings) {
+             return FcmatCardText(materials.front(), findings);
+         }},
     };
     return forms;
 }

@@ -1,0 +1,55 @@
+#include "zelmat/cards/CardFormKind.h"
+
+#include <string>
+
+#include "zelmat/cards/CsvLine.h"
+#include "zelmat/cards/PropertyNames.h"
+#include "zelmat/cards/TableByColumns.h"
+#include "zelmat/cards/TextLines.h"
+#include "zelmat/quantities/PlainUnitText.h"
+
+namespace zelmat {
+
+namespace {
+
+bool IsUpper(char c) {
+    return c >= 'A' && c <= 'Z';
+}
+
+bool IsLower(char c) {
+    return c >= 'a' && c <= 'z';
+}
+
+/// Sections of an ini file: those of FCMat begin with a capital, ours never do.
+CardFormKind FormOfSection(std::string_view line) {
+    const char first = line.size() > 1 ? line[1] : ' ';
+    return IsUpper(first) ? CardFormKind::FCMAT_INI : IsLower(first) ? CardFormKind::CSV : CardFormKind::JSON;
+}
+
+bool IsCsvLine(std::string_view line) {
+    if (line.find('=') != std::string_view::npos) return true;
+    const auto cells = CsvCells(line, CsvSeparator(line));
+    if (!cells) return false;
+    if (cells->size() > 1) return true;
+    const ColumnHeader header = ReadColumnHeader(cells->front());
+    return header.hasUnit || FindTableByColumns({header.name}).has_value();
+}
+
+}  // namespace
+
+CardFormKind CardFormOf(std::string_view text) {
+    for (TextLines lines(text); lines.Next();) {
+        const std::string_view line = WithoutBlanksAround(lines.Line());
+        if (line.empty() || line.front() == '#') continue;
+        if (line.front() == ';') return CardFormKind::FCMAT_INI;
+        if (line.front() == '{') return CardFormKind::JSON;
+        if (line.front() == '[') return FormOfSection(line);
+        if (line == "---" || line == "General:" || line == "Models:" || line.starts_with("%YAML")) {
+            return CardFormKind::FCMAT_YAML;
+        }
+        return IsCsvLine(line) ? CardFormKind::CSV : CardFormKind::JSON;
+    }
+    return CardFormKind::JSON;
+}
+
+}  // namespace zelmat
