@@ -12,6 +12,7 @@ packages=(
     libcli11-dev
     libutfcpp-dev
     libudunits2-dev
+    libyaml-cpp-dev
     libeigen3-dev
     libceres-dev
     locales

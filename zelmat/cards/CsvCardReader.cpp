@@ -64,6 +64,7 @@ void CsvCardReader::ReadLine(std::string_view line) {
     if (cells.front() == '[' && cells.find(']') == cells.size() - 1) {
         return OpenSection(cells.substr(1, cells.size() - 2));
     }
+    if (lost_) return;
     if (rows_) return ReadRow(WithoutComment(line));
     separator_ = CsvSeparator(cells);
     if (how_.decimalComma && separator_ == ',' && cells.find(',') != std::string_view::npos) {
@@ -77,6 +78,7 @@ void CsvCardReader::ReadLine(std::string_view line) {
 void CsvCardReader::OpenSection(std::string_view name) {
     name = WithoutBlanksAround(name);
     rows_ = nullptr;
+    lost_ = false;
     if (name == kWhole) {
         block_.clear();
         table_.clear();
@@ -143,7 +145,7 @@ void CsvCardReader::OpenTable(const std::vector<std::string>& headers) {
 void CsvCardReader::FindSection(const std::vector<std::string>& names) {
     const auto found = FindTableByColumns(names);
     if (!found) {
-        rows_ = nullptr;
+        lost_ = true;
         return Report("unknown-table", "no table has the columns " + QuotedText(names.front()) + ", ...",
                       {"give the table a section, such as [elastic]"});
     }

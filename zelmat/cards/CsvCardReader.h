@@ -66,6 +66,7 @@ private:
     std::string table_;                ///< inside the block; empty: the block itself
     const BlockKind* kind_ = nullptr;  ///< of the block; null for one that the program does not know
     Json* rows_ = nullptr;             ///< null: no header yet
+    bool lost_ = false;                ///< the rows are of a table that there is not
     std::size_t columns_ = 0;
     bool list_ = false;  ///< the table is a plain list of numbers
     char separator_ = ',';
