@@ -126,7 +126,7 @@ int RunProgram(int argc, char** argv) noexcept {
         TakeClosedDescriptors();
         const ExitCode code = Run(Arguments(argv + (argc > 0 ? 1 : 0), argv + argc));
         Findings lost;
-        return FlushOutput(lost) ? code : EndWith(lost, "auto");
+        return FlushOutput(lost) ? code : EndWith(lost, CommonOptions{});
     } catch (const std::exception& problem) {
         std::cerr << "zelmat: error[failed]: " << problem.what() << '\n';
     }

@@ -6,6 +6,7 @@
 
 #include "tests/zelmat/checks/RuleSeeds.h"
 #include "tests/zelmat/support/CardFile.h"
+#include "zelmat/cards/ReadCard.h"
 #include "zelmat/checks/CheckRules.h"
 #include "zelmat/checks/Checks.h"
 
@@ -29,7 +30,7 @@ std::size_t CountOf(const RuleSeed& seed, const Material& material) {
 Material Read(const std::string& text) {
     const CardFile file(text);
     Findings findings;
-    auto material = JsonCardReader(findings).Read(file.Path());
+    auto material = ReadCard(file.Path(), findings);
     EXPECT_FALSE(findings.HasErrors()) << FindingLine(findings.All().front()) << text;
     return std::move(*material);
 }

@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "tests/zelmat/support/CardFile.h"
+#include "zelmat/cards/ReadCard.h"
 
 namespace {
 
@@ -15,7 +16,7 @@ using testing::IsEmpty;
 std::vector<std::string> Checked(const std::string& text) {
     const CardFile file(text);
     Findings findings;
-    const auto material = JsonCardReader(findings).Read(file.Path());
+    const auto material = ReadCard(file.Path(), findings);
     EXPECT_TRUE(findings.All().empty()) << text;
     std::vector<std::string> lines;
     if (!material) return lines;
@@ -108,7 +109,7 @@ TEST(Checks, TakeACurveOfTotalStrainForWhatItIs) {
                     "columns": ["yield_stress", "plastic_strain", "temperature"],
                     "rows": [[4e8, 0.002, 293], [3e8, 0.1, 293]]}})");
     Findings findings;
-    auto material = JsonCardReader(findings).Read(file.Path());
+    auto material = ReadCard(file.Path(), findings);
     ASSERT_TRUE(material);
     EXPECT_TRUE(CheckMaterial(*material).HasErrors());
     material->blocks[0].values.Set("strain", std::string("total"));
@@ -120,7 +121,7 @@ TEST(Checks, FindOnlyWhatTheSamplesSayOfThemselves) {
     for (const auto& entry : std::filesystem::directory_iterator(ZELMAT_SAMPLES)) {
         if (entry.path().extension() != ".json") continue;
         Findings findings;
-        const auto material = JsonCardReader(findings).Read(entry.path());
+        const auto material = ReadCard(entry.path(), findings);
         ASSERT_TRUE(material) << entry.path();
         const Findings checked = CheckMaterial(*material);
         for (const Finding& finding : checked.All()) {

@@ -253,7 +253,7 @@ TEST(NaturalRubber, IsStoredWithItsFirstFitAndSaysSo) {
               "      0.4095          1.3       0.003            5        0.01           -2           0  "
               "         0           0\n");
     EXPECT_THAT(run.err,
-                HasSubstr(":89: note[ogden-converted]: the coefficients of OGDEN were converted from "
+                HasSubstr(":90: note[ogden-converted]: the coefficients of OGDEN were converted from "
                           "mu/alpha to 2mu/alpha^2 (by its ogden_convention, mu times alpha/2 is "
                           "stored)\n"));
     EXPECT_THAT(run.out, HasSubstr("\n"
