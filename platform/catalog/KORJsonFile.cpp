@@ -66,7 +66,7 @@ public:
     bool boolean(bool value) final { return Self().Value(value); }
     bool number_integer(number_integer_t value) final { return Self().Value(value); }
     bool number_unsigned(number_unsigned_t value) final { return Self().Value(value); }
-    bool number_float(number_float_t value, const string_t&) final { return Self().Value(value); }
+    bool number_float(number_float_t value, const string_t& text) final { return Self().Real(value, text); }
     bool string(string_t& value) final { return Self().Value(std::move(value)); }
     bool binary(binary_t&) final { return false; }
     bool start_object(std::size_t) final { return Self().Open(json::value_t::object); }
@@ -77,6 +77,12 @@ public:
 private:
     Reader& Self() { return static_cast<Reader&>(*this); }
 };
+
+/// A number that is not 0 but was read as 0, because no double is that small: "1e-400".
+bool IsLost(double value, std::string_view text) {
+    const std::string_view digits = text.substr(0, text.find_first_of("eE"));
+    return value == 0.0 && digits.find_first_of("123456789") != std::string_view::npos;
+}
 
 /// Builds the values while they are read.
 class Builder final : public ValueReader<Builder> {
@@ -105,6 +111,11 @@ public:
     bool Value(Any&& value) {
         Next() = std::forward<Any>(value);
         return true;
+    }
+    bool Real(double value, const std::string& text) {
+        if (IsLost(value, text))
+            return Refuse("the number " + KORShownText(text) + " is too small for a double");
+        return Value(value);
     }
     bool Open(json::value_t kind) {
         if (open_.size() == KORJsonFile::kDeepest) {
@@ -161,6 +172,7 @@ public:
         Note();
         return true;
     }
+    bool Real(double, const std::string&) { return Value(0.0); }
     bool Open(json::value_t) {
         open_.push_back({&Note(), 0});
         return true;

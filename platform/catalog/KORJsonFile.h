@@ -14,8 +14,8 @@ std::string KORShownText(std::string_view text);
 
 /// A JSON text that can say on which line every one of its values stands, so that whoever reads it can say
 /// where a value makes no sense. UTF-8; a key given twice in one object is an error, and so are values nested
-/// deeper than kDeepest, NUL bytes, comments, and numbers that are none (NaN, Infinity) or too large for a
-/// double. It knows nothing of what the text means. Reading takes time and memory in proportion to the text.
+/// deeper than kDeepest, NUL bytes, comments, and numbers that are none (NaN, Infinity), too large
+/// for a double, or so small that they would become 0. It knows nothing of what the text means. Reading takes time and memory in proportion to the text.
 class KORJsonFile {
 public:
     static constexpr std::size_t kDeepest = 200;  ///< no reader here needs more than 10

@@ -7,6 +7,7 @@
 
 #include "zelmat/commands/CommandTable.h"
 #include "zelmat/text/NearestName.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -35,7 +36,8 @@ void Declare(CLI::App& line, const CommandKind& kind, CommonOptions& options, Co
                         "Units of the numbers shown: si, mm-t-s, mm-kg-ms, us, stress=MPa,temperature=degC");
     }
     line.add_flag("--strict", options.strict, "End with exit code 1 for warnings, too");
-    line.add_option("--catalogs", options.catalogs, "Folder of the feature catalogs")->capture_default_str();
+    line.add_option("--catalogs", options.catalogs, "Folder of the feature catalogs")
+        ->default_str(Printable(options.catalogs));
     line.add_option("--color", options.color,
                     "Colours: auto (on a terminal, unless NO_COLOR is set), always, never")
         ->check(CLI::IsMember({"auto", "always", "never"}))

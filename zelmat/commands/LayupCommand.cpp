@@ -11,6 +11,7 @@
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/LayupDrawing.h"
 #include "zelmat/layups/LayupHost.h"
+#include "zelmat/layups/PlyThickness.h"
 #include "zelmat/quantities/Measured.h"
 
 namespace zelmat {
@@ -35,9 +36,8 @@ std::optional<double> ReadThickness(const std::string& text, Findings& findings)
         ReportUsage(findings, "--thickness", "wrong-length", thickness.Error().text, {"as in 0.125mm"});
         return std::nullopt;
     }
-    if (!(*thickness > 0.0)) {
-        ReportUsage(findings, "--thickness", "out-of-range", "the thickness is " + text,
-                    {"expected more than 0"});
+    if (!IsPlyThickness(*thickness)) {
+        ReportUsage(findings, "--thickness", "out-of-range", "the thickness is " + text, {kPlyThicknesses});
         return std::nullopt;
     }
     return *thickness;

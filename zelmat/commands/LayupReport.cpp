@@ -5,6 +5,7 @@
 
 #include "zelmat/layups/Millimetres.h"
 #include "zelmat/materials/StatusText.h"
+#include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/UnitConversion.h"
 #include "zelmat/text/Printable.h"
@@ -54,11 +55,11 @@ std::string WhatTheSequenceIs(const StoredLayup& stored) {
 }
 
 void PrintHead(std::ostream& out, const LayupCard& card, const StoredLayup& stored, const Shown& length) {
-    out << card.name << '\n';
-    if (!card.description.empty()) out << card.description << '\n';
-    for (const std::string& source : card.sources) out << "source: " << source << '\n';
+    out << Printable(card.name) << '\n';
+    if (!card.description.empty()) out << Printable(card.description) << '\n';
+    for (const std::string& source : card.sources) out << "source: " << Printable(source) << '\n';
     out << '\n'
-        << stored.name << ": " << stored.LayerCount() << ", "
+        << Printable(stored.name) << ": " << stored.LayerCount() << ", "
         << length.Text(WithoutNoiseOfSums(stored.Thickness())) << " thick\n";
     if (stored.layers.empty()) return;
     out << WhatTheSequenceIs(stored) << ": " << stored.Notation() << "\n\n" << kConvention << '\n';
@@ -67,16 +68,22 @@ void PrintHead(std::ostream& out, const LayupCard& card, const StoredLayup& stor
 void PrintLayers(std::ostream& out, const StoredLayup& stored, const Shown& length, const Shown& angle) {
     if (stored.layers.empty()) return;
     const std::vector<double> z = stored.Interfaces();
-    const auto lengthText = [&](double metres) { return NumberText(length(WithoutNoiseOfSums(metres))); };
+    std::vector<double> thicknesses, angles, bottoms, tops;
+    for (std::size_t i = 0; i < stored.layers.size(); ++i) {
+        thicknesses.push_back(length(WithoutNoiseOfSums(stored.layers[i].thickness)));
+        angles.push_back(angle(stored.layers[i].angle));
+        bottoms.push_back(length(WithoutNoiseOfSums(z[i])));
+        tops.push_back(length(WithoutNoiseOfSums(z[i + 1])));
+    }
+    const auto thicknessTexts = NumberColumn(thicknesses), angleTexts = NumberColumn(angles);
+    const auto bottomTexts = NumberColumn(bottoms), topTexts = NumberColumn(tops);
     const std::string in = " [" + length.Unit() + "]";
     TablePrinter printer({"layer", "material", "thickness" + in, "angle [" + angle.Unit() + "]",
                           "z bottom" + in, "z top" + in});
     printer.SetLeft(1);
     for (std::size_t i = 0; i < stored.layers.size(); ++i) {
-        const StoredLayer& layer = stored.layers[i];
-        printer.AddRow({std::to_string(i + 1), Printable(layer.material.value_or(kNoMaterial)),
-                        lengthText(layer.thickness), NumberText(angle(layer.angle)), lengthText(z[i]),
-                        lengthText(z[i + 1])});
+        printer.AddRow({std::to_string(i + 1), stored.layers[i].material.value_or(kNoMaterial),
+                        thicknessTexts[i], angleTexts[i], bottomTexts[i], topTexts[i]});
     }
     printer.Print(out);
 }

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <exception>
@@ -14,6 +15,7 @@
 #include "zelmat/commands/FindingPrinter.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/Terminal.h"
+#include "zelmat/text/Printable.h"
 
 namespace zelmat {
 
@@ -42,23 +44,31 @@ bool FlushOutput(Findings& findings) {
     return false;
 }
 
-ExitCode EndWithMistake(const Finding& mistake) {
-    Findings findings;
-    findings.Add(mistake);
-    return EndWith(findings, {});
-}
-
-void PrintJson(std::ostream& out, const Command& command, const Findings& findings) {
-    nlohmann::ordered_json json = command.Json();
+void PrintJson(std::ostream& out, nlohmann::ordered_json json, const Findings& findings) {
     json["findings"] = ToJson(findings);
     // A path can hold bytes that are no UTF-8; JSON cannot.
-    out << json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+    out << PrintableJson(json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace)) << '\n';
+}
+
+/// Looked for by itself: a command line that is wrong has not been read.
+bool WantsJson(const Arguments& arguments) {
+    const auto end = std::find(arguments.begin(), arguments.end(), "--");
+    return std::find(arguments.begin(), end, "--json") != end;
+}
+
+ExitCode EndWithMistake(const Finding& mistake, bool json) {
+    Findings findings;
+    findings.Add(mistake);
+    if (!json) return EndWith(findings, {});
+    PrintJson(std::cout, nlohmann::ordered_json::object(), findings);
+    return findings.Exit();
 }
 
 ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     const auto command = kind.make();
+    const bool json = WantsJson(arguments);
     const CommandLine line = ReadCommandLine(kind, *command, std::move(arguments));
-    if (line.mistake) return EndWithMistake(*line.mistake);
+    if (line.mistake) return EndWithMistake(*line.mistake, json);
     if (line.help) {
         std::cout << *line.help;
         return EXIT_CLEAN;
@@ -72,7 +82,7 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     const bool taken = line.options.output == "-" || command->TakesStandardOutput();
     std::ostream& out = taken ? std::cerr : std::cout;
     if (line.options.json) {
-        PrintJson(out, *command, findings);
+        PrintJson(out, command->Json(), findings);
         return FlushOutput(findings) ? findings.Exit(line.options.strict) : EndWith(findings, line.options);
     }
     command->Print(out);
@@ -88,7 +98,7 @@ ExitCode Help(const Arguments& arguments) {
         return EXIT_CLEAN;
     }
     const CommandKind* kind = FindCommand(arguments.front());
-    if (!kind) return EndWithMistake(UnknownCommand(arguments.front()));
+    if (!kind) return EndWithMistake(UnknownCommand(arguments.front()), WantsJson(arguments));
     std::cout << CommandHelp(*kind);
     return EXIT_CLEAN;
 }
@@ -106,7 +116,8 @@ ExitCode Run(Arguments arguments) {
         return EXIT_CLEAN;
     }
     const CommandKind* kind = FindCommand(first);
-    return kind ? RunCommand(*kind, std::move(arguments)) : EndWithMistake(UnknownCommand(first));
+    if (!kind) return EndWithMistake(UnknownCommand(first), WantsJson(arguments));
+    return RunCommand(*kind, std::move(arguments));
 }
 
 /// Standard descriptors that are closed are taken, by what cannot be read or written: the first file that is
@@ -128,7 +139,7 @@ int RunProgram(int argc, char** argv) noexcept {
         Findings lost;
         return FlushOutput(lost) ? code : EndWith(lost, CommonOptions{});
     } catch (const std::exception& problem) {
-        std::cerr << "zelmat: error[failed]: " << problem.what() << '\n';
+        std::cerr << "zelmat: error[failed]: " << Printable(problem.what()) << '\n';
     }
     return EXIT_UNREADABLE;
 }

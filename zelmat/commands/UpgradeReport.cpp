@@ -5,6 +5,7 @@
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "zelmat/materials/StatusText.h"
 #include "zelmat/quantities/NumberText.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -17,7 +18,8 @@ constexpr const char* kPressure = "PRESSURE";
 /// A feature as the report names it: late type and number.
 std::string FeatureText(const UpgradeReport& report, std::uint32_t number) {
     const auto type = report.lateTypes.find(number);
-    return (type == report.lateTypes.end() ? "feature" : type->second) + " " + std::to_string(number);
+    return (type == report.lateTypes.end() ? "feature" : Printable(type->second)) + " " +
+           std::to_string(number);
 }
 
 /// "Container" is where a feature lies: one that was not there before has just been made.
@@ -47,8 +49,8 @@ std::vector<FeatureChanges> ByFeature(const UpgradeReport& report, const KORUpgr
 }
 
 void PrintConverted(std::ostream& out, const ConvertedCoefficients& converted) {
-    out << "  coefficients: " << converted.model << ", from " << converted.from << " to " << converted.to
-        << '\n';
+    out << "  coefficients: " << Printable(converted.model) << ", from " << converted.from << " to "
+        << converted.to << '\n';
     for (std::size_t row = 0; row < converted.rows.size(); ++row) {
         out << "    row " << row + 1 << ":\n";
         for (const auto& [name, before, after, factor] : converted.rows[row]) {
@@ -76,9 +78,10 @@ nlohmann::ordered_json ToJson(const ConvertedCoefficients& converted) {
 }
 
 void PrintMaterial(std::ostream& out, const UpgradeReport& report, const KORUpgradedFeature& material) {
-    out << '\n' << material.name.c_str() << '\n';
+    out << '\n' << Printable(material.name.c_str()) << '\n';
     for (const FeatureChanges& changed : ByFeature(report, material)) {
-        out << "  " << changed.lateType << ' ' << changed.feature << ": " << WordList(changed.what) << '\n';
+        out << "  " << Printable(changed.lateType) << ' ' << changed.feature << ": "
+            << Printable(WordList(changed.what)) << '\n';
     }
     const auto converted = report.converted.find(material.feature);
     if (converted != report.converted.end()) PrintConverted(out, converted->second);

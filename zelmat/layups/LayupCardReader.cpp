@@ -5,6 +5,8 @@
 #include <cmath>
 
 #include "zelmat/files/UnreadableFile.h"
+#include "zelmat/layups/PlyThickness.h"
+#include "zelmat/layups/StackingNotation.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/WordList.h"
 
@@ -126,13 +128,19 @@ std::optional<CardLayer> LayupCardReader::ReadLayer(const JsonNode& node, const 
     const auto thickness = node.Required("thickness");
     if (const auto value = thickness ? thickness->Number() : std::nullopt) {
         layer.thickness = *value;
-        if (!(*value > 0.0)) {
+        if (!IsPlyThickness(*value)) {
             thickness->Report("out-of-range", thickness->Path() + " is " + WithUnit(*value, "m"),
-                              {"expected more than 0 m"});
+                              {kPlyThicknesses});
         }
     }
     const auto angle = node.Required("angle_deg");
-    if (const auto value = angle ? angle->Number() : std::nullopt) layer.angle = *value;
+    if (const auto value = angle ? angle->Number() : std::nullopt) {
+        layer.angle = *value;
+        if (!(std::abs(*value) <= kLargestAngle)) {
+            angle->Report("out-of-range", angle->Path() + " is " + WithUnit(*value, "deg"),
+                          {"expected -360 deg to 360 deg"});
+        }
+    }
     return layer;
 }
 

@@ -21,13 +21,34 @@ bool ChangesTheLine(std::uint32_t point) {
            (point >= 0x2066 && point <= 0x2069) || point == 0x061c;
 }
 
+std::string Hexadecimal(const char* format, std::uint32_t point) {
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), format, point);
+    return text.data();
+}
+
 std::string Escape(std::uint32_t point) {
     if (point == '\n') return "\\n";
     if (point == '\r') return "\\r";
     if (point == '\t') return "\\t";
-    std::array<char, 8> text{};
-    std::snprintf(text.data(), text.size(), point < 0x100 ? "\\x%02x" : "\\u%04x", point);
-    return text.data();
+    return Hexadecimal(point < 0x100 ? "\\x%02x" : "\\u%04x", point);
+}
+
+/// UTF-8 with some of its characters written as escapes.
+template <class IsEscaped, class ToEscape>
+std::string Escaped(std::string_view text, IsEscaped isEscaped, ToEscape escape) {
+    std::string escaped;
+    escaped.reserve(text.size());
+    for (auto at = text.begin(); at != text.end();) {
+        const auto start = at;
+        const std::uint32_t point = utf8::unchecked::next(at);
+        if (isEscaped(point)) {
+            escaped += escape(point);
+        } else {
+            escaped.append(start, at);
+        }
+    }
+    return escaped;
 }
 
 }  // namespace
@@ -46,19 +67,19 @@ std::string ValidUtf8(std::string_view text) {
 }
 
 std::string Printable(std::string_view text) {
-    const std::string valid = ValidUtf8(text);
-    std::string printable;
-    printable.reserve(valid.size());
-    for (auto at = valid.begin(); at != valid.end();) {
-        const auto start = at;
-        const std::uint32_t point = utf8::unchecked::next(at);
-        if (IsControl(point) || ChangesTheLine(point)) {
-            printable += Escape(point);
-        } else {
-            printable.append(start, at);
-        }
-    }
-    return printable;
+    return Escaped(
+        ValidUtf8(text), [](std::uint32_t point) { return IsControl(point) || ChangesTheLine(point); },
+        Escape);
+}
+
+std::string PrintableJson(std::string_view json) {
+    constexpr std::uint32_t kFirstThatJsonLetsThrough = 0x7f;  // JSON escapes what is below ' ' by itself
+    return Escaped(
+        json,
+        [](std::uint32_t point) {
+            return point >= kFirstThatJsonLetsThrough && (IsControl(point) || ChangesTheLine(point));
+        },
+        [](std::uint32_t point) { return Hexadecimal("\\u%04x", point); });
 }
 
 }  // namespace zelmat

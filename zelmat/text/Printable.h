@@ -18,4 +18,8 @@ std::string ValidUtf8(std::string_view text);
 /// cursor, colour or forge a line. Bytes that are not UTF-8 become U+FFFD.
 std::string Printable(std::string_view text);
 
+/// A JSON text with those of these characters that JSON itself lets through written as its own escapes: the
+/// same values, and safe on a terminal. Line ends between values stay. The text is UTF-8.
+std::string PrintableJson(std::string_view json);
+
 }  // namespace zelmat

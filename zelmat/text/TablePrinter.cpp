@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "zelmat/text/Printable.h"
+
 namespace zelmat {
 
 std::size_t TextWidth(const std::string& text) {
@@ -9,6 +11,12 @@ std::size_t TextWidth(const std::string& text) {
     return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
         return (static_cast<unsigned char>(byte) & 0xC0u) != 0x80u;
     }));
+}
+
+void TablePrinter::AddRow(const std::vector<std::string>& cells) {
+    auto& row = rows_.emplace_back();
+    row.reserve(cells.size());
+    for (const std::string& cell : cells) row.push_back(Printable(cell));
 }
 
 void TablePrinter::PrintCells(std::ostream& out, const std::vector<std::string>& cells,

@@ -16,8 +16,8 @@ public:
 
     void SetLeft(std::size_t column) { left_[column] = true; }
 
-    /// As many cells as there are headers.
-    void AddRow(std::vector<std::string> cells) { rows_.push_back(std::move(cells)); }
+    /// As many cells as there are headers. They are shown as Printable shows them, wherever they come from.
+    void AddRow(const std::vector<std::string>& cells);
 
     void Print(std::ostream& out) const;
 

@@ -144,6 +144,18 @@ TEST(KORJsonFile, TakesMemoryInProportionToTheTextAlsoUnderALongKey) {
     EXPECT_LT(HeapBytes(), before + 20'000'000);
 }
 
+TEST(KORJsonFile, RefusesANumberThatWouldBecomeZero) {
+    KORFileError error;
+    for (const char* number : {"1e-400", "-1e-400", "0.0001e-330", "2e-324"}) {
+        EXPECT_FALSE(KORJsonFile::Parse(std::string("[0,\n") + number + "]", "card.json", error)) << number;
+        EXPECT_EQ(std::string("the number \"") + number + "\" is too small for a double", error.message);
+        EXPECT_EQ(2, error.line);
+    }
+    for (const char* number : {"0", "-0.0", "0.000e-400", "0e5", "5e-324", "3e-324"}) {
+        EXPECT_TRUE(KORJsonFile::Parse(std::string("[") + number + "]", "card.json", error)) << number;
+    }
+}
+
 TEST(KORJsonFile, ReadsAFileAndRefusesOneThatCannotBeRead) {
     const std::string folder = testing::TempDir();
     const std::string path = folder + "KORJsonFile_test_" + std::to_string(::getpid()) + ".json";

@@ -189,11 +189,11 @@ TEST(LayupCommand, NeedsTheUnitOfAThickness) {
         "--thickness: error[wrong-length]: length: '0.125' has no unit; expected m, mm, cm, µm, in, mil "
         "or ft (as in 0.125mm)\n");
 
-    for (const char* thickness : {"0mm", "-1mm"}) {
+    for (const char* thickness : {"0mm", "-1mm", "0.99nm", "10.1m", "125m"}) {
         const std::string option = std::string("--thickness=") + thickness;
         const ProgramRun other = RunZelmat({"layup", "[0]", "--material", "M", option});
         EXPECT_EQ(other.exitCode, 2) << thickness;
-        EXPECT_THAT(other.err, HasSubstr("(expected more than 0)")) << thickness;
+        EXPECT_THAT(other.err, HasSubstr("(expected 1 nm to 10 m)")) << thickness;
     }
 }
 

@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include <nlohmann/json.hpp>
+
 #include "tests/zelmat/support/Program.h"
 
 namespace {
@@ -42,6 +44,24 @@ TEST(Program, NamesAnUnknownOptionWithTheNearest) {
 TEST(Program, SaysWhatACommandLineLacksAndWhereToLook) {
     const ProgramRun run = RunZelmat({"show"});
     EXPECT_EQ(run.err, "zelmat show: error[usage]: CARD.json is required (see zelmat help show)\n");
+}
+
+TEST(Program, TellsAWrongCommandLineAsJsonWhereJsonIsWanted) {
+    const ProgramRun run = RunZelmat({"show", "--json", "--modle", "OGDEN"});
+
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err, "");
+    const auto told = nlohmann::json::parse(run.out)["findings"];
+    ASSERT_EQ(told.size(), 1u);
+    EXPECT_EQ(told[0]["code"], "unknown-option");
+    EXPECT_EQ(told[0]["text"], "there is no option \"--modle\"");
+    for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
+             {"show", "--json"}, {"shwo", "--json"}, {"--loud", "--json"}, {"help", "shwo", "--json"}}) {
+        const ProgramRun other = RunZelmat(arguments);
+        EXPECT_EQ(other.exitCode, 2);
+        EXPECT_EQ(other.err, "");
+        EXPECT_EQ(nlohmann::json::parse(other.out)["findings"].size(), 1u);
+    }
 }
 
 TEST(Program, ExplainsItselfWhenAsked) {

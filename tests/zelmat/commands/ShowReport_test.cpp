@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "tests/zelmat/support/CardFile.h"
+#include "tests/zelmat/support/CatalogFolder.h"
 #include "zelmat/commands/JsonReport.h"
 
 namespace {
@@ -135,14 +136,17 @@ TEST(ShowReport, SaysWhenTheValuesAreMadeUp) {
 
 TEST(ShowReport, PrintsTheSameAsJson) {
     const StoredCard stored(kTwoFits);
-    EXPECT_EQ(nlohmann::json(zelmat::ToJson(stored.material, zelmat::UnitChoice::Si())),
-              nlohmann::json::parse(R"json(
+    nlohmann::json told = zelmat::ToJson(stored.material, zelmat::UnitChoice::Si());
+    const auto off = told["switched_off"].get<std::vector<std::string>>();
+    EXPECT_THAT(off, testing::IsSupersetOf({"elastic", "plastic", "gasket_transverse_shear"}));
+    EXPECT_THAT(off, testing::Not(testing::Contains("hyperelastic")));
+    EXPECT_EQ(told["features"], FeaturesOfAMaterial() + 1) << "one for the row of coefficients";
+    told.erase("switched_off");
+    told.erase("features");
+    EXPECT_EQ(told, nlohmann::json::parse(R"json(
            {"name": "Rubber", "description": "", "class": "", "source": [], "notes": [], "illustrative": false,
             "heat_generation": false,
             "switched_on": ["hyperelastic"],
-            "switched_off": ["elastic", "plastic", "density", "thermal_expansion", "conductivity",
-                "specific_heat", "user_material", "gasket", "gasket_membrane", "gasket_transverse_shear"],
-            "features": 20,
             "behaviors": [{"name": "hyperelastic",
                 "values": {"model": {"value": "NEO_HOOKE"}, "order": {"value": 1}},
                 "tables": [{"table": "", "temperature_dependent": false,

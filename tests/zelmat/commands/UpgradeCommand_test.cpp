@@ -173,8 +173,9 @@ TEST_F(UpgradeCommand, SaysWhatHangsInThePlaceOfAMovedMaterial) {
 }
 
 TEST_F(UpgradeCommand, EndsWithThreeAndTheLineOfABrokenDocument) {
-    const ProgramRun run = Upgrade("{\n\"format\": 1,\n\"features\": [\n{\"id\": \"one\", \"type\": \"OtherLT\"}]}",
-                                   {"--output", newer_});
+    const ProgramRun run =
+        Upgrade("{\n\"format\": 1,\n\"features\": [\n{\"id\": \"one\", \"type\": \"OtherLT\"}]}",
+                {"--output", newer_});
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_EQ(run.out, "");
     EXPECT_THAT(run.err, StartsWith(older_ + ":4: error[broken-document]: "));

@@ -138,11 +138,25 @@ TEST(LayupCardReader, ReportsAMaterialThatTheCardDoesNotHave) {
 
 TEST(LayupCardReader, ReportsThicknessesThatAreNone) {
     EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 0, "angle_deg": 0})")),
-                ElementsAre("card.json:4: error[out-of-range]: layers[0].thickness is 0 m (expected more "
-                            "than 0 m)"));
+                ElementsAre("card.json:4: error[out-of-range]: layers[0].thickness is 0 m (expected 1 nm "
+                            "to 10 m)"));
     EXPECT_THAT(Mistakes(CardWith(",\n\"total_thickness\": 1", R"({"thickness": -0.001, "angle_deg": 0})")),
                 ElementsAre("card.json:4: error[out-of-range]: layers[0].thickness is -0.001 m (expected "
-                            "more than 0 m)"));
+                            "1 nm to 10 m)"));
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 10.5, "angle_deg": 0})")),
+                ElementsAre("card.json:4: error[out-of-range]: layers[0].thickness is 10.5 m (expected 1 nm "
+                            "to 10 m)"));
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 9e-10, "angle_deg": 0})")), testing::SizeIs(1));
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 1e-9, "angle_deg": 0})")), IsEmpty());
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 10, "angle_deg": 0})")), IsEmpty());
+}
+
+TEST(LayupCardReader, ReportsAnglesBeyondATurn) {
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 0.001, "angle_deg": -360.5})")),
+                ElementsAre("card.json:4: error[out-of-range]: layers[0].angle_deg is -360.5 deg (expected "
+                            "-360 deg to 360 deg)"));
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 0.001, "angle_deg": 360})")), IsEmpty());
+    EXPECT_THAT(Mistakes(CardWith("", R"({"thickness": 0.001, "angle_deg": -360})")), IsEmpty());
 }
 
 TEST(LayupCardReader, ReportsATotalThatTheLayersDoNotAddUpTo) {

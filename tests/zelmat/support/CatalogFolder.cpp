@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <nlohmann/json.hpp>
 
 namespace {
 
@@ -15,6 +17,20 @@ constexpr const char* kModuleCatalog = "ZELMaterialPropertiesCatalog.KORfct";
 
 std::string CatalogFolderOfTheModule() {
     return ZELMAT_CATALOGS;
+}
+
+std::size_t FeaturesOfAMaterial() {
+    constexpr std::size_t kOthers = 2 + 1 + 3 + 2;
+    std::ifstream file(CatalogFolderOfTheModule() + "/" + kModuleCatalog);
+    const auto catalog = nlohmann::json::parse(file);
+    const auto& types = catalog.at("types");
+    const auto material = std::find_if(types.begin(), types.end(),
+                                       [](const auto& type) { return type.at("name") == "ZELMaterialLT"; });
+    const auto& attributes = material->at("attributes");
+    const auto behaviors = std::count_if(attributes.begin(), attributes.end(), [](const auto& attribute) {
+        return attribute.at("kind") == "component" && !attribute.contains("role");
+    });
+    return static_cast<std::size_t>(behaviors) + kOthers;
 }
 
 CatalogFolder::CatalogFolder(const std::string& text, const std::string& replacement) {

@@ -33,6 +33,11 @@ TEST(Printable, ReplacesBytesThatAreNotUtf8) {
     EXPECT_EQ(ValidUtf8("surrogate \xed\xa0\x80."), "surrogate \uFFFD.");
 }
 
+TEST(Printable, EscapesInJsonOnlyWhatJsonLetsThrough) {
+    EXPECT_EQ(zelmat::PrintableJson("{\n  \"name\": \"\u202eSt\u00e4hl\u009b31m \x7f\"\n}"),
+              "{\n  \"name\": \"\\u202eSt\u00e4hl\\u009b31m \\u007f\"\n}");
+}
+
 TEST(Printable, SaysWhereATextStopsBeingUtf8) {
     EXPECT_EQ(FirstBadByte("Stähl"), std::nullopt);
     EXPECT_EQ(FirstBadByte("St\xe4hl"), 2u);
