@@ -47,6 +47,8 @@ CardFormKind CardFormOf(std::string_view text) {
         if (line == "---" || line == "General:" || line == "Models:" || line.starts_with("%YAML")) {
             return CardFormKind::FCMAT_YAML;
         }
+        constexpr std::size_t kLongestHeader = 65536;  // so that no byte salad takes long
+        if (line.size() > kLongestHeader) return CardFormKind::JSON;
         return IsCsvLine(line) ? CardFormKind::CSV : CardFormKind::JSON;
     }
     return CardFormKind::JSON;

@@ -58,7 +58,9 @@ void CsvCardReader::ReadLine(std::string_view line) {
     const std::string_view bare = WithoutBlanksAround(line);
     if (bare.empty() || bare.front() == '#') return;
     if (bare.find('\0') != std::string_view::npos) return Report("no-text", "the line holds a NUL byte");
-    if (const auto key = KeyOf(bare)) return ReadValue(*key, bare.substr(bare.find('=') + 1));
+    const auto key = KeyOf(bare);
+    if (lost_ && key) return;
+    if (key) return ReadValue(*key, bare.substr(bare.find('=') + 1));
     const std::string_view cells = WithoutBlanksAround(WithoutComment(bare));
     // A section, not a quoted or bracketed header: "[elastic]".
     if (cells.front() == '[' && cells.find(']') == cells.size() - 1) {
@@ -86,22 +88,21 @@ void CsvCardReader::OpenSection(std::string_view name) {
         if (materials_.empty() || !Material().empty()) OpenMaterial();
         return;
     }
+    Json& material = Material();
     const std::size_t dot = name.find('.');
     block_ = name.substr(0, dot);
     table_ = dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
     kind_ = FindBlockKind(block_);
     if (block_.empty() || (table_.empty() && dot != std::string_view::npos)) {
+        lost_ = true;
         return Report("unknown-section", "the section " + QuotedText(name) + " has no name");
     }
-    Json& material = Material();
     const bool alternatives = kind_ && kind_->alternatives;
     const Json& there = material[block_];
     const bool fits = there.is_null() || (alternatives ? there.is_array() : there.is_object());
     const bool again = fits && !alternatives && (table_.empty() ? !there.is_null() : there.contains(table_));
     if (!fits || again) {
-        kind_ = nullptr;
-        block_.clear();
-        table_.clear();
+        lost_ = true;
         return Report("repeated-section", "the section " + QuotedText(name) + " is there twice");
     }
     if (alternatives && (table_.empty() || there.is_null())) material[block_].push_back(Json::object());
@@ -119,7 +120,7 @@ void CsvCardReader::OpenTable(const std::vector<std::string>& headers) {
         std::vector<std::string> names;
         for (const std::string& header : headers) names.push_back(ReadColumnHeader(header).name);
         FindSection(names);
-        if (block_.empty()) return;
+        if (lost_) return;
     }
     columns_ = headers.size();
     const TableKind* table = kind_ ? kind_->FindTable(table_) : nullptr;
@@ -153,6 +154,10 @@ void CsvCardReader::FindSection(const std::vector<std::string>& names) {
     block_ = kind_->name;
     table_ = found->table->name;
     Json& material = Material();
+    if (material.contains(block_)) {
+        lost_ = true;
+        return Report("repeated-section", "there is a second table of " + block_);
+    }
     Json& section = Section();
     for (const Setting& setting : kind_->settings) {
         if (!material.contains(setting.name)) continue;

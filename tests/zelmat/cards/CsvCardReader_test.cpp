@@ -70,4 +70,16 @@ TEST(CsvCardReader, RefusesBytesThatAreNoText) {
                 ElementsAre("card.json:2: error[no-text]: the line holds a NUL byte"));
 }
 
+TEST(CsvCardReader, TellsASectionThatStandsInTheWayOfAnother) {
+    EXPECT_THAT(FindingsOf("[material]\ndensity = 5\n[density]\ndensity\n1\n"),
+                ElementsAre("card.json:3: error[repeated-section]: the section 'density' is there twice"));
+    EXPECT_THAT(
+        FindingsOf("[gasket]\nloading = 3\n[gasket.loading]\npressure\n1\n"),
+        ElementsAre("card.json:3: error[repeated-section]: the section 'gasket.loading' is there twice"));
+    EXPECT_THAT(FindingsOf("density = 5\ndensity,temperature\n1,2\n"),
+                ElementsAre("card.json:2: error[repeated-section]: there is a second table of density"));
+    EXPECT_FALSE(FindingsOf("[hyperelastic.x]\nyield = 1\n").empty());
+    EXPECT_FALSE(FindingsOf("[.]\na,b\n[a.]\n1\n").empty());
+}
+
 }  // namespace
