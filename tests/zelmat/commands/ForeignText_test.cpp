@@ -84,7 +84,7 @@ TEST(ForeignText, OfAMaterialCardIsShownAsText) {
     }
     const ProgramRun run = RunZelmat({"show", card.Path(), "--json"});
     ExpectHarmless(run);
-    EXPECT_EQ(json::parse(run.out)["name"], kEvil);
+    EXPECT_EQ(json::parse(run.out)["material"]["name"], kEvil);
 }
 
 TEST(ForeignText, OfALayupCardIsShownAsText) {

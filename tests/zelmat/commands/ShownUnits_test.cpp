@@ -52,7 +52,7 @@ TEST(ShownUnits, HoldForSummariesAndLayups) {
     EXPECT_THAT(text.out, HasSubstr("Layup-1: 2 layers, 0.01 in thick\n"));
     EXPECT_THAT(text.out,
                 HasSubstr("  layer  material  thickness [in]  angle [deg]  z bottom [in]  z top [in]\n"
-                          "      1  M                  0.005            0         -0.005           0\n"));
+                          "      1  M                  0.005            0         -0.005       0.000\n"));
     const ProgramRun card =
         RunZelmat({"layup", Sample("layups/kaw_0_30_m45.json"), "--units", "modulus=GPa"});
     EXPECT_THAT(card.out,
