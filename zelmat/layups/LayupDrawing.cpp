@@ -82,8 +82,8 @@ public:
     Drawing(const StoredLayup& layup, const std::string& title) : layup_(layup), title_(title) {
         const std::size_t count = layup.layers.size();
         every_ = std::max<std::size_t>(1, (count + kMostLabels - 1) / kMostLabels);
-        const double labels = static_cast<double>(count / every_ + 2) * kLabelStep;
-        height_ = std::max(kLeast, labels);
+        const std::size_t labels = count / every_ + 2;
+        height_ = std::max(kLeast, static_cast<double>(labels) * kLabelStep);
         z_ = layup.Interfaces();
         scale_ = layup.Thickness() > 0.0 ? height_ / layup.Thickness() : 0.0;
     }
