@@ -1,11 +1,12 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <filesystem>
-#include <iostream>
 #include <iterator>
 
 #include "zelmat/cards/WriteCard.h"
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/WrittenReport.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/ReadText.h"
 
@@ -53,11 +54,15 @@ public:
 
     void Print(std::ostream& out) const override {
         if (text_) out << *text_;
-        for (const std::string& path : written_) out << "written: " << path << '\n';
+        for (const WrittenFile& file : written_) PrintWritten(out, "written", file);
     }
 
     nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json = {{"form", form_}, {"text", nullptr}, {"written", written_}};
+        nlohmann::ordered_json json = {
+            {"form", form_}, {"text", nullptr}, {"written", nlohmann::ordered_json::array()}};
+        for (const WrittenFile& file : written_) {
+            AddWritten(json["written"].emplace_back(nlohmann::ordered_json::object()), "file", file);
+        }
         if (text_) json["text"] = *text_;
         return json;
     }
@@ -99,7 +104,9 @@ private:
     /// Two cards of one name must not end in one file.
     void WriteNew(const std::string& target, const std::string& text, const std::string& input,
                   Findings& findings) {
-        if (std::find(written_.begin(), written_.end(), target) == written_.end()) {
+        const bool isNew = std::none_of(written_.begin(), written_.end(),
+                                        [&](const WrittenFile& file) { return file.path == target; });
+        if (isNew) {
             Write(target, text, {input}, findings);
             return;
         }
@@ -112,18 +119,14 @@ private:
 
     void Write(const std::string& path, const std::string& text, const std::vector<std::string>& inputs,
                Findings& findings) {
-        if (path == "-") {
-            std::cout << text;
-        } else if (WriteOutputFile(path, text, inputs, findings)) {
-            written_.push_back(path);
-        }
+        if (auto file = WriteOutputFile(path, text, inputs, findings)) written_.push_back(std::move(*file));
     }
 
     std::vector<std::string> paths_;
     std::string form_;
     CardReading how_;
-    std::optional<std::string> text_;   // when it goes to no file
-    std::vector<std::string> written_;  // files
+    std::optional<std::string> text_;  // when it goes to no file
+    std::vector<WrittenFile> written_;
 };
 
 }  // namespace

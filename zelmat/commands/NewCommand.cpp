@@ -1,8 +1,9 @@
 #include <CLI/CLI.hpp>
-#include <iostream>
+#include <optional>
 
 #include "zelmat/cards/CardTemplate.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/WrittenReport.h"
 #include "zelmat/files/JsonText.h"
 #include "zelmat/files/OutputFile.h"
 
@@ -21,29 +22,25 @@ public:
         card_ = CardTemplate(name_);
         const std::string& output = context.options.output;
         if (output.empty()) return;
-        if (output == "-") {
-            std::cout << JsonText(card_);
-        } else if (WriteOutputFile(output, JsonText(card_), {output}, context.findings)) {
-            written_ = output;
-        }
+        written_ = WriteOutputFile(output, JsonText(card_), {output}, context.findings);
         shown_ = false;
     }
 
     void Print(std::ostream& out) const override {
         if (shown_) out << JsonText(card_);
-        if (!written_.empty()) out << "written: " << written_ << '\n';
+        if (written_) PrintWritten(out, "written", *written_);
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"card", card_}, {"written", nullptr}};
-        if (!written_.empty()) json["written"] = written_;
+        if (written_) AddWritten(json, "written", *written_);
         return json;
     }
 
 private:
     std::string name_;
     nlohmann::ordered_json card_;
-    std::string written_;  // path of the file
+    std::optional<WrittenFile> written_;
     bool shown_ = true;
 };
 

@@ -29,7 +29,8 @@ TEST(Program, NamesAnUnknownCommandWithTheNearest) {
               "zelmat: error[unknown-command]: there is no command \"shwo\" (did you mean show?)\n");
     EXPECT_THAT(
         RunZelmat({"frobnicate"}).err,
-        HasSubstr("there is no command \"frobnicate\" (known: show, summary, check, convert, new, upgrade, layup"));
+        HasSubstr(
+            "there is no command \"frobnicate\" (known: show, summary, check, convert, new, upgrade, layup"));
     EXPECT_EQ(RunZelmat({"help", "shwo"}).err, RunZelmat({"shwo"}).err);
 }
 
@@ -171,12 +172,28 @@ TEST(Program, SaysWhereItKeepsAnInputThatTheOutputReplaces) {
 
     const ProgramRun run = RunZelmat({"upgrade", file, "--output", file});
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_THAT(run.out, HasSubstr("\nwritten: " + file + "\nwhat was read is kept as: " + file + ".bak\n"));
+    EXPECT_THAT(run.out, HasSubstr("\nwritten: " + file + "\nwhat was there is kept as: " + file + ".bak\n"));
     EXPECT_EQ(std::filesystem::file_size(file + ".bak"),
               std::filesystem::file_size(Sample("older/copper_and_rubber.json")));
 
     const ProgramRun again = RunZelmat({"upgrade", file, "--output", file, "--json"});
     EXPECT_THAT(again.out, HasSubstr("\"backup\": \"" + file + ".bak.2\""));
+    for (const char* ending : {"", ".bak", ".bak.2"}) std::filesystem::remove(file + ending);
+}
+
+TEST(Program, SaysWhereConvertAndNewKeepWhatTheyReplace) {
+    const std::string file = testing::TempDir() + "zelmat-replaced-" + std::to_string(getpid());
+    std::filesystem::copy_file(Sample("copper_ofhc.json"), file);
+
+    const ProgramRun converted = RunZelmat({"convert", file, "--to", "csv", "--output", file});
+    EXPECT_EQ(converted.exitCode, 0);
+    EXPECT_EQ(converted.out, "\nwritten: " + file + "\nwhat was there is kept as: " + file + ".bak\n");
+    EXPECT_EQ(std::filesystem::file_size(file + ".bak"),
+              std::filesystem::file_size(Sample("copper_ofhc.json")));
+
+    const ProgramRun made = RunZelmat({"new", "--card", "Steel", "--output", file});
+    EXPECT_EQ(made.exitCode, 0);
+    EXPECT_THAT(made.out, HasSubstr("what was there is kept as: " + file + ".bak.2\n"));
     for (const char* ending : {"", ".bak", ".bak.2"}) std::filesystem::remove(file + ending);
 }
 
