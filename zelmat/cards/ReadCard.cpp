@@ -61,8 +61,12 @@ Tree TreeOf(std::string text, const std::string& path, const CardReading& how, F
 
 std::vector<Material> ReadCards(const std::string& path, Findings& findings, const CardReading& how) {
     auto text = ReadText(path, findings);
-    if (!text) return {};
-    const Tree tree = TreeOf(std::move(*text), ShownPath(path), how, findings);
+    return text ? ReadCardText(std::move(*text), ShownPath(path), findings, how) : std::vector<Material>();
+}
+
+std::vector<Material> ReadCardText(std::string text, const std::string& name, Findings& findings,
+                                   const CardReading& how) {
+    const Tree tree = TreeOf(std::move(text), name, how, findings);
     return tree ? JsonCardReader(tree, findings).Read() : std::vector<Material>();
 }
 

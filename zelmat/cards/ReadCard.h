@@ -19,6 +19,10 @@ struct CardReading {
 /// that have no mistake; findings tell what is wrong with the others, or with the file.
 std::vector<Material> ReadCards(const std::string& path, Findings& findings, const CardReading& how = {});
 
+/// The same of a text that was read already; `name` is what findings call its file.
+std::vector<Material> ReadCardText(std::string text, const std::string& name, Findings& findings,
+                                   const CardReading& how = {});
+
 /// The same where one material is wanted; a card with several is a finding.
 std::optional<Material> ReadCard(const std::string& path, Findings& findings);
 

@@ -35,7 +35,8 @@ Material ReadMaterial(KORISpecObject* feature, const std::string& file, const st
         if (!kind.read) continue;
         Block& block = material.blocks.emplace_back(Block{.kind = &kind, .enabled = false});
         const HRESULT status = kind.read(*behaviors, block);
-        if (SUCCEEDED(status)) continue;
+        // A material of an older release has no gasket at all: it is switched off like any other.
+        if (SUCCEEDED(status) || !block.enabled) continue;
         findings.Add({FindingKind::ERROR,
                       {file, 0},
                       "not-read",

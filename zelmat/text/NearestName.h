@@ -9,4 +9,10 @@ namespace zelmat {
 /// or swapped with their neighbour. Empty when none is near, which is within a third of the letters.
 std::string NearestName(const std::string& misspelt, const std::vector<std::string>& names);
 
+/// The names that somebody most likely meant who wrote only a part of one, or misspelt that: those in which
+/// the text, or something near it, begins at a word, the nearest first, capital letters or not. At most
+/// `most`; none when none is near.
+std::vector<std::string> NearestNames(const std::string& part, const std::vector<std::string>& names,
+                                      std::size_t most);
+
 }  // namespace zelmat

@@ -1,0 +1,72 @@
+#include "zelmat/commands/GivenMaterials.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <utility>
+
+#include "zelmat/commands/MaterialChoice.h"
+#include "zelmat/commands/TextDocumentMaterials.h"
+#include "zelmat/commands/WrongForm.h"
+#include "zelmat/files/ReadText.h"
+#include "zelmat/text/CountText.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+/// A layup card reads as a material card of unknown blocks.
+bool IsDoubtful(const std::vector<Material>& cards) {
+    return cards.empty() ||
+           std::any_of(cards.begin(), cards.end(), [](const Material& card) { return !card.kept.empty(); });
+}
+
+std::vector<std::string> NamesOf(const std::vector<Material>& materials) {
+    std::vector<std::string> names;
+    for (const Material& material : materials) names.push_back(material.name);
+    return names;
+}
+
+}  // namespace
+
+std::vector<Material> ReadGivenMaterials(const std::string& path, const CommonOptions& options,
+                                         Findings& findings, const CardReading& how) {
+    auto text = ReadText(path, findings);
+    if (!text) return {};
+    if (IsTextDocument(*text)) return ReadTextDocument(*text, ShownPath(path), options.catalogs, findings);
+    auto cards = ReadCardText(std::move(*text), ShownPath(path), findings, how);
+    if (IsDoubtful(cards) && NameRightCommand(path, FileForm::MATERIAL_CARD, findings)) return {};
+    return cards;
+}
+
+void GivenMaterials::Declare(CLI::App& line) {
+    line.add_option("CARD|DOC", path_, "Material card or document; - is standard input")->required();
+    line.add_option("MATERIAL", material_,
+                    "Which of its materials: its name, a beginning that no other has, or #number");
+}
+
+std::vector<Material> GivenMaterials::ReadAll(CommandContext& context) const {
+    auto materials = ReadGivenMaterials(path_, context.options, context.findings);
+    if (material_.empty() || context.findings.HasErrors()) return materials;
+    const auto chosen = ChooseMaterial(NamesOf(materials), material_, ShownPath(path_), context.findings);
+    std::vector<Material> one;
+    if (chosen) one.push_back(std::move(materials[*chosen]));
+    return one;
+}
+
+std::optional<Material> GivenMaterials::ReadOne(CommandContext& context) const {
+    auto materials = ReadAll(context);
+    if (context.findings.HasErrors()) return std::nullopt;
+    if (materials.size() == 1) return std::move(materials.front());
+    std::vector<std::string> details = {"name one of them"};
+    if (!materials.empty()) details.push_back("has: " + WordList(NamesOf(materials)));
+    context.findings.Add({FindingKind::USAGE,
+                          {ShownPath(path_), 0},
+                          materials.empty() ? "no-materials" : "several-materials",
+                          materials.empty() ? "there are no materials in it"
+                                            : "it holds " + CountText(materials.size(), "material"),
+                          materials.empty() ? std::vector<std::string>() : std::move(details)});
+    return std::nullopt;
+}
+
+}  // namespace zelmat

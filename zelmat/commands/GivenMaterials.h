@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "zelmat/cards/ReadCard.h"
+#include "zelmat/commands/Command.h"
+#include "zelmat/materials/Material.h"
+
+namespace zelmat {
+
+/// The materials in what a command was given: a card in any of its forms, a document, or "-" for a card or a
+/// document in its text form on standard input; told by the content. Of a card they are as the card gives
+/// them, with all that it says beyond the module's data, and numbers as they were written; ToStoredMeaning
+/// brings a block into the meaning that documents have. Of a document they are as read from it, in the same
+/// shape: behaviors that are switched off are left out, and the hyperelastic one is among the fits. The file
+/// stays as it is. None, or those without a mistake, and findings, when not all can be read.
+std::vector<Material> ReadGivenMaterials(const std::string& path, const CommonOptions& options,
+                                         Findings& findings, const CardReading& how = {});
+
+/// `CARD|DOC [MATERIAL]` on the command line of a command that works with one material, or with all.
+class GivenMaterials {
+public:
+    void Declare(CLI::App& line);
+
+    const std::string& Path() const { return path_; }
+
+    /// The one that MATERIAL names; all where it is left out.
+    std::vector<Material> ReadAll(CommandContext& context) const;
+
+    /// The one that MATERIAL names; where it is left out there has to be one alone. Nothing, and a finding,
+    /// when something cannot be read or it is not there.
+    std::optional<Material> ReadOne(CommandContext& context) const;
+
+private:
+    std::string path_;
+    std::string material_;  // empty: not said
+};
+
+}  // namespace zelmat
