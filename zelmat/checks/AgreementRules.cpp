@@ -3,7 +3,7 @@
 
 #include "zelmat/checks/CheckRules.h"
 #include "zelmat/checks/DerivedText.h"
-#include "zelmat/checks/OtherNumbers.h"
+#include "zelmat/properties/OtherNumbers.h"
 #include "zelmat/checks/RoomRows.h"
 #include "zelmat/checks/TableLooks.h"
 #include "zelmat/mechanics/elastic/IsotropicElasticity.h"

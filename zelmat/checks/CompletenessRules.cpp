@@ -1,8 +1,7 @@
 #include <algorithm>
-#include <array>
-#include <cctype>
 
 #include "zelmat/checks/CheckRules.h"
+#include "zelmat/properties/ExpansionProperty.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -35,20 +34,11 @@ void LookAtReference(const Material& material, CheckReport& report) {
     report.Add(expansion->origin.Line(), "thermal_expansion has no reference_temperature");
 }
 
-std::string LowerCase(std::string text) {
-    for (char& letter : text) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    return text;
-}
-
 void LookAtKind(const Material& material, CheckReport& report) {
     const Block* expansion = material.Find("thermal_expansion");
-    const auto kind = expansion ? expansion->values.Get<std::string>("kind") : std::nullopt;
-    if (!kind) return;
-    constexpr std::array<const char*, 4> kOther = {"instantaneous", "tangent", "differential", "true"};
-    const std::string text = LowerCase(*kind);
-    const bool other = std::any_of(kOther.begin(), kOther.end(),
-                                   [&](const char* word) { return text.find(word) != std::string::npos; });
-    if (other) report.Add(expansion->origin.Line(), "thermal_expansion is given as " + Quoted(*kind));
+    if (!expansion || !IsInstantaneous(*expansion)) return;
+    report.Add(expansion->origin.Line(),
+               "thermal_expansion is given as " + Quoted(*expansion->values.Get<std::string>("kind")));
 }
 
 }  // namespace

@@ -39,10 +39,8 @@ private:
     UnitConversion conversion_;
 };
 
-/// A constant of a ply; those in Pa are moduli.
 Shown ShownConstant(const std::string& name, const UnitChoice& units) {
-    const std::string unit = PlyConstantUnit(name);
-    return {unit == "Pa" ? *FindQuantity("modulus") : *FindQuantityStoredIn(unit), units};
+    return {*FindQuantity(PlyConstantQuantity(name)), units};
 }
 
 constexpr const char* kNoMaterial = "(none)";

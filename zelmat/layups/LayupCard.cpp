@@ -7,30 +7,46 @@ namespace zelmat {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, const char*>, 10> kConstants = {{
-    {"E1", "Pa"},
-    {"E2", "Pa"},
-    {"E3", "Pa"},
-    {"nu12", "-"},
-    {"nu13", "-"},
-    {"nu23", "-"},
-    {"G12", "Pa"},
-    {"G13", "Pa"},
-    {"G23", "Pa"},
-    {"density", "kg/m3"},
+struct PlyConstant {
+    const char* name;
+    const char* unit;
+    const char* quantity;
+};
+
+constexpr std::array<PlyConstant, 20> kConstants = {{
+    {"E1", "Pa", "modulus"},        {"E2", "Pa", "modulus"},         {"E3", "Pa", "modulus"},
+    {"nu12", "-", "number"},        {"nu13", "-", "number"},         {"nu23", "-", "number"},
+    {"G12", "Pa", "modulus"},       {"G13", "Pa", "modulus"},        {"G23", "Pa", "modulus"},
+    {"E", "Pa", "modulus"},  // of an isotropic ply
+    {"nu", "-", "number"},          {"density", "kg/m3", "density"}, {"alpha", "1/K", "expansion"},
+    {"alpha1", "1/K", "expansion"},                          // along the fibre
+    {"alpha2", "1/K", "expansion"}, {"Xt", "Pa", "stress"},  // strengths: along the fibre, across it, in
+                                                             // shear; tension and compression
+    {"Xc", "Pa", "stress"},         {"Yt", "Pa", "stress"},          {"Yc", "Pa", "stress"},
+    {"S", "Pa", "stress"},
 }};
+
+const PlyConstant* Find(const std::string& constant) {
+    const auto known = std::find_if(kConstants.begin(), kConstants.end(),
+                                    [&](const PlyConstant& entry) { return entry.name == constant; });
+    return known == kConstants.end() ? nullptr : &*known;
+}
 
 }  // namespace
 
 std::string PlyConstantUnit(const std::string& constant) {
-    const auto known = std::find_if(kConstants.begin(), kConstants.end(),
-                                    [&](const auto& entry) { return entry.first == constant; });
-    return known != kConstants.end() ? known->second : "";
+    const PlyConstant* known = Find(constant);
+    return known ? known->unit : "";
+}
+
+const char* PlyConstantQuantity(const std::string& constant) {
+    const PlyConstant* known = Find(constant);
+    return known ? known->quantity : nullptr;
 }
 
 std::vector<std::string> PlyConstants() {
     std::vector<std::string> names;
-    for (const auto& [name, unit] : kConstants) names.emplace_back(name);
+    for (const PlyConstant& constant : kConstants) names.emplace_back(constant.name);
     return names;
 }
 

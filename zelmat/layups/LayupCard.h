@@ -36,6 +36,8 @@ struct LayupCard {
 
 /// The unit of a ply material's constant; empty when there is no such constant.
 std::string PlyConstantUnit(const std::string& constant);
+/// The name of its quantity, as FindQuantity knows it; null when there is no such constant.
+const char* PlyConstantQuantity(const std::string& constant);
 std::vector<std::string> PlyConstants();  ///< all there are
 
 }  // namespace zelmat

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "zelmat/materials/OverTemperature.h"
 #include "zelmat/mechanics/plastic/StressStrain.h"
-#include "zelmat/mechanics/tables/TemperatureTable.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/CountText.h"
 
@@ -37,14 +37,7 @@ std::optional<double> YoungsModulus(const Material& material, double temperature
         why = "the material has no elastic block";
         return std::nullopt;
     }
-    const Table& table = elastic->tables.front();
-    const auto& moduli = table.columns.front().values;
-    if (!table.temperatureDependent) return moduli.front();
-    std::vector<mechanics::TemperatureTable::Row> rows;
-    for (std::size_t row = 0; row < table.Rows(); ++row) {
-        rows.push_back({table.Find(kTemperature)->values[row], {moduli[row]}});
-    }
-    const auto over = mechanics::TemperatureTable::Over(std::move(rows));
+    const auto over = OverTemperature(elastic->tables.front());
     const auto value = over.Ok() ? over->At(temperature, mechanics::OutsidePolicy::REFUSE)
                                  : mechanics::Outcome<mechanics::TableValue>(over.Refused());
     if (value.Ok()) return value->values.front();

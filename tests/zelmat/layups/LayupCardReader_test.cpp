@@ -170,13 +170,16 @@ TEST(LayupCardReader, ReportsATotalThatTheLayersDoNotAddUpTo) {
 }
 
 TEST(LayupCardReader, ReportsConstantsThatAreNone) {
-    EXPECT_THAT(Mistakes("{\"name\": \"x\", \"layers\": [],\n\"ply_materials\": {\"M\":\n{\"E1\": \"big\", "
-                         "\"e2\": 1, \"source\": 5}}}"),
-                ElementsAre("card.json:3: error[not-a-number]: ply_materials.M.E1 is not a number (got "
-                            "\"big\", expected a number without quotes)",
-                            "card.json:3: error[wrong-type]: ply_materials.M.source is not a text (got 5)",
-                            "card.json:3: error[unknown-key]: ply_materials.M has no key \"e2\" (known: E1, "
-                            "E2, E3, nu12, nu13, nu23, G12, G13, G23, density, source)"));
+    EXPECT_THAT(
+        Mistakes("{\"name\": \"x\", \"layers\": [],\n\"ply_materials\": {\"M\":\n{\"E1\": \"big\", "
+                 "\"e2\": 1, \"source\": 5}}}"),
+        ElementsAre(
+            "card.json:3: error[not-a-number]: ply_materials.M.E1 is not a number (got "
+            "\"big\", expected a number without quotes)",
+            "card.json:3: error[wrong-type]: ply_materials.M.source is not a text (got 5)",
+            "card.json:3: error[unknown-key]: ply_materials.M has no key \"e2\" (known: E1, "
+            "E2, E3, nu12, nu13, nu23, G12, G13, G23, E, nu, density, alpha, alpha1, alpha2, Xt, Xc, Yt, "
+            "Yc, S, source)"));
     EXPECT_THAT(Mistakes("{\"name\": \"x\", \"layers\": [], \"ply_materials\": []}"),
                 ElementsAre("card.json:1: error[wrong-type]: ply_materials is not an object in braces (got "
                             "[])"));

@@ -1,4 +1,4 @@
-#include "zelmat/checks/OtherNumbers.h"
+#include "zelmat/properties/OtherNumbers.h"
 
 #include <algorithm>
 #include <cctype>
@@ -51,6 +51,11 @@ std::optional<double> Search(const std::vector<KeptValue>& kept, const std::vect
 }
 
 }  // namespace
+
+std::optional<double> OtherNumber(const std::vector<KeptValue>& kept, const std::vector<std::string>& names,
+                                  const char* quantityName) {
+    return Search(kept, names, *FindQuantity(quantityName));
+}
 
 std::optional<double> OtherNumber(const Material& material, const std::vector<std::string>& names,
                                   const char* quantityName) {

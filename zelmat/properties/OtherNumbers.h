@@ -15,4 +15,8 @@ namespace zelmat {
 std::optional<double> OtherNumber(const Material& material, const std::vector<std::string>& names,
                                   const char* quantity);
 
+/// The same among what one block keeps.
+std::optional<double> OtherNumber(const std::vector<KeptValue>& kept, const std::vector<std::string>& names,
+                                  const char* quantity);
+
 }  // namespace zelmat

@@ -1,0 +1,140 @@
+#include "zelmat/properties/LaminateProperty.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "zelmat/materials/OverTemperature.h"
+#include "zelmat/mechanics/elastic/IsotropicElasticity.h"
+#include "zelmat/mechanics/elastic/OrthotropicPly.h"
+#include "zelmat/properties/OtherNumbers.h"
+#include "zelmat/text/QuotedText.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+using mechanics::ElasticConstant;
+using mechanics::OrthotropicPly;
+using mechanics::Outcome;
+using mechanics::PlyStrength;
+using mechanics::Refusal;
+
+std::optional<double> Find(const NamedConstants& constants, const char* name) {
+    const auto found = std::find_if(constants.begin(), constants.end(),
+                                    [&](const auto& constant) { return constant.first == name; });
+    return found == constants.end() ? std::nullopt : std::optional(found->second);
+}
+
+/// Those of the names that there are not.
+std::string Missing(const NamedConstants& constants, const std::vector<const char*>& names) {
+    std::vector<std::string> missing;
+    for (const char* name : names) {
+        if (!Find(constants, name)) missing.emplace_back(name);
+    }
+    return WordList(missing);
+}
+
+Outcome<OrthotropicPly> ElasticityOf(const NamedConstants& constants) {
+    const auto young = Find(constants, "E"), ratio = Find(constants, "nu");
+    if (young && ratio && !Find(constants, "E1")) {
+        const auto isotropic = mechanics::IsotropicFrom({ElasticConstant::YOUNGS_MODULUS, *young},
+                                                        {ElasticConstant::POISSONS_RATIO, *ratio});
+        if (!isotropic.Ok()) return isotropic.Refused();
+        return mechanics::IsotropicPly(*isotropic);
+    }
+    const std::string missing = Missing(constants, {"E1", "E2", "nu12", "G12"});
+    if (!missing.empty()) return Refusal{"it has no " + missing + " (or E and nu of an isotropic one)"};
+    return OrthotropicPly{.e1 = *Find(constants, "E1"),
+                          .e2 = *Find(constants, "E2"),
+                          .nu12 = *Find(constants, "nu12"),
+                          .g12 = *Find(constants, "G12")};
+}
+
+Outcome<std::optional<PlyStrength>> StrengthOf(const NamedConstants& constants) {
+    const std::vector<const char*> names = {"Xt", "Xc", "Yt", "Yc", "S"};
+    const bool any =
+        std::any_of(names.begin(), names.end(), [&](const char* name) { return Find(constants, name); });
+    if (!any) return std::optional<PlyStrength>();
+    const std::string missing = Missing(constants, names);
+    if (!missing.empty()) return Refusal{"of its strengths " + missing + " is missing"};
+    return std::optional(PlyStrength{.xt = *Find(constants, "Xt"),
+                                     .xc = *Find(constants, "Xc"),
+                                     .yt = *Find(constants, "Yt"),
+                                     .yc = *Find(constants, "Yc"),
+                                     .s = *Find(constants, "S"),
+                                     .f12 = {}});
+}
+
+/// The columns of a block that does not depend on temperature; nothing otherwise.
+std::optional<std::vector<double>> ConstantRow(const Material& material, const char* name) {
+    const Block* block = material.Find(name);
+    if (!block || !block->enabled || block->tables.empty()) return std::nullopt;
+    const auto table = OverTemperature(block->tables.front());
+    if (!table.Ok() || table->Range()) return std::nullopt;
+    return table->Rows().front().values;
+}
+
+void AddIsotropic(const Material& material, NamedConstants& constants) {
+    const auto elastic = ConstantRow(material, "elastic");
+    if (elastic && elastic->size() == 2 && !Find(constants, "E1")) {
+        constants.emplace_back("E", elastic->at(0));
+        constants.emplace_back("nu", elastic->at(1));
+    }
+    const auto expansion = ConstantRow(material, "thermal_expansion");
+    if (expansion && !Find(constants, "alpha1")) constants.emplace_back("alpha", expansion->front());
+    const auto density = ConstantRow(material, "density");
+    if (density && !Find(constants, "density")) constants.emplace_back("density", density->front());
+}
+
+}  // namespace
+
+Outcome<mechanics::PlyMaterial> PlyMaterialOf(const NamedConstants& constants) {
+    const auto elastic = ElasticityOf(constants);
+    if (!elastic.Ok()) return elastic.Refused();
+    if (const auto fault = mechanics::UnstablePly(*elastic)) return *fault;
+    const auto strength = StrengthOf(constants);
+    if (!strength.Ok()) return strength.Refused();
+    const double alpha = Find(constants, "alpha").value_or(0.0);
+    return mechanics::PlyMaterial{.elastic = *elastic,
+                                  .alpha1 = Find(constants, "alpha1").value_or(alpha),
+                                  .alpha2 = Find(constants, "alpha2").value_or(alpha),
+                                  .density = Find(constants, "density"),
+                                  .strength = *strength};
+}
+
+NamedConstants PlyConstantsOf(const Material& material) {
+    NamedConstants constants;
+    for (const std::string& name : PlyConstants()) {
+        const auto number = OtherNumber(material, {name}, PlyConstantQuantity(name));
+        if (number) constants.emplace_back(name, *number);
+    }
+    AddIsotropic(material, constants);
+    return constants;
+}
+
+Outcome<mechanics::Laminate> LaminateOf(const LayupCard& layup) {
+    mechanics::Laminate laminate;
+    std::vector<const PlyMaterial*> used;  // in the order of the laminate's materials
+    for (std::size_t at = 0; at < layup.layers.size(); ++at) {
+        const CardLayer& layer = layup.layers[at];
+        const auto given = std::find_if(layup.materials.begin(), layup.materials.end(),
+                                        [&](const PlyMaterial& each) { return each.name == layer.material; });
+        if (given == layup.materials.end()) {
+            return Refusal{"layer " + std::to_string(at + 1) + " has no material"};
+        }
+        const auto known = std::find(used.begin(), used.end(), &*given);
+        const auto index = static_cast<std::size_t>(known - used.begin());
+        if (known == used.end()) {
+            const auto ply = PlyMaterialOf(given->constants);
+            if (!ply.Ok()) return Refusal{"ply material " + QuotedText(given->name) + ": " + ply.Why()};
+            laminate.materials.push_back(*ply);
+            used.push_back(&*given);
+        }
+        laminate.layers.push_back({.material = index, .thickness = layer.thickness, .angle = layer.angle});
+    }
+    if (const auto fault = mechanics::LaminateFault(laminate)) return *fault;
+    return laminate;
+}
+
+}  // namespace zelmat
