@@ -16,6 +16,7 @@ packages=(
     libeigen3-dev
     libceres-dev
     locales
+    libxml2-utils
 )
 
 for extra in "$@"; do

@@ -23,4 +23,9 @@ std::optional<UnitChoice> ChosenUnits(const CommonOptions& options, Findings& fi
     return std::nullopt;
 }
 
+std::optional<UnitChoice> DrawnUnits(CommonOptions options, Findings& findings) {
+    options.json = options.csv = false;
+    return ChosenUnits(options, findings);
+}
+
 }  // namespace zelmat

@@ -13,4 +13,7 @@ namespace zelmat {
 /// cannot be understood.
 std::optional<UnitChoice> ChosenUnits(const CommonOptions& options, Findings& findings);
 
+/// The units of what is drawn, which is for readers whatever else a command prints.
+std::optional<UnitChoice> DrawnUnits(CommonOptions options, Findings& findings);
+
 }  // namespace zelmat

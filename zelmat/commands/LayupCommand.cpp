@@ -3,6 +3,7 @@
 #include <cctype>
 #include <filesystem>
 
+#include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/LayupReport.h"
 #include "zelmat/commands/WrittenReport.h"
@@ -65,7 +66,10 @@ public:
         if (!stored_) return;
         ReportValidity(*card_, *stored_, findings);
         if (!drawing_.empty()) {
-            drawn_ = WriteOutputFile(drawing_, LayupDrawing(*stored_, card_->name), {card_->file}, findings);
+            const auto units = DrawnUnits(context.options, findings);
+            if (!units) return;
+            drawn_ =
+                WriteOutputFile(drawing_, LayupDrawing(*stored_, Picture(*units)), {card_->file}, findings);
         }
     }
 
@@ -148,6 +152,14 @@ private:
                           {}});
         }
         return stored;
+    }
+
+    LayupPicture Picture(const UnitChoice& units) const {
+        LayupPicture picture{.title = card_->name, .isotropic = {}, .units = units};
+        for (const PlyMaterial& material : card_->materials) {
+            if (material.IsIsotropic()) picture.isotropic.insert(material.name);
+        }
+        return picture;
     }
 
     std::string layup_;      // a stacking notation, or the path of a card

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace zelmat {
 
@@ -33,6 +34,22 @@ const PlyConstant* Find(const std::string& constant) {
 }
 
 }  // namespace
+
+std::optional<double> PlyMaterial::Constant(const std::string& constant) const {
+    const auto given = std::find_if(constants.begin(), constants.end(),
+                                    [&](const auto& entry) { return entry.first == constant; });
+    return given != constants.end() ? std::optional(given->second) : std::nullopt;
+}
+
+bool PlyMaterial::IsIsotropic() const {
+    const auto e1 = Constant("E1"), nu12 = Constant("nu12");
+    if (!e1 || !nu12) return false;
+    const auto agrees = [](std::optional<double> given, double isotropic) {
+        constexpr double kRounding = 0.01;
+        return !given || std::abs(*given - isotropic) <= kRounding * std::abs(isotropic);
+    };
+    return agrees(Constant("E2"), *e1) && agrees(Constant("G12"), *e1 / (2.0 * (1.0 + *nu12)));
+}
 
 std::string PlyConstantUnit(const std::string& constant) {
     const PlyConstant* known = Find(constant);

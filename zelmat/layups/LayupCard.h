@@ -13,6 +13,13 @@ struct PlyMaterial {
     std::string name;
     std::vector<std::pair<std::string, double>> constants;  ///< "E1", "nu12", ... as on the card
     std::string source;
+
+    /// The constant of that name; nothing when the card does not give it.
+    std::optional<double> Constant(const std::string& constant) const;
+
+    /// Whether it has no direction: E1 and nu12 are given, and E2 and G12, if they are, agree with them (G =
+    /// E/(2(1+nu)), to one part in a hundred, as rounded values do).
+    bool IsIsotropic() const;
 };
 
 /// One layer of a card.

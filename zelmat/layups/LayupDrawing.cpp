@@ -2,226 +2,341 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
-#include <sstream>
+#include <limits>
 
+#include "zelmat/layups/LayupLegend.h"
 #include "zelmat/layups/Millimetres.h"
+#include "zelmat/layups/StackPlan.h"
+#include "zelmat/layups/SvgSheet.h"
+#include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
+#include "zelmat/quantities/UnitConversion.h"
+#include "zelmat/text/CountText.h"
+#include "zelmat/text/Printable.h"
+#include "zelmat/text/WrappedText.h"
 
 namespace zelmat {
 
 namespace {
 
 // Pixels.
-constexpr double kTop = 60.0;
-constexpr double kStackLeft = 150.0;
-constexpr double kStackWidth = 260.0;
+constexpr double kMargin = 20.0;
+constexpr double kWidth = 980.0;
+constexpr double kNumbersRight = 160.0;  ///< where the z of the interfaces end
+constexpr double kAxis = 170.0;          ///< the axis z
+constexpr double kStackLeft = 232.0;
+constexpr double kStackWidth = 250.0;
 constexpr double kStackRight = kStackLeft + kStackWidth;
-constexpr double kWidth = 760.0;
-constexpr double kLabelStep = 15.0;  ///< between two labels that stand close
-constexpr double kLeast = 300.0;     ///< height of a stack
-constexpr std::size_t kMostLabels = 200;
+constexpr double kLegendLeft = 745.0;
+constexpr double kFont = 12.0;
+constexpr double kLine = 16.0;  ///< from one line of text to the next
 
-constexpr const char* kColors[] = {"#cfe3f5", "#f6e2c3", "#d8eccb", "#f3d0d7", "#e0d5f0", "#d5e8e6"};
+constexpr const char* kGrey = "fill=\"#555\"";
+constexpr const char* kHatching = "stroke=\"#333\" stroke-width=\"1\" fill=\"none\"";
+constexpr const char* kEdge = "stroke=\"#222\" stroke-width=\"1.2\"";
 
-/// To a hundredth of a pixel.
-std::string Px(double value) {
-    constexpr double kSteps = 100.0;
-    const double rounded = std::round(value * kSteps) / kSteps;
-    return NumberText(rounded == 0.0 ? 0.0 : rounded);
-}
-
-std::string Escaped(const std::string& text) {
-    std::string escaped;
-    for (const char symbol : text) {
-        switch (symbol) {
-            case '&':
-                escaped += "&amp;";
-                break;
-            case '<':
-                escaped += "&lt;";
-                break;
-            case '>':
-                escaped += "&gt;";
-                break;
-            case '"':
-                escaped += "&quot;";
-                break;
-            default:
-                // XML has no control characters; a tab or a new line in a name is a blank here.
-                escaped += static_cast<unsigned char>(symbol) < 0x20 ? ' ' : symbol;
-        }
-    }
-    return escaped;
-}
-
-/// Heights at which labels stand so that none covers the next: near the wanted ones, which go down the
-/// picture, and inside the limits as far as they fit.
-std::vector<double> Spread(std::vector<double> wanted, double bottom) {
-    for (std::size_t i = 1; i < wanted.size(); ++i) {
-        wanted[i] = std::max(wanted[i], wanted[i - 1] + kLabelStep);
-    }
-    for (std::size_t i = wanted.size(); i-- > 0;) {
-        wanted[i] = std::min(wanted[i], bottom);
-        bottom = wanted[i] - kLabelStep;
-    }
-    return wanted;
-}
-
-/// 1, 2 or 5 times a power of ten, at most as long as that.
-double RoundLength(double longest) {
-    const double power = std::pow(10.0, std::floor(std::log10(longest)));
-    for (const double factor : {5.0, 2.0}) {
-        if (factor * power <= longest) return factor * power;
-    }
-    return power;
-}
+/// What an analyst reads off a picture.
+constexpr int kDigits = 6;
 
 class Drawing {
 public:
-    Drawing(const StoredLayup& layup, const std::string& title) : layup_(layup), title_(title) {
-        const std::size_t count = layup.layers.size();
-        every_ = std::max<std::size_t>(1, (count + kMostLabels - 1) / kMostLabels);
-        const std::size_t labels = count / every_ + 2;
-        height_ = std::max(kLeast, static_cast<double>(labels) * kLabelStep);
-        z_ = layup.Interfaces();
-        scale_ = layup.Thickness() > 0.0 ? height_ / layup.Thickness() : 0.0;
-    }
+    Drawing(const StoredLayup& layup, const LayupPicture& picture)
+        : layup_(layup),
+          picture_(picture),
+          legend_(layup, picture.isotropic),
+          plan_(PlanStack(layup)),
+          z_(layup.Interfaces()),
+          unit_(picture.units.For(*FindQuantity("length"))),
+          toShown_(UnitConversion::FromStored(*FindQuantity("length"), unit_)) {}
 
     std::string Text() {
         Head();
-        Patterns();
-        Layers();
-        Labels();
-        Heights();
-        Scale();
-        text_ << "</svg>\n";
-        return text_.str();
+        double end = stackBottom_;
+        if (!layup_.layers.empty()) {
+            Plies();
+            Interfaces();
+            MiddlePlane();
+            SectionAxes();
+            constexpr double kSectionAxes = 112.0;
+            end = std::max(stackBottom_ + kSectionAxes, Legend());
+        }
+        return sheet_.Finished(kWidth, end + kMargin, picture_.title);
     }
 
 private:
-    double Y(double z) const { return kTop + (z_.back() - z) * scale_; }
-    double Bottom() const { return kTop + height_; }
-    bool IsLabelled(std::size_t layer) const {
-        return layer % every_ == 0 || layer + 1 == layup_.layers.size();
+    double Y(double above) const { return stackBottom_ - above; }
+    PictureBox Box(double bottom, double height) const {
+        return {kStackLeft, Y(bottom + height), kStackWidth, height};
     }
 
-    void Write(double x, double y, const char* attributes, const std::string& text) {
-        text_ << "  <text x=\"" << Px(x) << "\" y=\"" << Px(y) << "\" " << attributes << '>' << Escaped(text)
-              << "</text>\n";
+    double Shown(double metres) const {
+        const auto shown = toShown_(WithoutNoiseOfSums(metres));
+        return RoundedTo(shown.value_or(std::numeric_limits<double>::quiet_NaN()), kDigits);
     }
-    void Line(double x1, double y1, double x2, double y2, const char* color) {
-        text_ << "  <line x1=\"" << Px(x1) << "\" y1=\"" << Px(y1) << "\" x2=\"" << Px(x2) << "\" y2=\""
-              << Px(y2) << "\" stroke=\"" << color << "\"/>\n";
-    }
+    std::string Length(double metres) const { return WithUnit(Shown(metres), unit_.Spelling()); }
 
     void Head() {
-        const std::string width = Px(kWidth);
-        const std::string height = Px(Bottom() + 70.0);
-        text_ << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-              << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << width << "\" height=\"" << height
-              << "\" viewBox=\"0 0 " << width << ' ' << height
-              << "\" font-family=\"sans-serif\" font-size=\"12\">\n"
-              << "  <rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
-        Write(20.0, 24.0, "font-size=\"16\"", title_);
-        std::string facts = layup_.LayerCount() + ", " + Millimetres(layup_.Thickness()) +
-                            " mm thick; z from the middle plane";
-        if (every_ > 1) facts += "; every " + std::to_string(every_) + "th layer is labelled";
-        Write(20.0, 44.0, "fill=\"#555\"", facts);
+        constexpr double kTitleFont = 17.0 * 1.15, kTitleLine = 21.0;  // bold letters are wider
+        constexpr std::size_t kTitleLines = 3, kFactLines = 3;
+        const auto title =
+            WrappedText(Printable(picture_.title), kWidth - 2.0 * kMargin, kTitleFont, kTitleLines);
+        sheet_.Texts(kMargin, kMargin + 12.0, kTitleLine, "font-size=\"17\" font-weight=\"bold\"", title);
+        const double below = kMargin + 14.0 + kTitleLine * static_cast<double>(title.size());
+        const auto facts = WrappedText(Facts(), kWidth - 2.0 * kMargin, kFont, kFactLines);
+        sheet_.Texts(kMargin, below, kLine, kGrey, facts);
+        constexpr double kRoomForTheAxis = 52.0;
+        top_ = below + kLine * static_cast<double>(facts.size()) + kRoomForTheAxis;
+        stackBottom_ = top_ + plan_.height;
     }
 
-    /// One hatching per angle: lines along the fibres, seen from above. The picture's y axis points down.
-    void Patterns() {
-        for (const StoredLayer& layer : layup_.layers) {
-            patterns_.try_emplace(layer.angle, "angle" + std::to_string(patterns_.size() + 1));
+    std::string Facts() const {
+        if (layup_.layers.empty()) return "no layers";
+        std::string facts = layup_.LayerCount() + ", " + Length(layup_.Thickness()) + " thick";
+        const bool drawnOnce = std::any_of(plan_.groups.begin(), plan_.groups.end(),
+                                           [](const DrawnGroup& group) { return group.times > 1; });
+        if (drawnOnce) facts += "; plies that repeat are drawn once";
+        if (IsAnyCutShort())
+            facts += "; not to scale, thick plies are cut short";
+        else if (plan_.toScale)
+            facts += "; to scale through the thickness";
+        return facts;
+    }
+    bool IsAnyCutShort() const {
+        for (const DrawnGroup& group : plan_.groups) {
+            for (const DrawnPly& ply : group.plies) {
+                if (ply.cutShort) return true;
+            }
         }
-        text_ << "  <defs>\n";
-        for (const auto& [angle, id] : patterns_) {
-            text_ << "    <pattern id=\"" << id
-                  << "\" width=\"6\" height=\"6\" patternUnits=\"userSpaceOnUse\" "
-                     "patternTransform=\"rotate("
-                  << NumberText(0.0 - angle) << ")\"><line x1=\"0\" y1=\"3\" x2=\"6\" y2=\"3\" "
-                  << "stroke=\"#445\" stroke-width=\"0.7\"/></pattern>\n";
-        }
-        text_ << "  </defs>\n";
+        return false;
     }
 
-    void Layers() {
-        std::map<std::optional<std::string>, const char*> colors;
-        for (std::size_t i = 0; i < layup_.layers.size(); ++i) {
-            const StoredLayer& layer = layup_.layers[i];
-            const char* next = kColors[colors.size() % std::size(kColors)];
-            const char* color = colors.try_emplace(layer.material, next).first->second;
-            Box(z_[i], z_[i + 1], color, "");
-            Box(z_[i], z_[i + 1], "url(#" + patterns_.at(layer.angle) + ")", " stroke=\"#223\"");
-        }
-    }
-    void Box(double below, double above, const std::string& fill, const char* attributes) {
-        text_ << "  <rect x=\"" << Px(kStackLeft) << "\" y=\"" << Px(Y(above)) << "\" width=\""
-              << Px(kStackWidth) << "\" height=\"" << Px(Y(below) - Y(above)) << "\" fill=\"" << fill << "\""
-              << attributes << "/>\n";
-    }
-
-    /// Right of the stack, from the top down.
-    void Labels() {
-        std::vector<std::size_t> labelled;
-        std::vector<double> wanted;
-        for (std::size_t i = layup_.layers.size(); i-- > 0;) {
-            if (!IsLabelled(i)) continue;
-            labelled.push_back(i);
-            wanted.push_back((Y(z_[i]) + Y(z_[i + 1])) / 2.0);
-        }
-        const std::vector<double> heights = Spread(wanted, Bottom());
-        for (std::size_t label = 0; label < labelled.size(); ++label) {
-            const StoredLayer& layer = layup_.layers[labelled[label]];
-            Line(kStackRight, wanted[label], kStackRight + 30.0, heights[label], "#999");
-            Write(kStackRight + 35.0, heights[label] + 4.0, "text-anchor=\"start\"",
-                  std::to_string(labelled[label] + 1) + ": " + NumberText(layer.angle) + "°, " +
-                      layer.material.value_or("no material") + ", " + Millimetres(layer.thickness) + " mm");
+    void Plies() {
+        for (const DrawnGroup& group : plan_.groups) {
+            for (const DrawnPly& ply : group.plies) Ply(group, ply);
+            if (group.plies.empty()) LeftOut(group);
+            if (group.times > 1) Bracket(group);
         }
     }
 
-    /// Left of the stack: the z of the interfaces, from the top down.
-    void Heights() {
-        std::vector<double> labelled;
-        std::vector<double> wanted;
-        for (std::size_t i = z_.size(); i-- > 0;) {
-            if (i + 1 < z_.size() && !IsLabelled(i)) continue;
-            labelled.push_back(z_[i]);
-            wanted.push_back(Y(z_[i]));
-        }
-        const std::vector<double> heights = Spread(wanted, Bottom() + kLabelStep);
-        for (std::size_t label = 0; label < labelled.size(); ++label) {
-            Line(kStackLeft - 30.0, heights[label], kStackLeft, wanted[label], "#999");
-            Write(kStackLeft - 35.0, heights[label] + 4.0, "text-anchor=\"end\"",
-                  "z = " + Millimetres(labelled[label]) + " mm");
-        }
+    void Ply(const DrawnGroup& group, const DrawnPly& ply) {
+        const StoredLayer& layer = layup_.layers[ply.layer];
+        const LegendMaterial& material = legend_.Of(layer);
+        const PictureBox box = Box(ply.bottom, ply.height);
+        sheet_.Rectangle(box, std::string("class=\"ply\" fill=\"") + material.color + "\" " + kEdge);
+        if (!material.isotropic) sheet_.Path(PlyHatching(box, layer.angle), kHatching);
+        const double middle = box.top + box.height / 2.0;
+        if (ply.cutShort) Break(middle);
+        sheet_.Text(kStackRight + 14.0, middle + 4.0, "", Label(group, ply, layer, material));
     }
 
-    void Scale() {
-        if (scale_ == 0.0) return;
-        const double length = RoundLength(kStackWidth / scale_);
-        const double y = Bottom() + 45.0;
-        Line(kStackLeft, y, kStackLeft + length * scale_, y, "black");
-        Line(kStackLeft, y - 4.0, kStackLeft, y + 4.0, "black");
-        Line(kStackLeft + length * scale_, y - 4.0, kStackLeft + length * scale_, y + 4.0, "black");
-        Write(kStackLeft, y + 17.0, "fill=\"#555\"", "through the thickness: " + Millimetres(length) + " mm");
+    std::string Label(const DrawnGroup& group, const DrawnPly& ply, const StoredLayer& layer,
+                      const LegendMaterial& material) const {
+        std::string label = Numbers(group, ply.layer) + ": ";
+        label += material.isotropic ? "isotropic" : NumberText(RoundedTo(layer.angle, kDigits)) + "°";
+        if (!material.name)
+            label += ", no material";
+        else if (legend_.Materials().size() > 1)
+            label += ", " + material.mark;
+        return label + ", " + Length(layer.thickness);
+    }
+
+    /// "3", "3, 7", "3, 7, 11", "3, 7, …, 4999"
+    static std::string Numbers(const DrawnGroup& group, std::size_t layer) {
+        constexpr std::size_t kAllNamed = 3;
+        std::string numbers = std::to_string(layer + 1);
+        const auto number = [&](std::size_t time) { return std::to_string(layer + 1 + time * group.layers); };
+        if (group.times > 1) numbers += ", " + number(1);
+        if (group.times > kAllNamed) numbers += ", …";
+        if (group.times >= kAllNamed) numbers += ", " + number(group.times - 1);
+        return numbers;
+    }
+
+    /// The mark of something longer than it is drawn: two zigzags across, with nothing between.
+    void Break(double middle) {
+        constexpr double kHalfGap = 3.0, kStep = 6.25, kHalfHeight = 3.0;
+        constexpr int kSteps = static_cast<int>(kStackWidth / kStep);
+        const auto zigzag = [&](double y, int from, int to) {
+            std::string points;
+            for (int i = from; i != to; i += from < to ? 1 : -1) {
+                points += (points.empty() && y < middle ? 'M' : 'L') + Pixels(kStackLeft + kStep * i) + ' ' +
+                          Pixels(y + (i % 2 == 0 ? -kHalfHeight : kHalfHeight));
+            }
+            return points;
+        };
+        const std::string upper = zigzag(middle - kHalfGap, 0, kSteps + 1);
+        std::string lower = zigzag(middle + kHalfGap, kSteps, -1);
+        sheet_.Path(upper + lower + 'Z', "fill=\"white\" stroke=\"none\"");
+        sheet_.Path(upper, "fill=\"none\" stroke=\"#222\"");
+        lower.front() = 'M';
+        sheet_.Path(lower, "fill=\"none\" stroke=\"#222\"");
+    }
+
+    void LeftOut(const DrawnGroup& group) {
+        const PictureBox box = Box(group.bottom, group.height);
+        sheet_.Rectangle(box, std::string("fill=\"#eee\" stroke-dasharray=\"4 3\" ") + kEdge);
+        const std::size_t last = group.first + group.AllLayers();
+        sheet_.Text(kStackRight + 14.0, box.top + box.height / 2.0 + 4.0, "",
+                    std::to_string(group.first + 1) + " to " + std::to_string(last) +
+                        " not drawn: " + Length(z_[last] - z_[group.first]));
+    }
+
+    /// Left of plies that are drawn once, with how often they are there.
+    void Bracket(const DrawnGroup& group) {
+        constexpr double kInside = 5.0, kOutside = 11.0, kClear = 2.0;
+        const double low = Y(group.bottom) - kClear, high = Y(group.bottom + group.height) + kClear;
+        sheet_.Path("M" + Pixels(kStackLeft - kInside) + ' ' + Pixels(high) + 'H' +
+                        Pixels(kStackLeft - kOutside) + 'V' + Pixels(low) + 'H' +
+                        Pixels(kStackLeft - kInside),
+                    "stroke=\"#222\" fill=\"none\"");
+        sheet_.Text(kStackLeft - kOutside - 4.0, (low + high) / 2.0 + 4.0, "text-anchor=\"end\"",
+                    "×" + std::to_string(group.times));
+    }
+
+    /// Left of the stack: the axis z with the interfaces.
+    void Interfaces() {
+        std::vector<double> shown, heights;
+        for (const DrawnGroup& group : plan_.groups) {
+            shown.push_back(Shown(z_[group.first]));
+            heights.push_back(group.bottom);
+        }
+        shown.push_back(Shown(z_.back()));
+        heights.push_back(plan_.height);
+        const auto numbers = NumberColumn(shown);
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
+            const double y = Y(heights[i]);
+            sheet_.Line(kAxis - 5.0, y, kAxis, y, "stroke=\"#222\"");
+            sheet_.Text(kNumbersRight, y + 4.0, "class=\"z\" text-anchor=\"end\"",
+                        numbers[i].substr(numbers[i].find_first_not_of(' ')));
+        }
+        sheet_.Arrow(kAxis, stackBottom_ + 6.0, kAxis, top_ - 34.0);
+        sheet_.Text(kAxis - 8.0, top_ - 28.0, "text-anchor=\"end\" font-weight=\"bold\"",
+                    "z [" + unit_.Spelling() + "]");
+        const double middle = kStackLeft + kStackWidth / 2.0;
+        sheet_.Text(middle, top_ - 8.0, "text-anchor=\"middle\" font-weight=\"bold\"", "top");
+        sheet_.Text(middle, stackBottom_ + 18.0, "text-anchor=\"middle\" font-weight=\"bold\"", "bottom");
+    }
+
+    void MiddlePlane() {
+        const double y = Y(plan_.HeightOf(0.0, z_));
+        sheet_.Line(kAxis, y, kStackRight + 8.0, y,
+                    "class=\"middle\" stroke=\"#c00000\" stroke-width=\"1.6\" stroke-dasharray=\"14 4 3 4\"");
+        sheet_.Text(kMargin, y + 4.0, "fill=\"#c00000\"", "middle plane");
+    }
+
+    /// Below the stack: how the section lies.
+    void SectionAxes() {
+        const double x = kStackLeft + 4.0, y = stackBottom_ + 84.0;
+        constexpr double kLong = 34.0, kRadius = 4.5, kCross = 3.2;
+        sheet_.Arrow(x, y, x + kLong, y);
+        sheet_.Arrow(x, y, x, y - kLong);
+        sheet_.Circle(x, y, kRadius, "fill=\"white\" stroke=\"#222\"");
+        sheet_.Line(x - kCross, y - kCross, x + kCross, y + kCross, "stroke=\"#222\"");
+        sheet_.Line(x - kCross, y + kCross, x + kCross, y - kCross, "stroke=\"#222\"");
+        sheet_.Text(x + kLong + 4.0, y + 4.0, "font-weight=\"bold\"", "x");
+        sheet_.Text(x + 6.0, y - kLong + 6.0, "font-weight=\"bold\"", "z");
+        sheet_.Text(x - 16.0, y + 8.0, "font-weight=\"bold\"", "y");
+        sheet_.Text(x + kLong + 26.0, y - 8.0, kGrey, "section, y points away from you;");
+        sheet_.Text(x + kLong + 26.0, y + 8.0, kGrey, "the first layer is at the bottom");
+    }
+
+    /// Right of everything. The lower end.
+    double Legend() {
+        double y = top_ - 8.0;
+        y = Materials(y) + 10.0;
+        if (!legend_.Angles().empty()) y = SeenFromAbove(Angles(y) + 10.0);
+        return y;
+    }
+
+    double Heading(double y, const std::string& text) {
+        sheet_.Text(kLegendLeft, y, "font-weight=\"bold\"", text);
+        return y + 10.0;
+    }
+
+    double Materials(double y) {
+        constexpr std::size_t kMost = 20, kNameLines = 4;
+        constexpr double kTextLeft = kLegendLeft + 34.0;
+        y = Heading(y, "Materials");
+        std::size_t left = legend_.Materials().size();
+        for (const LegendMaterial& material : legend_.Materials()) {
+            if (left + kMost == legend_.Materials().size()) break;
+            --left;
+            sheet_.Rectangle({kLegendLeft, y, 26.0, 15.0},
+                             std::string("fill=\"") + material.color + "\" " + kEdge);
+            const std::string name = material.name ? Printable(*material.name) : "no material";
+            const auto lines =
+                WrappedText(material.mark + "  " + name, kWidth - kMargin - kTextLeft, kFont, kNameLines);
+            sheet_.Texts(kTextLeft, y + 12.0, kLine, "class=\"material\"", lines);
+            y += 12.0 + kLine * static_cast<double>(lines.size());
+            sheet_.Text(kTextLeft, y, kGrey,
+                        std::string(material.isotropic ? "isotropic, " : "") + PliesText(material.plies) +
+                            ", " + Length(material.thickness));
+            y += 8.0;
+        }
+        if (left > 0) sheet_.Text(kTextLeft, y + 12.0, kGrey, "and " + CountText(left, "more material"));
+        return y + (left > 0 ? kLine + 10.0 : 10.0);
+    }
+
+    static std::string PliesText(std::size_t plies) {
+        return plies == 1 ? "1 ply" : std::to_string(plies) + " plies";
+    }
+
+    double Angles(double y) {
+        constexpr std::size_t kMost = 16;
+        y = Heading(y, "Angles");
+        std::size_t left = legend_.Angles().size();
+        for (const auto& [angle, plies] : legend_.Angles()) {
+            if (left + kMost == legend_.Angles().size()) break;
+            --left;
+            const PictureBox swatch{kLegendLeft, y, 26.0, 20.0};
+            sheet_.Rectangle(swatch, std::string("fill=\"white\" ") + kEdge);
+            sheet_.Path(PlyHatching(swatch, angle), kHatching);
+            sheet_.Text(kLegendLeft + 34.0, y + 14.0, "class=\"angle\"",
+                        NumberText(RoundedTo(angle, kDigits)) + "°, " + PliesText(plies));
+            y += 26.0;
+        }
+        if (left > 0)
+            sheet_.Text(kLegendLeft + 34.0, y + 12.0, kGrey, "and " + CountText(left, "more angle"));
+        return y + (left > 0 ? kLine + 10.0 : 10.0);
+    }
+
+    /// The axes in which hatchings and angles are meant.
+    double SeenFromAbove(double y) {
+        sheet_.Text(kLegendLeft, y, "font-weight=\"bold\"", "Hatching: the fibres from above");
+        constexpr double kLong = 62.0, kTurn = 0.7, kArc = 44.0;
+        const double x = kLegendLeft + 24.0, origin = y + kLong + 22.0;
+        sheet_.Arrow(x, origin, x + kLong, origin);
+        sheet_.Arrow(x, origin, x, origin - kLong);
+        sheet_.Circle(x, origin, 4.5, "fill=\"white\" stroke=\"#222\"");
+        sheet_.Circle(x, origin, 1.5, "fill=\"#222\"");
+        sheet_.Text(x + kLong + 4.0, origin + 4.0, "font-weight=\"bold\"", "x");
+        sheet_.Text(x + 7.0, origin - kLong + 8.0, "font-weight=\"bold\"", "y");
+        sheet_.Text(x - 16.0, origin + 8.0, "font-weight=\"bold\"", "z");
+        const double endX = x + kArc * std::cos(kTurn), endY = origin - kArc * std::sin(kTurn);
+        sheet_.Line(x, origin, x + kLong * std::cos(kTurn), origin - kLong * std::sin(kTurn),
+                    "stroke=\"#555\" stroke-dasharray=\"3 2\"");
+        sheet_.Path("M" + Pixels(x + kArc) + ' ' + Pixels(origin) + "A44 44 0 0 0 " + Pixels(endX) + ' ' +
+                        Pixels(endY),
+                    "fill=\"none\" stroke=\"#555\"");
+        sheet_.Text(endX + 22.0, endY - 2.0, kGrey, "positive angle");
+        return origin + 12.0;
     }
 
     const StoredLayup& layup_;
-    const std::string& title_;
-    std::size_t every_ = 1;  ///< of so many layers one carries a label
-    double height_ = kLeast;
-    double scale_ = 0.0;  ///< pixels per metre of thickness
-    std::vector<double> z_;
-    std::map<double, std::string> patterns_;
-    std::ostringstream text_;
+    const LayupPicture& picture_;
+    const LayupLegend legend_;
+    const StackPlan plan_;
+    const std::vector<double> z_;
+    const Unit unit_;
+    const UnitConversion toShown_;
+    double top_ = 0.0;          // of the stack
+    double stackBottom_ = 0.0;  // y of its lower end
+    SvgSheet sheet_;
 };
 
 }  // namespace
 
-std::string LayupDrawing(const StoredLayup& layup, const std::string& title) {
-    return Drawing(layup, title).Text();
+std::string LayupDrawing(const StoredLayup& layup, const LayupPicture& picture) {
+    return Drawing(layup, picture).Text();
 }
 
 }  // namespace zelmat

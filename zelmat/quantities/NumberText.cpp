@@ -11,6 +11,15 @@ std::string NumberText(double number) {
     return {text.data(), end};
 }
 
+double RoundedTo(double number, int digits) {
+    std::array<char, 32> text;
+    const auto written =
+        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general, digits);
+    double rounded = number;
+    std::from_chars(text.data(), written.ptr, rounded);
+    return rounded == 0.0 ? 0.0 : rounded;
+}
+
 std::string WithUnit(double number, const std::string& unit) {
     const bool pure = unit.empty() || unit == "-";
     return pure ? NumberText(number) : NumberText(number) + " " + unit;

@@ -8,6 +8,10 @@ namespace zelmat {
 /// locale: "0.3", "2.1e+11", "-0".
 std::string NumberText(double number);
 
+/// The nearest double of so many significant digits (1 to 17), for what a reader is shown and nobody computes
+/// with; no minus zero.
+double RoundedTo(double number, int digits);
+
 /// A number with its unit: "293.15 K". "-" and the empty text are no unit.
 std::string WithUnit(double number, const std::string& unit);
 

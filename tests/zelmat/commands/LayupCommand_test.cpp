@@ -250,6 +250,18 @@ TEST(LayupCommand, DrawsTheStackIntoAFile) {
     std::filesystem::remove(path);
 }
 
+TEST(LayupCommand, DrawsForReadersAlsoWhereItPrintsForPrograms) {
+    const std::string path = testing::TempDir() + "layup-" + std::to_string(getpid()) + ".svg";
+
+    const ProgramRun run =
+        RunZelmat({"layup", Sample("layups/sandwich_t300_rohacell.json"), "--svg", path, "--json"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(Contents(path), HasSubstr("z [mm]"));
+    EXPECT_THAT(Contents(path), HasSubstr("3: isotropic, M2, 10 mm")) << "the constants on the card say so";
+    std::filesystem::remove(path);
+}
+
 TEST(LayupCommand, SaysWhenItCannotDraw) {
     const ProgramRun run = RunNotation("[0]", {"--svg", "/nowhere/layup.svg", "--json"});
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -25,6 +26,15 @@ TEST(NumberText, PutsTheUnitBehindIt) {
     EXPECT_EQ(zelmat::WithUnit(293.15, "K"), "293.15 K");
     EXPECT_EQ(zelmat::WithUnit(0.3, "-"), "0.3");
     EXPECT_EQ(zelmat::WithUnit(0.3, ""), "0.3");
+}
+
+TEST(NumberText, RoundsToSignificantDigits) {
+    EXPECT_EQ(zelmat::RoundedTo(0.0787401574803149, 6), 0.0787402);
+    EXPECT_EQ(zelmat::RoundedTo(123456789.0, 4), 123500000.0);
+    EXPECT_EQ(zelmat::RoundedTo(-0.5, 6), -0.5);
+    EXPECT_FALSE(std::signbit(zelmat::RoundedTo(-0.0, 6)));
+    EXPECT_TRUE(std::isinf(zelmat::RoundedTo(std::numeric_limits<double>::infinity(), 6)));
+    EXPECT_TRUE(std::isnan(zelmat::RoundedTo(std::numeric_limits<double>::quiet_NaN(), 6)));
 }
 
 }  // namespace
