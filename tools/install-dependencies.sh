@@ -17,6 +17,7 @@ packages=(
     libceres-dev
     locales
     libxml2-utils
+    python3-jsonschema
 )
 
 for extra in "$@"; do

@@ -37,12 +37,6 @@ const Quantity* FindNamed(const std::string& name) {
     return FindQuantity(other.empty() ? name : other);
 }
 
-std::vector<std::string> QuantityNames() {
-    std::vector<std::string> names;
-    for (const Quantity& quantity : Quantities()) names.emplace_back(quantity.name);
-    return names;
-}
-
 }  // namespace
 
 const Quantity* QuantityOf(const std::string& name, const std::string& storedUnit) {
@@ -73,6 +67,13 @@ CardUnits::CardUnits(const JsonNode& units) {
             node.Report("wrong-unit", unit.Error().text);
         }
     }
+}
+
+std::vector<std::string> CardUnits::QuantityNames() {
+    std::vector<std::string> names;
+    for (const Quantity& quantity : Quantities()) names.emplace_back(quantity.name);
+    for (const Names& pair : kOtherNames) names.emplace_back(pair[0]);
+    return names;
 }
 
 const Unit* CardUnits::Find(const Quantity& quantity) const {

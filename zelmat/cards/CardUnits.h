@@ -26,6 +26,9 @@ public:
 
     const Unit& For(const Quantity& quantity) const;
 
+    /// What a card may name: every quantity, and "thermal_expansion".
+    static std::vector<std::string> QuantityNames();
+
 private:
     const Unit* Find(const Quantity& quantity) const;
 

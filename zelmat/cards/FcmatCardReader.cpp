@@ -123,7 +123,13 @@ void FcmatCardReader::ReadGeneral(const std::string& key, const Json& value, int
         lines_.emplace(std::string("/") + name, line);
     };
     if (text && key == "Name") return put("name");
-    if (text && key == "Description") return put("description");
+    if (text && key == "Description") {
+        put("description");
+        // A text block of YAML ends with a line end that nobody means.
+        auto& description = card_["description"].get_ref<std::string&>();
+        while (description.ends_with('\n')) description.pop_back();
+        return;
+    }
     if (text && key == "ReferenceSource") return put("source");
     const std::string current = CurrentName(key);
     const bool number = flat_ && text && ReadLeadingNumber(value.get_ref<const std::string&>());

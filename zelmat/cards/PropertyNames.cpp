@@ -83,8 +83,20 @@ std::string_view Find(const std::array<Alias, kCount>& aliases, std::string_view
     return found == aliases.end() ? std::string_view() : found->name;
 }
 
+constexpr std::string_view kBetween = " _-'";
+
+/// A long name's letters, large or small, with anything of kBetween around them.
+std::string LettersPattern(std::string_view letters) {
+    const std::string between = "[ _'-]*";
+    std::string pattern = between;
+    for (const char letter : letters) {
+        const char large = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+        pattern += std::string("[") + letter + large + "]" + between;
+    }
+    return pattern;
+}
+
 std::string Letters(std::string_view name) {
-    constexpr std::string_view kBetween = " _-'";
     std::string letters;
     for (const char c : name) {
         if (kBetween.find(c) != std::string_view::npos) continue;
@@ -99,6 +111,17 @@ std::string PropertyName(std::string_view name) {
     if (const auto symbol = Find(kSymbols, name); !symbol.empty()) return std::string(symbol);
     const auto known = Find(kNames, Letters(name));
     return std::string(known.empty() ? name : known);
+}
+
+std::string SpellingsPattern(const std::string& name) {
+    std::string pattern = name;
+    for (const Alias& one : kSymbols) {
+        if (one.name == name) pattern += "|" + std::string(one.alias);
+    }
+    for (const Alias& one : kNames) {
+        if (one.name == name) pattern += "|" + LettersPattern(one.alias);
+    }
+    return pattern;
 }
 
 ColumnHeader ReadColumnHeader(std::string_view text) {

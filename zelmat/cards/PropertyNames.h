@@ -10,6 +10,9 @@ namespace zelmat {
 /// regard to capitals, blanks, "_", "-" and "'". What is no such name comes back as it is.
 std::string PropertyName(std::string_view name);
 
+/// A regular expression, without anchors, of every spelling that means this name, itself included.
+std::string SpellingsPattern(const std::string& name);
+
 /// A header as tables have it, taken apart: "YoungsModulus [GPa]".
 struct ColumnHeader {
     std::string name;      ///< "YoungsModulus"

@@ -12,11 +12,10 @@ namespace {
 constexpr const char* kHead =
     "# Checks\n"
     "\n"
-    "`zelmat check CARD...` holds material cards and layup cards against the rules below. `zelmat show` and\n"
-    "`zelmat summary` do the same before they write anything; errors stop the write unless `--keep-going` "
-    "is\n"
-    "given. Errors are what cannot be, warnings what is hardly meant. With errors the exit code is 1, with\n"
-    "warnings alone 0, or 1 under `--strict`.\n"
+    "`zelmat check CARD...` holds material cards and layup cards against the rules below. `zelmat show`,\n"
+    "`zelmat summary` and `zelmat convert` do the same before they write anything; errors stop the write\n"
+    "unless `--keep-going` is given. Errors are what cannot be, warnings what is hardly meant. With errors\n"
+    "the exit code is 1, with warnings alone 0, or 1 under `--strict`.\n"
     "\n"
     "This page is what `zelmat check --rules` prints, made from the tables that the program checks by.\n";
 

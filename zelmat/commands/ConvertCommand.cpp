@@ -6,6 +6,7 @@
 #include "zelmat/cards/WriteCard.h"
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/ReadText.h"
@@ -21,7 +22,7 @@ std::vector<std::string> FormNames() {
 }
 
 /// Brings cards into another form: all into one text, or each into a file of its own in a folder. A card with
-/// a mistake is not written; of several that go into one text then none.
+/// a mistake, of form or found by the checks, is not written; of several that go into one text then none.
 class Convert final : public Command {
 public:
     void Declare(CLI::App& line) override {
@@ -29,6 +30,7 @@ public:
         line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(FormNames()));
         line.add_flag("--decimal-comma", how_.decimalComma,
                       "Numbers of a CSV card have a decimal comma (then ; or a tab sets columns apart)");
+        gate_.Declare(line);
     }
 
     void Work(CommandContext& context) override {
@@ -39,11 +41,14 @@ public:
             return;
         }
         std::vector<Material> all;
+        bool good = true;
         for (const std::string& path : paths_) {
-            auto cards = ReadGivenCards(path, context.findings, how_);
-            all.insert(all.end(), std::move_iterator(cards.begin()), std::move_iterator(cards.end()));
+            auto cards = ReadGoodCards(path, context.findings);
+            good = good && cards.has_value();
+            if (cards)
+                all.insert(all.end(), std::move_iterator(cards->begin()), std::move_iterator(cards->end()));
         }
-        if (context.findings.HasErrors() || !IsRoomFor(form, all.size(), context.findings)) return;
+        if (!good || !IsRoomFor(form, all.size(), context.findings)) return;
         std::string text = form.write(all, context.findings);
         if (output.empty()) {
             text_ = std::move(text);
@@ -79,12 +84,21 @@ private:
         return false;
     }
 
+    /// Nothing when one of the card's materials has a mistake, or an error that the user does not overrule.
+    std::optional<std::vector<Material>> ReadGoodCards(const std::string& path, Findings& findings) const {
+        Findings own;
+        auto cards = ReadGivenCards(path, own, how_);
+        bool good = !own.HasErrors();
+        for (const Material& card : cards) good = gate_.Passes(card, own) && good;
+        findings.Add(own);
+        return good ? std::optional(std::move(cards)) : std::nullopt;
+    }
+
     void ConvertIntoFolder(const CardForm& form, const std::string& path, const std::string& folder,
                            Findings& findings) {
-        Findings own;
-        const auto cards = ReadGivenCards(path, own, how_);
-        if (!own.HasErrors()) WriteIntoFolder(form, cards, path, folder, own);
-        for (const Finding& finding : own.All()) findings.Add(finding);
+        if (const auto cards = ReadGoodCards(path, findings)) {
+            WriteIntoFolder(form, *cards, path, folder, findings);
+        }
     }
 
     void WriteIntoFolder(const CardForm& form, const std::vector<Material>& cards, const std::string& path,
@@ -125,6 +139,7 @@ private:
     std::vector<std::string> paths_;
     std::string form_;
     CardReading how_;
+    WriteGate gate_;
     std::optional<std::string> text_;  // when it goes to no file
     std::vector<WrittenFile> written_;
 };
@@ -138,7 +153,8 @@ CommandKind ConvertCommand() {
         .text =
             "Bring material cards into another form: JSON, CSV or FCMat. The form of a card is told by its\n"
             "content. Numbers and units are carried as they were written; what the new form cannot hold is\n"
-            "listed. Without --output the text goes to standard output.",
+            "listed. A card on which the checks find errors is not written without --keep-going.\n"
+            "Without --output the text goes to standard output.",
         .output = "File for the converted cards, or a folder for a file each",
         .make = &MakeCommand<Convert>};
 }

@@ -56,6 +56,13 @@ ordered_json Derived(const Block& block, const UnitChoice& units) {
     return json;
 }
 
+/// Under their names, as the card has them.
+ordered_json ToJson(const std::vector<KeptValue>& kept) {
+    ordered_json json = ordered_json::object();
+    for (const KeptValue& value : kept) json[value.name] = ordered_json::parse(value.json);
+    return json;
+}
+
 ordered_json ToJson(const StoredBlock& stored, const UnitChoice& units) {
     const Block& block = stored.block;
     ordered_json json = {{"name", block.kind->name},
@@ -63,7 +70,9 @@ ordered_json ToJson(const StoredBlock& stored, const UnitChoice& units) {
                          {"tables", ordered_json::array()}};
     for (const Table& table : block.tables) json["tables"].push_back(ToJson(InUnits(table, units)));
     json["derived"] = Derived(block, units);
-    if (stored.given) json["on_the_card"] = ToJson(*block.kind, stored.given->values, false, units);
+    if (!stored.given) return json;
+    json["on_the_card"] = ToJson(*block.kind, stored.given->values, false, units);
+    json["kept"] = ToJson(stored.given->kept);
     return json;
 }
 
@@ -72,7 +81,9 @@ ordered_json Information(const Material& material) {
     for (const Block& block : material.information) {
         ordered_json tables = ordered_json::object();
         for (const Table& table : block.tables) tables[table.kind->name] = table.Rows();
-        json[block.kind->name] = {{"rows", std::move(tables)}};
+        ordered_json values = ToJson(block.kept);
+        if (block.kind->IsUnread()) values = values.front();  // the whole block
+        json[block.kind->name] = {{"rows", std::move(tables)}, {"values", std::move(values)}};
     }
     return json;
 }
@@ -94,11 +105,10 @@ ordered_json ToJson(const StoredMaterial& material, const UnitChoice& units) {
                          {"behaviors", ordered_json::array()},
                          {"fits", ordered_json::array()},
                          {"for_information", Information(given)},
-                         {"kept", ordered_json::object()}};
+                         {"kept", ToJson(given.kept)}};
     for (const StoredBlock* stored : material.SwitchedOn())
         json["behaviors"].push_back(ToJson(*stored, units));
     for (const Block& fit : given.fits) json["fits"].push_back(FitName(fit));
-    for (const KeptValue& kept : given.kept) json["kept"][kept.name] = ordered_json::parse(kept.json);
     return json;
 }
 

@@ -1,6 +1,7 @@
 #include <CLI/CLI.hpp>
 #include <optional>
 
+#include "zelmat/cards/CardSchema.h"
 #include "zelmat/cards/CardTemplate.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/WrittenReport.h"
@@ -11,15 +12,25 @@ namespace zelmat {
 
 namespace {
 
-/// Writes a card to fill in.
+/// Writes a card to fill in, or the schema that all cards follow.
 class New final : public Command {
 public:
     void Declare(CLI::App& line) override {
-        line.add_option("--card", name_, "Name of the material; a card for it is written")->required();
+        auto* card = line.add_option("--card", name_, "Name of the material; a card for it is written");
+        line.add_flag("--schema", schema_, "Write the JSON Schema of cards instead")->excludes(card);
     }
 
     void Work(CommandContext& context) override {
-        card_ = CardTemplate(name_);
+        if (!schema_ && name_.empty()) {
+            context.findings.Add({FindingKind::USAGE,
+                                  {"zelmat new", 0},
+                                  "usage",
+                                  "--card is required, with a name",
+                                  {"see zelmat help new"}});
+            shown_ = false;
+            return;
+        }
+        card_ = schema_ ? CardSchema() : CardTemplate(name_);
         const std::string& output = context.options.output;
         if (output.empty()) return;
         written_ = WriteOutputFile(output, JsonText(card_), {output}, context.findings);
@@ -32,13 +43,14 @@ public:
     }
 
     nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json = {{"card", card_}, {"written", nullptr}};
+        nlohmann::ordered_json json = {{schema_ ? "schema" : "card", card_}, {"written", nullptr}};
         if (written_) AddWritten(json, "written", *written_);
         return json;
     }
 
 private:
     std::string name_;
+    bool schema_ = false;
     nlohmann::ordered_json card_;
     std::optional<WrittenFile> written_;
     bool shown_ = true;
@@ -52,8 +64,9 @@ CommandKind NewCommand() {
         .brief = "write a material card to fill in",
         .text =
             "Write a material card to fill in: null in the place of each number, and beside each block a\n"
-            "key \"//\" that explains it. A file that is there already stays beside it as FILE.bak.",
-        .output = "File for the card; without it, standard output",
+            "key \"//\" that explains it. --schema writes the JSON Schema of cards. A file that is there\n"
+            "already stays beside it as FILE.bak.",
+        .output = "File for the card or the schema; without it, standard output",
         .make = &MakeCommand<New>};
 }
 

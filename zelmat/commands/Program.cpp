@@ -44,7 +44,15 @@ bool FlushOutput(Findings& findings) {
     return false;
 }
 
-void PrintJson(std::ostream& out, nlohmann::ordered_json json, const Findings& findings) {
+/// The version of what --json prints: docs/output.schema.json. A key that is added leaves it as it is.
+constexpr int kOutputVersion = 1;
+
+/// `command`: null where the command line names none that there is.
+void PrintJson(std::ostream& out, const CommandKind* command, const nlohmann::ordered_json& result,
+               const Findings& findings) {
+    nlohmann::ordered_json json = {{"version", kOutputVersion}, {"command", nullptr}};
+    if (command) json["command"] = command->name;
+    json.update(result);
     json["findings"] = ToJson(findings);
     // A path can hold bytes that are no UTF-8; JSON cannot.
     out << PrintableJson(json.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace)) << '\n';
@@ -56,11 +64,11 @@ bool WantsJson(const Arguments& arguments) {
     return std::find(arguments.begin(), end, "--json") != end;
 }
 
-ExitCode EndWithMistake(const Finding& mistake, bool json) {
+ExitCode EndWithMistake(const CommandKind* command, const Finding& mistake, bool json) {
     Findings findings;
     findings.Add(mistake);
     if (!json) return EndWith(findings, {});
-    PrintJson(std::cout, nlohmann::ordered_json::object(), findings);
+    PrintJson(std::cout, command, nlohmann::ordered_json::object(), findings);
     return findings.Exit();
 }
 
@@ -68,7 +76,7 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     const auto command = kind.make();
     const bool json = WantsJson(arguments);
     const CommandLine line = ReadCommandLine(kind, *command, std::move(arguments));
-    if (line.mistake) return EndWithMistake(*line.mistake, json);
+    if (line.mistake) return EndWithMistake(&kind, *line.mistake, json);
     if (line.help) {
         std::cout << *line.help;
         return EXIT_CLEAN;
@@ -82,7 +90,7 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     const bool taken = line.options.output == "-" || command->TakesStandardOutput();
     std::ostream& out = taken ? std::cerr : std::cout;
     if (line.options.json) {
-        PrintJson(out, command->Json(), findings);
+        PrintJson(out, &kind, command->Json(), findings);
         return FlushOutput(findings) ? findings.Exit(line.options.strict) : EndWith(findings, line.options);
     }
     command->Print(out);
@@ -98,7 +106,7 @@ ExitCode Help(const Arguments& arguments) {
         return EXIT_CLEAN;
     }
     const CommandKind* kind = FindCommand(arguments.front());
-    if (!kind) return EndWithMistake(UnknownCommand(arguments.front()), WantsJson(arguments));
+    if (!kind) return EndWithMistake(nullptr, UnknownCommand(arguments.front()), WantsJson(arguments));
     std::cout << CommandHelp(*kind);
     return EXIT_CLEAN;
 }
@@ -116,7 +124,7 @@ ExitCode Run(Arguments arguments) {
         return EXIT_CLEAN;
     }
     const CommandKind* kind = FindCommand(first);
-    if (!kind) return EndWithMistake(UnknownCommand(first), WantsJson(arguments));
+    if (!kind) return EndWithMistake(nullptr, UnknownCommand(first), WantsJson(arguments));
     return RunCommand(*kind, std::move(arguments));
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/commands/KeptReport.h"
 #include "zelmat/materials/DerivedValues.h"
 #include "zelmat/materials/InUnits.h"
 #include "zelmat/quantities/NumberColumn.h"
@@ -151,10 +152,9 @@ void PrintMaterial(std::ostream& out, const StoredMaterial& material, const Unit
     if (material.heatGeneration.value_or(false)) out << "the material generates heat\n";
     for (const StoredBlock* stored : material.SwitchedOn()) PrintBlock(out, *stored, units);
     PrintFits(out, material);
-    if (!given.information.empty() || !given.kept.empty()) out << '\n';
+    if (!given.information.empty()) out << '\n';
     PrintNote(out, "for information only, used by no behavior", WordList(given.information, InformationText));
-    PrintNote(out, "unknown, kept as it is",
-              WordList(given.kept, [](const KeptValue& kept) { return Printable(kept.name); }));
+    PrintKept(out, given);
 }
 
 }  // namespace zelmat

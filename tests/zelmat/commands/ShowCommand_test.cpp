@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/Program.h"
 
 namespace {
@@ -338,6 +339,44 @@ TEST(ShowCommand, ShowsATableThatBreaksARuleButWasStored) {
               "  hardening: isotropic\n"
               "  yield stress [MPa]  plastic strain [-]  temperature [degC]\n"
               "                 235               0.002                  20\n");
+}
+
+constexpr const char* kManyKept = R"({"name": "Ply", "colour": "black", "strength": [1.5, 2],
+    "density": {"temperature_dependent": false, "columns": ["density"], "rows": [[1600]], "batch": 7},
+    "other_properties": {"YoungsModulusX": "181.00 GPa", "ply": {"nu12": 0.28, "notes": ["a", {"b": 1}]}}})";
+
+TEST(ShowCommand, ShowsWhatNoBehaviorUsesAsItWasWritten) {
+    const CardFile card(kManyKept);
+
+    EXPECT_THAT(RunZelmat({"show", card.Path()}).out,
+                testing::EndsWith("for information only, used by no behavior: strength, other_properties\n"
+                                  "\n"
+                                  "Strength, for information\n"
+                                  "  1.5, 2\n"
+                                  "\n"
+                                  "Other properties, for information\n"
+                                  "  YoungsModulusX: 181.00 GPa\n"
+                                  "  ply.notes: [\"a\",{\"b\":1}]\n"
+                                  "  ply.nu12: 0.28\n"
+                                  "\n"
+                                  "Unknown, kept as it is and used by nothing\n"
+                                  "  density.batch: 7\n"
+                                  "  colour: black\n"));
+    const nlohmann::json told =
+        nlohmann::json::parse(RunZelmat({"show", card.Path(), "--json"}).out)["material"];
+    EXPECT_EQ(told["for_information"]["other_properties"]["values"]["YoungsModulusX"], "181.00 GPa");
+    EXPECT_EQ(told["for_information"]["strength"]["values"], nlohmann::json::parse("[1.5, 2]"));
+    EXPECT_EQ(told["behaviors"][0]["kept"]["batch"], 7);
+    EXPECT_EQ(told["kept"]["colour"], "black");
+}
+
+TEST(ShowCommand, ShowsTheFirstFiftyOfVeryManyValues) {
+    std::string text = R"({"name": "M")";
+    for (int i = 0; i < 60; ++i) text += ", \"key" + std::to_string(i) + "\": 1";
+    const CardFile card(text + "}");
+
+    EXPECT_THAT(RunZelmat({"show", card.Path()}).out,
+                testing::EndsWith(": 1\n  and 10 more, all of them with --json\n"));
 }
 
 TEST(ShowCommand, PrintsNothingWhenATableWasNotStored) {

@@ -156,7 +156,7 @@ TEST(ShowReport, PrintsTheSameAsJson) {
                     {"name": "initial_shear_modulus", "value": 390000.0, "unit": "Pa"},
                     {"name": "initial_bulk_modulus", "value": "none, incompressible"}],
                 "on_the_card": {"potential": {"value": "W = C10 (I1 - 3)"},
-                    "rms_relative_deviation": {"value": 0.223}}}],
+                    "rms_relative_deviation": {"value": 0.223}}, "kept": {}}],
             "fits": ["NEO_HOOKE", "MOONEY_RIVLIN (uniaxial)"],
             "for_information": {}, "kept": {}})json"));
 }

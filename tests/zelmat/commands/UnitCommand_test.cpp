@@ -27,7 +27,8 @@ TEST(UnitCommand, PrintsOneJsonObject) {
     const ProgramRun run = RunZelmat({"unit", "7.85 g/cm^3", "kg/m3", "--json"});
 
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_EQ(json::parse(run.out), json::parse(R"({"given": {"value": 7.85, "unit": "g/cm^3"},
+    EXPECT_EQ(json::parse(run.out), json::parse(R"({"version": 1, "command": "unit",
+                  "given": {"value": 7.85, "unit": "g/cm^3"},
                   "converted": {"value": 7850.0, "unit": "kg/m3"}, "quantities": [], "findings": []})"));
 }
 
