@@ -11,6 +11,7 @@ packages=(
     nlohmann-json3-dev
     libcli11-dev
     libutfcpp-dev
+    libsqlite3-dev
     libudunits2-dev
     libyaml-cpp-dev
     libeigen3-dev

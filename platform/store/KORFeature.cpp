@@ -8,8 +8,8 @@ KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHa
                                    const KORUnicodeString& name, KORBaseUnknown& container) {
     KORFeatureType& type = document.TypeOf(layout);
     const std::uint32_t number = document.Features().NextNumber();
-    auto feature = KORVar<KORFeature>::Adopt(
-        new (SlotCount{layout->SlotCount()}) KORFeature(type, number, document.Log().Stamp(), nullptr));
+    auto feature = KORVar<KORFeature>::Adopt(new (SlotCount{layout->SlotCount()})
+                                                 KORFeature(type, number, document.Log().Stamp(), nullptr));
     if (name != layout->NameText()) {
         feature->MakeUndeclared(document).At(KORLayout::kName) = KORValue::OfString(name);
     }
@@ -158,7 +158,7 @@ void KORFeature::RemoveValue(KORISpecAttrKey* key) {
 void KORFeature::SetUndeclared(const KORUnicodeString& name, KORValue&& value) {
     KORStoreDocument* document = StoreDocument();
     if (!document) return;
-    Write(MakeUndeclared(*document).SlotOf(name), std::move(value));
+    Write(UndeclaredSlot(name), std::move(value));
 }
 
 void KORFeature::RemoveUndeclared(const KORUnicodeString& name) {
@@ -205,6 +205,15 @@ const char* KORFeature::SlotName(KORSlot slot) const {
     if (slot < KORLayout::kFirstUndeclared) return Layout().SlotName(slot);
     const KORUndeclaredAttributes* undeclared = Undeclared();
     return undeclared ? undeclared->Name(slot).c_str() : "";
+}
+
+std::string_view KORFeature::SlotText(KORSlot slot) const {
+    if (slot - KORLayout::kFirstAttribute < static_cast<int>(Layout().Attributes().size()) && slot != 0) {
+        return Layout().Attributes()[slot - KORLayout::kFirstAttribute].name->Text();
+    }
+    if (slot < KORLayout::kFirstUndeclared) return Layout().SlotName(slot);
+    const KORUndeclaredAttributes* undeclared = Undeclared();
+    return undeclared ? undeclared->Name(slot).View() : std::string_view();
 }
 
 void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value) {

@@ -69,6 +69,12 @@ public:
     void SetUndeclared(const KORUnicodeString& name, KORValue&& value);
     void RemoveUndeclared(const KORUnicodeString& name);  ///< nothing happens when it has none
 
+    /// The slot of an undeclared attribute; made, and absent, when it has none of that name. Its document is
+    /// open.
+    KORSlot UndeclaredSlot(const KORUnicodeString& name) {
+        return MakeUndeclared(*StoreDocument()).SlotOf(name);
+    }
+
     /// Visits the undeclared attributes as (const KORUnicodeString& name, const KORValue& value), in the
     /// order in which their names came. The visitor does not change the feature.
     template <class Visitor>
@@ -78,7 +84,8 @@ public:
     template <class Visitor>
     void ForEachSlot(Visitor&& visit) const;
 
-    const char* SlotName(KORSlot slot) const;  ///< the attribute's name; "Name", "Alias" and "Container"
+    const char* SlotName(KORSlot slot) const;       ///< the attribute's name; "Name", "Alias" and "Container"
+    std::string_view SlotText(KORSlot slot) const;  ///< the same with what stands behind a NUL
 
     /// Puts a value of the slot's kind into a slot. The one choke point of all changes: compares, logs,
     /// writes. Nothing happens once the document is closed.

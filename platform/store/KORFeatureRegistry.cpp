@@ -9,6 +9,12 @@ std::uint32_t KORFeatureRegistry::NextNumber() {
     return number;
 }
 
+void KORFeatureRegistry::SkipTo(std::uint32_t last) {
+    if (last <= last_) return;
+    pages_.resize(last / kPageSize + 1);
+    last_ = last;
+}
+
 void KORFeatureRegistry::Add(std::uint32_t number, KORFeature& feature) noexcept {
     PageOf(number).features[number % kPageSize] = &feature;
     ++PageOf(number).living;

@@ -16,6 +16,10 @@ public:
     /// The next number of the document, with its place made ready; never one that was given before.
     std::uint32_t NextNumber();
 
+    /// The numbers up to this one count as given from now on, if they do not yet.
+    void SkipTo(std::uint32_t last);
+    std::uint32_t LastNumber() const { return last_; }
+
     void Add(std::uint32_t number, KORFeature& feature) noexcept;
     void Remove(std::uint32_t number) noexcept;  ///< it counts as changed from now on
     KORFeature* Find(std::uint32_t number) const;

@@ -10,7 +10,9 @@ void KORUndoLog::Log(KORFeature& feature, KORSlot slot, KORValue&& value) {
 bool KORUndoLog::Undo() noexcept {
     if (!CanUndo()) return false;
     RaiseGeneration();
-    auto& entries = steps_[--done_].entries;
+    KORUndoStep& step = steps_[--done_];
+    step.changed = true;
+    auto& entries = step.entries;
     std::for_each(entries.rbegin(), entries.rend(), [](KORUndoEntry& entry) { entry.Apply(); });
     return true;
 }
@@ -18,7 +20,9 @@ bool KORUndoLog::Undo() noexcept {
 bool KORUndoLog::Redo() noexcept {
     if (!CanRedo()) return false;
     RaiseGeneration();
-    auto& entries = steps_[done_++].entries;
+    KORUndoStep& step = steps_[done_++];
+    step.changed = true;
+    auto& entries = step.entries;
     std::for_each(entries.begin(), entries.end(), [](KORUndoEntry& entry) { entry.Apply(); });
     return true;
 }
@@ -31,6 +35,22 @@ void KORUndoLog::Clear() noexcept {
 void KORUndoLog::Drop() noexcept {
     Clear();
     open_.clear();
+}
+
+void KORUndoLog::Restore(std::vector<KORUndoStep> steps, std::size_t done,
+                         std::uint32_t lastNumber) noexcept {
+    steps_ = std::move(steps);
+    done_ = done;
+    lastNumber_ = lastNumber;
+}
+
+void KORUndoLog::DropOldest(std::size_t count) noexcept {
+    steps_.erase(steps_.begin(), steps_.begin() + static_cast<std::ptrdiff_t>(count));
+    done_ -= count;
+}
+
+void KORUndoLog::Saved() noexcept {
+    for (KORUndoStep& step : steps_) step.changed = false;
 }
 
 void KORUndoLog::Open() {
@@ -47,7 +67,7 @@ void KORUndoLog::Commit(std::string&& name, std::uint32_t outerStamp) {
         std::vector<KORUndoEntry> entries(begin, begin + static_cast<std::ptrdiff_t>(open_.size()));
         open_.clear();
         steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
-        steps_.push_back({std::move(name), std::move(entries)});
+        steps_.push_back({std::move(name), std::move(entries), ++lastNumber_});
         ++done_;
     }
     stamp_ = outerStamp;  // an outer scope has the entries already

@@ -23,6 +23,8 @@ struct KORUndoEntry {
 struct KORUndoStep {
     std::string name;
     std::vector<KORUndoEntry> entries;  ///< at most one per slot and scope
+    std::uint32_t number = 0;           ///< in its document, from 1 on: never another step's
+    bool changed = true;                ///< committed, undone or redone since it was saved last
 };
 
 /// The changes of one document that can be undone and redone. A step stands open while a KORStep scope lives;
@@ -51,6 +53,14 @@ public:
     /// Forgets the open step's changes, too: the document is being closed.
     void Drop() noexcept;
 
+    /// For whoever keeps the steps in a file.
+    /// Takes over the steps that a document brings along, in place of those there are. `lastNumber` is the
+    /// highest that its document has ever given to one. No step is open.
+    void Restore(std::vector<KORUndoStep> steps, std::size_t done, std::uint32_t lastNumber) noexcept;
+    void DropOldest(std::size_t count) noexcept;  ///< no more than Done()
+    void Saved() noexcept;                        ///< no step has changed from here on
+    std::uint32_t LastNumber() const { return lastNumber_; }
+
     bool IsOpen() const { return stamp_ != 0; }
 
     /// Identifies the innermost open scope; 0 when there is none. Counts up with every scope, so a slot takes
@@ -73,6 +83,7 @@ private:
 
     std::vector<KORUndoStep> steps_;
     std::size_t done_ = 0;
+    std::uint32_t lastNumber_ = 0;  ///< given to a step
     std::vector<KORUndoEntry> open_;
     std::uint32_t stamp_ = 0;
     std::uint32_t lastStamp_ = 0;

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "platform/disk/KORDiskDocument.h"
+#include "tests/platform/KORTestDocument.h"
+
+/// A document as text: its living features in the order of their numbers, each with all that it holds.
+std::string KORShownDocument(KORMemoryDocument& document);
+
+/// A folder of the test's own, a platform whose shared catalog declares a late type with one attribute of
+/// every kind, and the shortest way to documents in files.
+class KORDiskTest : public testing::Test {
+protected:
+    KORDiskTest();
+    ~KORDiskTest() override;
+
+    std::string Path(const std::string& name = "d.zeldoc") const { return folder_ + "/" + name; }
+
+    // Null, and the test has failed, when it does not work.
+    std::unique_ptr<KORDiskDocument> Create(const std::string& name = "d.zeldoc");
+    std::unique_ptr<KORDiskDocument> OpenToRead(
+        const std::string& name = "d.zeldoc",
+        KORDiskDocument::History history = KORDiskDocument::History::Names);
+    std::unique_ptr<KORDiskDocument> OpenToChange(const std::string& name = "d.zeldoc");
+    void Save(KORDiskDocument& document, const KORHistoryOrigin& origin = {});
+
+    static std::string Shown(KORMemoryDocument& document) { return KORShownDocument(document); }
+
+    static KORVar<KORFeature> Material(KORMemoryDocument& document, const char* name) {
+        return document.NewPlatformFeature("KORDiskTestLT", name);
+    }
+    static KORVar<KORFeature> First(KORMemoryDocument& document);  ///< that lies in a container; null: none
+
+    template <class Change>
+    static void Do(KORMemoryDocument& document, const char* name, Change&& change) {
+        KORStep step(document, name);
+        change();
+        step.Commit();
+    }
+
+    const KORName* const flag = KORName::Intern("Flag");
+    const KORName* const count = KORName::Intern("Count");
+    const KORName* const length = KORName::Intern("Length");
+    const KORName* const text = KORName::Intern("Text");
+    const KORName* const numbers = KORName::Intern("Numbers");
+    const KORName* const other = KORName::Intern("Other");
+    const KORName* const others = KORName::Intern("Others");
+
+    std::unique_ptr<KORPlatform> platform;
+
+private:
+    std::string folder_;
+};
