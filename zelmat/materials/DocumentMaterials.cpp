@@ -5,6 +5,7 @@
 #include "interfaces/KORIAlias.h"
 #include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/materials/AnalysisData.h"
+#include "zelmat/materials/CardExtras.h"
 #include "zelmat/materials/MaterialReader.h"
 
 namespace zelmat {
@@ -53,6 +54,7 @@ Material ReadDocumentMaterial(const DocumentMaterial& material, const std::strin
         auto& list = block.kind->alternatives ? read.fits : read.blocks;
         list.push_back(std::move(block));
     }
+    AddCardExtras(material.feature.Get(), read);
     return read;
 }
 

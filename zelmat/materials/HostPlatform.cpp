@@ -9,6 +9,7 @@ namespace {
 
 constexpr const char* kCatalog = "ZELMaterialPropertiesCatalog.KORfct";
 constexpr const char* kSharedCatalog = "ZELSharedCatalog.KORfct";
+constexpr const char* kCardCatalog = "ZelmatCardCatalog.KORfct";
 
 }  // namespace
 
@@ -24,7 +25,8 @@ std::string HostPlatform::CatalogPath() const {
 
 bool HostPlatform::OpenCatalog(Findings& findings) {
     KORFileError error;
-    if (KORCatalogFile::Open(CatalogPath(), error) && platform_.ShareCatalog(kSharedCatalog, error)) {
+    if (KORCatalogFile::Open(CatalogPath(), error) && platform_.ShareCatalog(kSharedCatalog, error) &&
+        platform_.ShareCatalog(kCardCatalog, error)) {
         return true;
     }
     findings.Add({FindingKind::UNREADABLE, {error.file, error.line}, "bad-catalog", error.Sentence(), {}});

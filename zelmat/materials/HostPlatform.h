@@ -19,8 +19,8 @@ public:
     KORMemoryDocument& Document() { return *document_; }
     std::string CatalogPath() const;  ///< of the module's catalog
 
-    /// Opens the module's catalog, and the one that the add-on shares among all documents. False, and a
-    /// finding with the reason and its place, when one of them cannot be opened.
+    /// Opens the module's catalog, the one that the add-on shares among all documents, and the program's own.
+    /// False, and a finding with the reason and its place, when one of them cannot be opened.
     [[nodiscard]] bool OpenCatalog(Findings& findings);
 
 private:

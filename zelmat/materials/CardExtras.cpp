@@ -1,0 +1,135 @@
+#include "zelmat/materials/CardExtras.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "interfaces/KORIMaterialFeature.h"
+#include "zelmat/materials/ExtraBlock.h"
+#include "zelmat/materials/ExtraText.h"
+#include "zelmat/materials/FeatureValues.h"
+#include "zelmat/materials/MergedBlock.h"
+#include "zelmat/materials/StoredMeaning.h"
+
+namespace zelmat {
+
+namespace {
+
+constexpr const char* kHung = "ZelmatCard";
+constexpr const char* kType = "ZelmatCardLT";
+
+KORISpecObject_var HungOn(KORISpecObject* material) {
+    const auto feature = KORIMaterialFeature_var::Of(material);
+    return feature ? KORISpecObject_var::Adopt(feature->GetApplicativeFeature(kHung)) : nullptr;
+}
+
+const Block* HeldOf(const Material& held, const Block& given) {
+    return held.Find(given.kind->name);
+}
+
+/// Of a block in another meaning than the stored one nothing can be told from what is stored.
+ExtraBlock OfBehavior(const Block& given, const Material& held, ExtraUse use) {
+    if (!IsInStoredMeaning(given)) return {.use = use, .whole = true, .block = given, .notGiven = {}};
+    const Block* stored = HeldOf(held, given);
+    return {
+        .use = use, .whole = false, .block = given, .notGiven = stored ? NotGiven(given, *stored) : Values()};
+}
+
+std::vector<ExtraBlock> ExtrasOf(const Material& card, const Block* stored, const Material& held) {
+    std::vector<ExtraBlock> extras;
+    for (const Block& block : card.blocks) extras.push_back(OfBehavior(block, held, ExtraUse::BEHAVIOR));
+    for (const Block& fit : card.fits) {
+        extras.push_back(&fit == stored
+                             ? OfBehavior(fit, held, ExtraUse::STORED_FIT)
+                             : ExtraBlock{.use = ExtraUse::FIT, .whole = true, .block = fit, .notGiven = {}});
+    }
+    for (const Block& block : card.information) {
+        extras.push_back({.use = ExtraUse::INFORMATION, .whole = true, .block = block, .notGiven = {}});
+    }
+    return extras;
+}
+
+void WriteHead(const FeatureValues& feature, const Material& card) {
+    feature.SetText("Description", card.description);
+    feature.SetText("Class", card.materialClass);
+    feature.SetText("Sources", TextOfTexts(card.sources));
+    feature.SetText("Notes", TextOfTexts(card.notes));
+    feature.SetFlag("Illustrative", card.illustrative);
+    feature.SetFlag("HeatGenerationGiven", card.heatGeneration.has_value());
+    feature.SetText("Kept", TextOfKept(card.kept));
+}
+
+void ReadHead(const FeatureValues& feature, Material& read) {
+    read.description = feature.Text("Description");
+    read.materialClass = feature.Text("Class");
+    read.sources = TextsOfText(feature.Text("Sources"));
+    read.notes = TextsOfText(feature.Text("Notes"));
+    read.illustrative = feature.Flag("Illustrative");
+    const bool said = feature.Flag("HeatGenerationGiven") || read.heatGeneration.value_or(false);
+    if (!said) read.heatGeneration = std::nullopt;
+    read.kept = KeptOfText(feature.Text("Kept"));
+}
+
+/// The features of one card, the card's own last.
+void TakeAway(KORMemoryDocument& document, KORISpecObject* card) {
+    const FeatureValues values(card);
+    for (const auto& block : values.Features("Blocks")) RemoveExtraBlock(document, block.Get());
+    static_cast<void>(document.Remove(card));
+}
+
+/// With the elastic block first: what a hardening curve means depends on it.
+void MergeBehaviors(const std::vector<ExtraBlock>& extras, Material& read) {
+    for (Block& block : read.blocks) {
+        const auto found = std::find_if(extras.begin(), extras.end(), [&](const ExtraBlock& extra) {
+            return extra.use == ExtraUse::BEHAVIOR && extra.block.kind == block.kind;
+        });
+        if (found != extras.end()) block = Merged(block, *found, read);
+    }
+}
+
+/// Fits that the document does not use are no card's without one that it does.
+void MergeFits(std::vector<ExtraBlock>& extras, Material& read) {
+    if (read.fits.empty()) return;
+    for (ExtraBlock& extra : extras) {
+        if (extra.use == ExtraUse::STORED_FIT) read.fits.front() = Merged(read.fits.front(), extra, read);
+        if (extra.use == ExtraUse::FIT) read.fits.push_back(std::move(extra.block));
+    }
+}
+
+}  // namespace
+
+bool WriteCardExtras(KORMemoryDocument& document, KORISpecObject* material, const Material& card,
+                     const Block* stored, const Material& held) {
+    const auto hangsOn = KORIMaterialFeature_var::Of(material);
+    if (!hangsOn) return false;
+    if (const auto before = HungOn(material)) TakeAway(document, before.Get());
+    const KORISpecObject_var feature(document.NewPlatformFeature(kType, kType));
+    if (!feature || FAILED(hangsOn->SetApplicativeFeature(kHung, feature.Get()))) return false;
+    const FeatureValues values(feature.Get());
+    WriteHead(values, card);
+    for (const ExtraBlock& extra : ExtrasOf(card, stored, held)) {
+        if (SaysNothing(extra)) continue;
+        const auto made = WriteExtraBlock(document, extra);
+        if (!made) return false;
+        values.Append("Blocks", made.Get());
+    }
+    return true;
+}
+
+void AddCardExtras(KORISpecObject* material, Material& read) {
+    const auto feature = HungOn(material);
+    if (!feature) return;
+    const FeatureValues values(feature.Get());
+    ReadHead(values, read);
+    std::vector<ExtraBlock> extras;
+    for (const auto& hung : values.Features("Blocks")) {
+        if (auto extra = ReadExtraBlock(hung.Get())) extras.push_back(std::move(*extra));
+    }
+    MergeBehaviors(extras, read);
+    MergeFits(extras, read);
+    for (ExtraBlock& extra : extras) {
+        if (extra.use == ExtraUse::INFORMATION) read.information.push_back(std::move(extra.block));
+    }
+}
+
+}  // namespace zelmat
