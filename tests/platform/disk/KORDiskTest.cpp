@@ -1,7 +1,9 @@
 #include "tests/platform/disk/KORDiskTest.h"
 
 #include <stdlib.h>
+#include <unistd.h>
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
@@ -92,8 +94,10 @@ std::string KORShownDocument(KORMemoryDocument& document) {
 }
 
 KORDiskTest::KORDiskTest() {
-    char folder[] = "/tmp/kor-disk-XXXXXX";
-    folder_ = mkdtemp(folder);
+    // In memory where there is such a folder: a test is not to wait for a disk at each of its many saves.
+    const bool memory = access("/dev/shm", W_OK) == 0;
+    std::string folder = (memory ? "/dev/shm" : testing::TempDir()) + std::string("/kor-disk-XXXXXX");
+    folder_ = mkdtemp(folder.data());
     std::ofstream(folder_ + "/KORDiskTest.KORfct") << kCatalog;
     platform = std::make_unique<KORPlatform>(folder_);
     KORFileError error;
@@ -102,6 +106,24 @@ KORDiskTest::KORDiskTest() {
 
 KORDiskTest::~KORDiskTest() {
     std::filesystem::remove_all(folder_);
+}
+
+std::vector<std::string> KORDiskTest::Files() const {
+    std::vector<std::string> files;
+    for (const auto& entry : std::filesystem::directory_iterator(folder_)) {
+        if (entry.path().filename() != "KORDiskTest.KORfct") files.push_back(entry.path().filename());
+    }
+    std::ranges::sort(files);
+    return files;
+}
+
+void KORDiskTest::Touch(const std::string& name, const std::string& content) const {
+    std::ofstream(Path(name), std::ios::binary) << content;
+}
+
+std::string KORDiskTest::Content(const std::string& name) const {
+    std::ifstream file(Path(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 std::unique_ptr<KORDiskDocument> KORDiskTest::Create(const std::string& name) {

@@ -18,6 +18,10 @@ protected:
 
     std::string Path(const std::string& name = "d.zeldoc") const { return folder_ + "/" + name; }
 
+    std::vector<std::string> Files() const;  ///< the folder's, sorted, without the catalog
+    void Touch(const std::string& name, const std::string& content = "") const;
+    std::string Content(const std::string& name = "d.zeldoc") const;
+
     // Null, and the test has failed, when it does not work.
     std::unique_ptr<KORDiskDocument> Create(const std::string& name = "d.zeldoc");
     std::unique_ptr<KORDiskDocument> OpenToRead(

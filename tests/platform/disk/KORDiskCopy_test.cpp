@@ -1,0 +1,123 @@
+#include "platform/disk/KORDiskCopy.h"
+
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "platform/disk/KORDoctor.h"
+#include "tests/platform/disk/KORDiskTest.h"
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class KORDiskCopyTest : public KORDiskTest {
+protected:
+    /// With a long list that was taken out again: the file has room to give back.
+    void MakeDocument() {
+        auto made = Create();
+        Do(made->Document(), "Make", [&] {
+            Material(made->Document(), "Steel");
+            KORRawColldouble list;
+            for (int i = 0; i < 50000; ++i) list.Append(i);
+            Material(made->Document(), "Long")->SetListOfDouble(numbers, list);
+        });
+        made->SetHistoryBounds(1, 1 << 30);
+        Save(*made);
+        Do(made->Document(), "Remove", [&] {
+            made->Document().ForEachFeature(nullptr, [&](KORFeature& feature) {
+                if (feature.Number() == 2) feature.SetContainer(nullptr);
+            });
+        });
+        Save(*made);
+        Do(made->Document(), "Set", [&] { First(made->Document())->SetDouble(length, 2.0, 1); });
+        Save(*made);
+    }
+};
+
+TEST_F(KORDiskCopyTest, ACompactDocumentHoldsTheSameInLessRoom) {
+    MakeDocument();
+    const auto before = std::filesystem::file_size(Path());
+    const std::string shown = Shown(OpenToRead()->Document());
+    chmod(Path().c_str(), 0640);
+    KORFileError error;
+
+    ASSERT_TRUE(KORDiskCopy::Compact(Path(), error)) << error.Text();
+
+    EXPECT_LT(std::filesystem::file_size(Path()), before / 4);
+    EXPECT_EQ(shown, Shown(OpenToRead()->Document()));
+    EXPECT_EQ(1u, OpenToRead()->Steps().size());
+    EXPECT_TRUE(OpenToChange()->Document().Undo());
+    struct stat status {};
+    ASSERT_EQ(0, stat(Path().c_str(), &status));
+    EXPECT_EQ(0640u, status.st_mode & 07777u);
+    EXPECT_THAT(Files(), testing::ElementsAre("d.zeldoc"));
+}
+
+TEST_F(KORDiskCopyTest, WhoWaitedForTheLockChangesTheCompactDocumentAndNotTheOldOne) {
+    MakeDocument();
+    KORFileError error;
+    auto opened = OpenToChange();
+    opened.reset();
+    ASSERT_TRUE(KORDiskCopy::Compact(Path(), error)) << error.Text();
+
+    auto changed = OpenToChange();
+    First(changed->Document())->SetDouble(length, 4.0, 1);
+    Save(*changed);
+
+    EXPECT_EQ(4.0, First(OpenToRead()->Document())->GetDouble(length, 1));
+}
+
+TEST_F(KORDiskCopyTest, ASaveAfterTheDocumentWasReplacedIsRefused) {
+    MakeDocument();
+    auto changed = OpenToChange();
+    Save(*changed);
+    KORFileError error;
+    ASSERT_TRUE(KORDiskCopy::Compact(Path(), error)) << error.Text();
+    First(changed->Document())->SetDouble(length, 4.0, 1);
+
+    EXPECT_FALSE(changed->Save({}, error));
+
+    EXPECT_THAT(error.Text(), HasSubstr("was changed by another program since it was read"));
+}
+
+TEST_F(KORDiskCopyTest, ACopyHoldsTheSameWithItsHistory) {
+    MakeDocument();
+    KORFileError error;
+
+    ASSERT_TRUE(KORDiskCopy::To(Path(), Path("copy.zeldoc"), error)) << error.Text();
+
+    EXPECT_EQ(Shown(OpenToRead()->Document()), Shown(OpenToRead("copy.zeldoc")->Document()));
+    EXPECT_TRUE(OpenToChange("copy.zeldoc")->Document().Undo());
+    EXPECT_THAT(KORDoctor::Examine(Path("copy.zeldoc"), error), testing::Optional(IsEmpty()));
+}
+
+TEST_F(KORDiskCopyTest, ACopyReplacesNothing) {
+    MakeDocument();
+    KORFileError error;
+    Touch("taken");
+    std::filesystem::create_symlink(Path("nowhere"), Path("link"));
+
+    EXPECT_FALSE(KORDiskCopy::To(Path(), Path("taken"), error));
+    EXPECT_EQ(Path("taken") + ": exists already", error.Text());
+    EXPECT_FALSE(KORDiskCopy::To(Path(), Path("link"), error));
+    EXPECT_FALSE(KORDiskCopy::To(Path(), Path(), error));
+    EXPECT_FALSE(KORDiskCopy::To(Path(), Path("no/folder"), error));
+
+    EXPECT_THAT(Files(), testing::ElementsAre("d.zeldoc", "link", "taken"));
+}
+
+TEST_F(KORDiskCopyTest, WhatIsNoDocumentIsNeitherCompactedNorCopied) {
+    Touch("d.zeldoc", "no document at all");
+    KORFileError error;
+
+    EXPECT_FALSE(KORDiskCopy::Compact(Path(), error));
+    EXPECT_EQ(Path() + ": is no document", error.Text());
+    EXPECT_FALSE(KORDiskCopy::To(Path(), Path("copy"), error));
+    EXPECT_EQ(Path() + ": is no document", error.Text());
+
+    EXPECT_THAT(Files(), testing::ElementsAre("d.zeldoc"));
+}
+
+}  // namespace
