@@ -28,9 +28,19 @@ done
 run show samples/natural_rubber_treloar.json
 run show samples/natural_rubber_treloar.json --model MOONEY_RIVLIN --variant planar
 
+# A card as analysts write it, in MPa, GPa, % and degC; the same steel as the small FCMat card that CAD users share.
+run show samples/forms/steel_s235_mpa_degc.json
+run show samples/forms/steel_s235.FCMat
+
+# Tables in CSV become a JSON card and CSV again: numbers and units stay as written, so diff has nothing to say.
+converted=$(mktemp --suffix=.json)
+run convert samples/forms/aluminium_6061_t6.csv --to json --output "$converted"
+"$zelmat" convert "$converted" --to csv | diff samples/forms/aluminium_6061_t6.csv -
+echo "CSV, JSON and CSV again: no difference"
+
 # A document of an older release; the upgraded one needs nothing more.
 upgraded=$(mktemp --suffix=.json)
-trap 'rm -f "$upgraded"' EXIT
+trap 'rm -f "$converted" "$upgraded"' EXIT
 run upgrade samples/older/copper_and_rubber.json --output "$upgraded"
 run upgrade "$upgraded"
 

@@ -26,6 +26,19 @@ CardFormKind FormOfSection(std::string_view line) {
     return IsUpper(first) ? CardFormKind::FCMAT_INI : IsLower(first) ? CardFormKind::CSV : CardFormKind::JSON;
 }
 
+/// A key of a YAML map, which no line of the other forms looks like: "General:", "Models: {}", "'A b': 1".
+bool IsYamlKey(std::string_view line) {
+    const auto colon = line.find(':');
+    std::string_view key = line.substr(0, colon);
+    if (colon == std::string_view::npos || key.find_first_of(",;[]{}=\t") != std::string_view::npos)
+        return false;
+    const bool ends = colon + 1 == line.size() || line[colon + 1] == ' ' || line[colon + 1] == '\t';
+    const bool quoted =
+        key.size() > 2 && (key.front() == '"' || key.front() == '\'') && key.back() == key.front();
+    if (quoted) key.remove_prefix(1);
+    return ends && !key.empty() && (IsUpper(key.front()) || IsLower(key.front()));
+}
+
 bool IsCsvLine(std::string_view line) {
     if (line.find('=') != std::string_view::npos) return true;
     const auto cells = CsvCells(line, CsvSeparator(line));
@@ -44,9 +57,8 @@ CardFormKind CardFormOf(std::string_view text) {
         if (line.front() == ';') return CardFormKind::FCMAT_INI;
         if (line.front() == '{') return CardFormKind::JSON;
         if (line.front() == '[') return FormOfSection(line);
-        if (line == "---" || line == "General:" || line == "Models:" || line.starts_with("%YAML")) {
+        if (line.starts_with("---") || line.starts_with("%YAML") || IsYamlKey(line))
             return CardFormKind::FCMAT_YAML;
-        }
         constexpr std::size_t kLongestHeader = 65536;  // so that no byte salad takes long
         if (line.size() > kLongestHeader) return CardFormKind::JSON;
         return IsCsvLine(line) ? CardFormKind::CSV : CardFormKind::JSON;

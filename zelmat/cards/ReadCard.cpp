@@ -70,8 +70,8 @@ std::vector<Material> ReadCardText(std::string text, const std::string& name, Fi
     return tree ? JsonCardReader(tree, findings).Read() : std::vector<Material>();
 }
 
-std::optional<Material> ReadCard(const std::string& path, Findings& findings) {
-    auto materials = ReadCards(path, findings);
+std::optional<Material> ReadCard(const std::string& path, Findings& findings, const CardReading& how) {
+    auto materials = ReadCards(path, findings, how);
     if (findings.HasErrors() || materials.empty()) return std::nullopt;
     if (materials.size() == 1) return std::move(materials.front());
     findings.Add({FindingKind::USAGE,

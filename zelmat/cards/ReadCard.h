@@ -24,6 +24,6 @@ std::vector<Material> ReadCardText(std::string text, const std::string& name, Fi
                                    const CardReading& how = {});
 
 /// The same where one material is wanted; a card with several is a finding.
-std::optional<Material> ReadCard(const std::string& path, Findings& findings);
+std::optional<Material> ReadCard(const std::string& path, Findings& findings, const CardReading& how = {});
 
 }  // namespace zelmat

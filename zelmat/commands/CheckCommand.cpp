@@ -4,8 +4,10 @@
 #include "zelmat/cards/ReadCard.h"
 #include "zelmat/checks/Checks.h"
 #include "zelmat/checks/RulesPage.h"
+#include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/WrongForm.h"
+#include "zelmat/files/ReadText.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"
@@ -36,7 +38,9 @@ class Check final : public Command {
 public:
     void Declare(CLI::App& line) override {
         auto* rules = line.add_flag("--rules", rules_, "Print every rule instead, as Markdown");
-        line.add_option("CARD", paths_, "Material cards or layup cards")->excludes(rules);
+        line.add_option("CARD", paths_, "Material cards or layup cards; - is standard input")
+            ->excludes(rules);
+        DeclareCardReading(line, how_);
     }
 
     void Work(CommandContext& context) override {
@@ -81,13 +85,16 @@ public:
 
 private:
     /// Reads the card, whichever it is, and checks it: a material or layup, or several materials.
-    static std::string NameOfChecked(const std::string& path, Findings& findings) {
-        const auto materials = ReadCards(path, findings);
+    std::string NameOfChecked(const std::string& path, Findings& findings) const {
+        const auto text = ReadText(path, findings);
+        if (!text) return {};
+        const std::string file = ShownPath(path);
+        const auto materials = ReadCardText(*text, file, findings, how_);
         // A layup card reads as a material card of unknown blocks.
         const bool doubtful = materials.empty() || !materials.front().kept.empty();
-        if (doubtful && FormOfFile(path) == FileForm::LAYUP_CARD) {
-            findings.RemoveAbout(path);
-            const auto layup = LayupCardReader(findings).Read(path);
+        if (doubtful && FormOfText(*text) == FileForm::LAYUP_CARD) {
+            findings.RemoveAbout(file);
+            const auto layup = LayupCardReader(findings).ReadText(*text, file);
             if (layup) findings.Add(CheckLayup(*layup));
             return layup ? layup->name : "";
         }
@@ -97,6 +104,7 @@ private:
     }
 
     std::vector<std::string> paths_;
+    CardReading how_;
     bool rules_ = false;  // print them, check nothing
     std::vector<CheckedCard> cards_;
 };

@@ -28,8 +28,7 @@ public:
     void Declare(CLI::App& line) override {
         line.add_option("CARD", paths_, "Material cards of any form; - is standard input")->required();
         line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(FormNames()));
-        line.add_flag("--decimal-comma", how_.decimalComma,
-                      "Numbers of a CSV card have a decimal comma (then ; or a tab sets columns apart)");
+        DeclareCardReading(line, how_);
         gate_.Declare(line);
     }
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/MaterialChoice.h"
 #include "zelmat/commands/TextDocumentMaterials.h"
 #include "zelmat/commands/WrongForm.h"
@@ -43,10 +44,11 @@ void GivenMaterials::Declare(CLI::App& line) {
     line.add_option("CARD|DOC", path_, "Material card or document; - is standard input")->required();
     line.add_option("MATERIAL", material_,
                     "Which of its materials: its name, a beginning that no other has, or #number");
+    DeclareCardReading(line, how_);
 }
 
 std::vector<Material> GivenMaterials::ReadAll(CommandContext& context) const {
-    auto materials = ReadGivenMaterials(path_, context.options, context.findings);
+    auto materials = ReadGivenMaterials(path_, context.options, context.findings, how_);
     if (material_.empty() || context.findings.HasErrors()) return materials;
     const auto chosen = ChooseMaterial(NamesOf(materials), material_, ShownPath(path_), context.findings);
     std::vector<Material> one;

@@ -35,6 +35,7 @@ public:
 
 private:
     std::string path_;
+    CardReading how_;
     std::string material_;  // empty: not said
 };
 

@@ -6,6 +6,7 @@
 #include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/LayupReport.h"
+#include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
@@ -56,6 +57,7 @@ public:
                         "Reference the layup from a shell section: composite or homogeneous")
             ->check(CLI::IsMember({"composite", "homogeneous"}));
         line.add_option("--svg", drawing_, "Draw the stack into this SVG file");
+        gate_.Declare(line);
     }
 
     void Work(CommandContext& context) override {
@@ -65,7 +67,8 @@ public:
         if (card_) stored_ = Store(context.options.catalogs, findings);
         if (!stored_) return;
         ReportValidity(*card_, *stored_, findings);
-        if (!drawing_.empty()) {
+        const bool passes = gate_.Passes(*card_, findings);
+        if (passes && !drawing_.empty()) {
             const auto units = DrawnUnits(context.options, findings);
             if (!units) return;
             drawn_ =
@@ -168,6 +171,7 @@ private:
     std::string section_;    // "composite", "homogeneous": one that references the layup; empty: none
     std::string drawing_;    // where the SVG picture goes; empty: nowhere
     UnitChoice units_ = UnitChoice::Si();
+    WriteGate gate_;  // before the picture
     std::optional<LayupCard> card_;
     std::optional<StoredLayup> stored_;
     std::optional<WrittenFile> drawn_;

@@ -26,6 +26,7 @@ public:
         line.add_flag("--all-models", allFits_, "Store and show each hyperelastic fit in turn")
             ->excludes(model)
             ->excludes(variant);
+        DeclareCardReading(line, how_);
         gate_.Declare(line);
         line.add_flag("--trace", trace_, "Print each call of a material interface on standard error");
     }
@@ -37,7 +38,7 @@ public:
         std::optional<CallTrace> calls;
         if (trace_) calls.emplace(context.notes);
 
-        card_ = ReadGivenCard(path_, findings);
+        card_ = ReadGivenCard(path_, findings, how_);
         if (!card_) return;
         const auto fits = FitsToShow(findings);
         material_ = StoredMaterial{.given = &*card_};
@@ -76,6 +77,7 @@ private:
     }
 
     std::string path_;
+    CardReading how_;
     FitChoice fit_;         // of several hyperelastic fits
     bool allFits_ = false;  // show each in turn
     WriteGate gate_;

@@ -57,6 +57,7 @@ class Summary final : public Command {
 public:
     void Declare(CLI::App& line) override {
         line.add_option("CARD.json", paths_, "Material cards, JSON files")->required();
+        DeclareCardReading(line, how_);
         gate_.Declare(line);
     }
 
@@ -77,7 +78,7 @@ public:
 
 private:
     void Add(MaterialHost& host, const std::string& path, Findings& findings) {
-        for (Material& card : ReadGivenCards(path, findings)) {
+        for (Material& card : ReadGivenCards(path, findings, how_)) {
             Findings own;  // apart from what the checks said
             if (!gate_.Passes(card, findings)) continue;
             cards_.push_back(std::move(card));
@@ -90,6 +91,7 @@ private:
     }
 
     std::vector<std::string> paths_;
+    CardReading how_;
     UnitChoice units_ = UnitChoice::Si();
     WriteGate gate_;
     std::deque<Material> cards_;  // does not move its elements, which the materials refer to

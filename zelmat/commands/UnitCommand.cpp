@@ -30,6 +30,12 @@ const Quantity* FirstOfDimension(const Unit& unit) {
     return found == all.end() ? nullptr : &*found;
 }
 
+/// Of a point of a temperature scale, and of 0 K itself not.
+bool IsBelowAbsoluteZero(const Measured& temperature) {
+    const auto kelvin = temperature.Stored(*FindQuantity("temperature"));
+    return kelvin && *kelvin < 0.0;
+}
+
 std::vector<std::string> Names() {
     std::vector<std::string> names = {kEverything};
     for (const Quantity& quantity : Quantities()) names.emplace_back(quantity.name);
@@ -115,6 +121,12 @@ private:
         }
         // By itself, a temperature is a point of its scale.
         const bool isPoint = given->unit.IsScale() || unit->IsScale();
+        if (isPoint && IsBelowAbsoluteZero(*given)) {
+            ReportUsage(findings, "NUMBER", "below-absolute-zero",
+                        given->Text() + " lies below absolute zero",
+                        {"0 K is -273.15 degC and -459.67 degF"});
+            return;
+        }
         const auto value = UnitConversion(given->unit, *unit, isPoint)(given->number);
         if (!value) {
             ReportUsage(findings, "NUMBER", "out-of-range",

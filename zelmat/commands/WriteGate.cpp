@@ -16,4 +16,16 @@ bool WriteGate::Passes(const Material& material, Findings& findings) const {
     return keepGoing_ || !found.HasErrors();
 }
 
+bool WriteGate::Passes(const LayupCard& layup, Findings& findings) const {
+    bool good = true;
+    const Findings found = CheckLayup(layup);
+    for (const Finding& finding : found.All()) {
+        // The document's layup answers these itself, with its status.
+        if (finding.code == "no-layers" || finding.code == "layer-material") continue;
+        good = good && finding.kind == FindingKind::WARNING;
+        findings.Add(finding);
+    }
+    return keepGoing_ || good;
+}
+
 }  // namespace zelmat

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "zelmat/findings/Findings.h"
+#include "zelmat/layups/LayupCard.h"
 #include "zelmat/materials/Material.h"
 
 namespace CLI {
@@ -9,14 +10,16 @@ class App;
 
 namespace zelmat {
 
-/// Stands before whatever a command writes of a material: it runs the checks, and errors stop the write
-/// unless the user wants it all the same.
+/// Stands before whatever a command writes of a material or layup: it runs the checks, and errors stop the
+/// write unless the user wants it all the same.
 class WriteGate {
 public:
     void Declare(CLI::App& line);  ///< --keep-going
 
     /// Adds what the checks find. False: nothing of the material is to be written.
     bool Passes(const Material& material, Findings& findings) const;
+    /// The same of a layup, without what its own validity is to say.
+    bool Passes(const LayupCard& layup, Findings& findings) const;
 
 private:
     bool keepGoing_ = false;

@@ -30,10 +30,8 @@ bool Has(const nlohmann::json& root, const KnownForm& form) {
     return true;
 }
 
-/// Null when the file is no JSON object or none of the forms.
-const KnownForm* FormOf(const std::string& path) {
-    KORFileError error;
-    const auto file = KORJsonFile::Read(path, error);
+/// Null when it is no JSON object or none of the forms.
+const KnownForm* FormOf(const std::optional<KORJsonFile>& file) {
     if (!file || !file->Root().is_object()) return nullptr;
     for (const KnownForm& form : kTold) {
         if (Has(file->Root(), form)) return &form;
@@ -43,13 +41,15 @@ const KnownForm* FormOf(const std::string& path) {
 
 }  // namespace
 
-std::optional<FileForm> FormOfFile(const std::string& path) {
-    const KnownForm* found = FormOf(path);
+std::optional<FileForm> FormOfText(const std::string& text) {
+    KORFileError error;
+    const KnownForm* found = FormOf(KORJsonFile::Parse(text, "text", error));
     return found ? std::optional(found->form) : std::nullopt;
 }
 
 bool NameRightCommand(const std::string& path, FileForm expected, Findings& findings) {
-    const KnownForm* found = FormOf(path);
+    KORFileError error;
+    const KnownForm* found = FormOf(KORJsonFile::Read(path, error));
     if (!found || found->form == expected) return false;
     findings.RemoveAbout(path);
     findings.Add({FindingKind::USAGE,

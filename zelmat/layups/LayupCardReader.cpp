@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 
+#include "zelmat/files/ReadText.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/layups/PlyThickness.h"
 #include "zelmat/layups/StackingNotation.h"
@@ -33,17 +34,22 @@ const std::vector<std::string> kKeys = {"name",       "description",   "source",
 }  // namespace
 
 std::optional<LayupCard> LayupCardReader::Read(const std::string& path) {
+    auto text = zelmat::ReadText(path, findings_);
+    return text ? ReadText(std::move(*text), ShownPath(path)) : std::nullopt;
+}
+
+std::optional<LayupCard> LayupCardReader::ReadText(std::string text, const std::string& name) {
     KORFileError error;
-    auto read = KORJsonFile::Read(path, error);
+    auto read = KORJsonFile::Parse(std::move(text), name, error);
     if (!read) {
-        findings_.Add(UnreadableFile(path, error, "broken-json"));
+        findings_.Add(UnreadableFile(name, error, "broken-json"));
         return std::nullopt;
     }
 
     const PlacedJson file(std::move(*read));
     Findings mistakes;
     LayupCard card;
-    card.file = path;
+    card.file = name;
     const JsonNode root(file, mistakes);
     if (root.ExpectObject()) ReadCard(root, card);
     for (const Finding& mistake : mistakes.ByLine()) findings_.Add(mistake);

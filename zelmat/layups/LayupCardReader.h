@@ -15,8 +15,11 @@ class LayupCardReader {
 public:
     explicit LayupCardReader(Findings& findings) : findings_(findings) {}
 
-    /// Nothing when the file cannot be read or holds a mistake.
+    /// Nothing when the file cannot be read or holds a mistake. "-" is standard input.
     std::optional<LayupCard> Read(const std::string& path);
+
+    /// The same of a text that was read already; `name` is what findings call its file.
+    std::optional<LayupCard> ReadText(std::string text, const std::string& name);
 
 private:
     void ReadCard(const JsonNode& root, LayupCard& card) const;

@@ -2,8 +2,10 @@
 
 #include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/Program.h"
+#include "zelmat/cards/CardFormKind.h"
 #include "zelmat/cards/CardJson.h"
 #include "zelmat/cards/WriteCard.h"
+#include "zelmat/files/ReadText.h"
 
 namespace {
 
@@ -75,6 +77,64 @@ TEST(CardForms, OfEverySampleComeBackFromCsvAsTheyWere) {
         const std::string json = Written("json", zelmat::ReadCards(Sample(name), findings));
         EXPECT_EQ(Written("json", Read(Written("csv", Read(json)))), json) << name;
     }
+}
+
+/// What a document would hold, block by block.
+void ExpectTheSameNumbers(const char* one, const char* other) {
+    zelmat::Findings findings;
+    const auto a = zelmat::ReadCard(Sample(one), findings);
+    const auto b = zelmat::ReadCard(Sample(other), findings);
+    ASSERT_THAT(findings.All(), IsEmpty());
+    ASSERT_EQ(a->blocks.size(), b->blocks.size());
+    for (std::size_t block = 0; block < a->blocks.size(); ++block) {
+        const auto& tables = a->blocks[block].tables;
+        for (std::size_t table = 0; table < tables.size(); ++table) {
+            EXPECT_EQ(Rows(tables[table]), Rows(b->blocks[block].tables[table]))
+                << a->blocks[block].kind->name;
+        }
+        EXPECT_EQ(a->blocks[block].values.Get<double>("reference_temperature"),
+                  b->blocks[block].values.Get<double>("reference_temperature"));
+    }
+}
+
+TEST(CardForms, OfOtherUnitsGiveTheVeryNumbersOfTheSameCardInSi) {
+    ExpectTheSameNumbers("steel_s235_kinematic.json", "forms/steel_s235_mpa_degc.json");
+    ExpectTheSameNumbers("aluminium_6061_t6.json", "forms/aluminium_6061_t6.csv");
+}
+
+TEST(CardForms, OfACsvSampleComeBackFromJsonByteForByte) {
+    zelmat::Findings findings;
+    const auto text = zelmat::ReadText(Sample("forms/aluminium_6061_t6.csv"), findings);
+    ASSERT_TRUE(text);
+    EXPECT_EQ(Written("csv", Read(Written("json", Read(*text)))), *text);
+}
+
+TEST(CardForms, OfTheFcmatSampleHoldWhatItsPropertiesSay) {
+    zelmat::Findings findings;
+    const auto card = zelmat::ReadCard(Sample("forms/steel_s235.FCMat"), findings);
+    ASSERT_TRUE(card);
+    EXPECT_THAT(findings.All(), IsEmpty());
+    EXPECT_EQ(card->name, "Structural steel S235");
+    EXPECT_EQ(card->materialClass, "metal");
+    EXPECT_THAT(Rows(card->Find("elastic")->tables.front()), ElementsAre(ElementsAre(210e9, 0.3)));
+    EXPECT_THAT(Rows(card->Find("density")->tables.front()), ElementsAre(ElementsAre(7850.0)));
+    EXPECT_THAT(Rows(card->Find("thermal_expansion")->tables.front()), ElementsAre(ElementsAre(12e-6)));
+    EXPECT_EQ(card->Find("thermal_expansion")->values.Get<double>("reference_temperature"), 293.15);
+}
+
+TEST(CardForms, AreToldByTheFirstLineThatSaysSomething) {
+    using enum zelmat::CardFormKind;
+    for (const char* yaml :
+         {"General:\n", "Models:\n  Density:\n", "# x\n\nGeneral: # x\n", "General: {Name: A}\n",
+          "\"General\":\n", "'Models': {}\n", "UUID: a, b\n", "--- # x\n", "\xef\xbb\xbfGeneral:\r\n"}) {
+        EXPECT_EQ(zelmat::CardFormOf(yaml), FCMAT_YAML) << yaml;
+    }
+    EXPECT_EQ(zelmat::CardFormOf("{\"name\": \"General:\"}"), JSON);
+    EXPECT_EQ(zelmat::CardFormOf("\"General: x\""), JSON);
+    EXPECT_EQ(zelmat::CardFormOf("density [kg/m3]\n1\n"), CSV);
+    EXPECT_EQ(zelmat::CardFormOf("name = General: x\n"), CSV);
+    EXPECT_EQ(zelmat::CardFormOf("E [GPa]; nu\n"), CSV);
+    EXPECT_EQ(zelmat::CardFormOf("; x\n[FCMat]\n"), FCMAT_INI);
 }
 
 TEST(CardForms, FcmatHoldsOneNumberAPropertyAndListsTheRest) {

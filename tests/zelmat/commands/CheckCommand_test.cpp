@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/Program.h"
 
 namespace {
@@ -84,6 +85,46 @@ TEST(CheckCommand, PrintsItsRules) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.out, StartsWith("# Checks\n"));
     EXPECT_THAT(run.out, HasSubstr("| `poissons-ratio` | error | Poisson's ratio lies between -1 and 0.5"));
+}
+
+TEST(CheckCommand, ReadsMaterialsAndLayupsFromStandardInput) {
+    const ProgramRun card = RunZelmatWith({"check", "-"}, "<first_strain.json");
+    EXPECT_EQ(card.exitCode, 1);
+    EXPECT_EQ(card.out, "-: First strain: 1 error, 1 warning\n");
+    EXPECT_THAT(card.err, HasSubstr("standard input:8: error[first-plastic-strain]"));
+
+    const ProgramRun layup = RunZelmatWith({"check", "-"}, "<layup_no_material.json");
+    EXPECT_EQ(layup.exitCode, 1);
+    EXPECT_EQ(
+        layup.err,
+        "standard input:6: error[layer-material]: layer 2: it has no material (every layer needs one)\n");
+
+    const ProgramRun nothing = RunZelmatWith({"check", "-"}, "</dev/null");
+    EXPECT_EQ(nothing.exitCode, 3);
+    EXPECT_THAT(nothing.err, HasSubstr("standard input:1: error[broken-json]"));
+}
+
+TEST(CheckCommand, ChecksEveryMaterialOfACard) {
+    const CardFile file(R"([
+        {"name": "A", "density": {"temperature_dependent": false, "columns": ["density"], "rows": [[-1]]}},
+        {"name": "B", "density": {"temperature_dependent": false, "columns": ["density"], "rows": [[7850]]}},
+        {"name": "C", "density": {"temperature_dependent": false, "columns": ["density"], "rows": [[-2]]}}])");
+    const ProgramRun run = RunZelmat({"check", file.Path()});
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, file.Path() + ": A, B, C: 2 errors\n");
+    EXPECT_THAT(run.err, HasSubstr(":2: error[density]: row 1 of density: density is -1 kg/m3"));
+    EXPECT_THAT(run.err, HasSubstr(":4: error[density]: row 1 of density: density is -2 kg/m3"));
+}
+
+TEST(CheckCommand, ReadsDecimalCommasAsAllThatReadCardsDo) {
+    const CardFile file("E [GPa]; nu\n210,5; 0,3\n");
+    EXPECT_EQ(RunZelmat({"check", file.Path()}).exitCode, 1);
+    EXPECT_EQ(RunZelmat({"check", file.Path(), "--decimal-comma"}).out, file.Path() + ": card: clean\n");
+    EXPECT_THAT(RunZelmat({"show", file.Path(), "--decimal-comma"}).out, HasSubstr("210500"));
+    EXPECT_THAT(RunZelmat({"summary", file.Path(), "--decimal-comma"}).out, HasSubstr("elastic 1"));
+    EXPECT_THAT(RunZelmat({"convert", file.Path(), "--decimal-comma", "--to", "json"}).out,
+                HasSubstr("\n      [210.5, 0.3]\n"));
 }
 
 TEST(CheckCommand, WantsACard) {

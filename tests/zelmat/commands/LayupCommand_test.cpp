@@ -6,6 +6,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/CatalogFolder.h"
 #include "tests/zelmat/support/Program.h"
 
@@ -148,6 +149,26 @@ TEST(LayupCommand, SaysThatThereAreNoLayers) {
               "\n"
               "valid: no\n"
               "used by a composite section: no\n");
+}
+
+TEST(LayupCommand, RunsTheChecksBeforeItDraws) {
+    const std::string picture =
+        testing::TempDir() + "zelmat-checked-layup-" + std::to_string(getpid()) + ".svg";
+    const CardFile card(
+        R"({"name": "L", "ply_materials": {"M": {"E1": 181e9, "E2": 10.3e9, "nu12": 5, "G12": 7e9}},
+        "layers": [{"material": "M", "thickness": 0.001, "angle_deg": 0}]})");
+    const std::vector<std::string> unstable = {"layup", card.Path(), "--svg", picture};
+
+    const ProgramRun refused = RunZelmat(unstable);
+    EXPECT_EQ(refused.exitCode, 1);
+    EXPECT_THAT(refused.err, HasSubstr("error[ply-constants]: ply material \"M\": "));
+    EXPECT_THAT(refused.out, HasSubstr("[0]")) << "it is shown all the same";
+    EXPECT_FALSE(std::filesystem::exists(picture));
+
+    std::vector<std::string> anyway = unstable;
+    anyway.push_back("--keep-going");
+    EXPECT_EQ(RunZelmat(anyway).exitCode, 1);
+    EXPECT_TRUE(std::filesystem::remove(picture));
 }
 
 TEST(LayupCommand, RefusesACardWithAMistake) {

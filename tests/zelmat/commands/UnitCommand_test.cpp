@@ -62,6 +62,19 @@ TEST(UnitCommand, SaysWhichUnitsWouldDo) {
                            "would do: Pa, kPa, MPa, GPa, "));
 }
 
+TEST(UnitCommand, KnowsAbsoluteZero) {
+    EXPECT_EQ(RunZelmat({"unit", "0 K", "degC"}).out, "0 K = -273.15 degC\n");
+    EXPECT_EQ(RunZelmat({"unit", "-273.15 degC", "K"}).out, "-273.15 degC = 0 K\n");
+    EXPECT_EQ(RunZelmat({"unit", "-5 K", "degR"}).out, "-5 K = -9 degR\n") << "a difference";
+    for (const char* below : {"-273.16 degC", "-460 degF", "-1 K"}) {
+        const ProgramRun run = RunZelmat({"unit", below, std::string(below) == "-1 K" ? "degC" : "K"});
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_EQ(run.out, "");
+        EXPECT_EQ(run.err, "NUMBER: error[below-absolute-zero]: " + std::string(below) +
+                               " lies below absolute zero (0 K is -273.15 degC and -459.67 degF)\n");
+    }
+}
+
 TEST(UnitCommand, RefusesWhatIsNoNumberOrNoUnit) {
     const std::vector<std::vector<std::string>> wrong = {{"unit"},
                                                          {"unit", "210 GPa"},
