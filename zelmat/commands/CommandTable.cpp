@@ -13,6 +13,9 @@ namespace zelmat {
     COMMAND(New)                 \
     COMMAND(Upgrade)             \
     COMMAND(Layup)               \
+    COMMAND(At)                  \
+    COMMAND(Response)            \
+    COMMAND(Constants)           \
     COMMAND(Unit)                \
     COMMAND(Config)
 

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "zelmat/cards/ReadCard.h"
@@ -25,6 +26,10 @@ public:
     void Declare(CLI::App& line);
 
     const std::string& Path() const { return path_; }
+
+    /// For a command whose line ends with an argument of its own: with MATERIAL left out, the parser has
+    /// taken that argument for MATERIAL. Gives it back.
+    std::string TakeMaterial() { return std::exchange(material_, {}); }
 
     /// The one that MATERIAL names; all where it is left out.
     std::vector<Material> ReadAll(CommandContext& context) const;

@@ -1,13 +1,11 @@
 #include "zelmat/commands/LayupReport.h"
 
 #include <algorithm>
-#include <limits>
 
+#include "zelmat/commands/Shown.h"
 #include "zelmat/layups/Millimetres.h"
 #include "zelmat/materials/StatusText.h"
 #include "zelmat/quantities/NumberColumn.h"
-#include "zelmat/quantities/NumberText.h"
-#include "zelmat/quantities/UnitConversion.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
@@ -17,27 +15,6 @@ namespace zelmat {
 namespace {
 
 using nlohmann::ordered_json;
-
-/// Numbers of one kind, in the unit that was chosen for it.
-class Shown {
-public:
-    Shown(const Quantity& quantity, const UnitChoice& units)
-        : unit_(units.For(quantity)), conversion_(UnitConversion::FromStored(quantity, unit_)) {}
-
-    const std::string& Unit() const { return unit_.Spelling(); }
-
-    /// Not a number where the unit cannot hold it.
-    double operator()(double stored) const {
-        return conversion_(stored).value_or(std::numeric_limits<double>::quiet_NaN());
-    }
-
-    std::string Text(double stored) const { return WithUnit((*this)(stored), Unit()); }
-    ordered_json Json(double stored) const { return {{"value", (*this)(stored)}, {"unit", Unit()}}; }
-
-private:
-    zelmat::Unit unit_;
-    UnitConversion conversion_;
-};
 
 Shown ShownConstant(const std::string& name, const UnitChoice& units) {
     return {*FindQuantity(PlyConstantQuantity(name)), units};

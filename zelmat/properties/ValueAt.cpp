@@ -7,7 +7,9 @@ mechanics::Outcome<mechanics::TableValue> ValueAt(const mechanics::TemperatureTa
                                                   mechanics::OutsidePolicy policy) {
     if (temperature) return table.At(*temperature, policy);
     if (table.Range()) return mechanics::Refusal{"the table depends on temperature, and none is given"};
-    return table.At(0.0, policy);
+    auto value = table.At(0.0, policy).Value();
+    value.notes.clear();  // nobody asked for a temperature
+    return value;
 }
 
 }  // namespace zelmat

@@ -39,6 +39,11 @@ const std::vector<UnitSystem>& Systems() {
           {"area_density", "t/mm2"},
           {"force_per_length", "N/mm"},
           {"moment", "N mm"},
+          {"curvature", "1/mm"},
+          {"thermal_curvature", "1/(mm K)"},
+          {"membrane_compliance", "mm/N"},
+          {"bending_compliance", "1/(N mm)"},
+          {"energy_per_area", "mJ/mm^2"},
           {"velocity", "mm/s"},
           {"resistivity", "Ohm mm"},
           {"electrical_conductivity", "S/mm"}}},
@@ -55,6 +60,13 @@ const std::vector<UnitSystem>& Systems() {
           {"force", "kN"},
           {"force_per_length", "kN/mm"},
           {"moment", "kN mm"},
+          {"moment_per_length", "kN"},
+          {"curvature", "1/mm"},
+          {"thermal_curvature", "1/(mm K)"},
+          {"membrane_compliance", "mm/kN"},
+          {"coupling_compliance", "1/kN"},
+          {"bending_compliance", "1/(kN mm)"},
+          {"energy_per_area", "J/mm^2"},
           {"velocity", "mm/ms"},
           {"rate", "1/ms"},
           {"resistivity", "Ohm mm"},
@@ -74,6 +86,13 @@ const std::vector<UnitSystem>& Systems() {
           {"force", "lbf"},
           {"force_per_length", "lbf/in"},
           {"moment", "lbf in"},
+          {"moment_per_length", "lbf in/in"},
+          {"curvature", "1/in"},
+          {"thermal_curvature", "1/(in degF)"},
+          {"membrane_compliance", "in/lbf"},
+          {"coupling_compliance", "1/lbf"},
+          {"bending_compliance", "1/(lbf in)"},
+          {"energy_per_area", "in lbf/in^2"},
           {"velocity", "in/s"}}},
     };
     return systems;
@@ -86,7 +105,14 @@ const UnitSystem& TextSystem() {
                                        {"temperature_difference", "degC"},
                                        {"length", "mm"},
                                        {"stiffness_per_area", "MPa/mm"},
-                                       {"compressibility", "1/MPa"}}};
+                                       {"compressibility", "1/MPa"},
+                                       {"force_per_length", "N/mm"},
+                                       {"moment", "N mm"},
+                                       {"curvature", "1/mm"},
+                                       {"thermal_curvature", "1/(mm K)"},
+                                       {"membrane_compliance", "mm/N"},
+                                       {"bending_compliance", "1/(N mm)"},
+                                       {"energy_per_area", "mJ/mm^2"}}};
     return system;
 }
 
