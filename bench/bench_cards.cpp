@@ -26,7 +26,7 @@ public:
     ~Folder() { std::filesystem::remove_all(path_); }
 
     std::string Write(const std::string& name, const nlohmann::json& card) const {
-        const auto path = (path_ / name).string();
+        std::string path = (path_ / name).string();
         std::ofstream(path) << card.dump(1);
         return path;
     }
@@ -109,10 +109,10 @@ BENCHMARK(ParseALongCard)->Unit(benchmark::kMillisecond);
 BENCHMARK(ALongCardIntoADocument)->Unit(benchmark::kMillisecond);
 
 const bench::Ratio kRatios[] = {
-    {"1,000 cards into a document", Figure::Time("ManyCardsIntoADocument"),
-     Figure::Time("ParseManyCards", "parsing their JSON"), Target::AtMost(3)},
-    {"a card of 100,000 rows into a document", Figure::Time("ALongCardIntoADocument"),
-     Figure::Time("ParseALongCard", "parsing its JSON"), Target::AtMost(3)},
+    {"1,000 cards into a document, to parsing their JSON", Figure::Time("ManyCardsIntoADocument"),
+     Figure::Time("ParseManyCards"), Target::AtMost(3)},
+    {"a card of 100,000 rows into a document, to parsing its JSON", Figure::Time("ALongCardIntoADocument"),
+     Figure::Time("ParseALongCard"), Target::AtMost(3)},
 };
 
 }  // namespace

@@ -2,10 +2,14 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/catalog/KORJsonFile.h"
 #include "platform/store/KORLayout.h"
+
+/// How catalogs name a kind of attribute: "list of doubles".
+std::string_view KORKindName(KORAttributeKind kind);
 
 /// What a catalog says of one attribute beyond its name, kind and initial value.
 struct KORCatalogAttribute {

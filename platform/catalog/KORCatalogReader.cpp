@@ -9,10 +9,12 @@ namespace {
 
 constexpr int kFormat = 1;
 
-constexpr struct {
+struct Kind {
     std::string_view name;
     KORAttributeKind kind;
-} kKinds[] = {
+};
+
+constexpr Kind kKinds[] = {
     {"boolean", KORAttributeKind::Boolean},
     {"integer", KORAttributeKind::Integer},
     {"double", KORAttributeKind::Double},
@@ -36,6 +38,10 @@ bool HasUnit(KORAttributeKind kind) {
 }
 
 }  // namespace
+
+std::string_view KORKindName(KORAttributeKind kind) {
+    return std::ranges::find(kKinds, kind, &Kind::kind)->name;
+}
 
 std::vector<KORCatalogType> KORCatalogReader::Read() {
     std::vector<KORCatalogType> types;

@@ -17,7 +17,8 @@ namespace zelmat {
     COMMAND(Response)            \
     COMMAND(Constants)           \
     COMMAND(Unit)                \
-    COMMAND(Config)
+    COMMAND(Config)              \
+    COMMAND(Catalog)
 
 #define ZELMAT_DECLARE(name) CommandKind name##Command();
 ZELMAT_COMMANDS(ZELMAT_DECLARE)
