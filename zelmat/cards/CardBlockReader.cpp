@@ -5,6 +5,7 @@
 
 #include "zelmat/cards/CardTableReader.h"
 #include "zelmat/cards/CommentKey.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/text/NearestName.h"
 #include "zelmat/text/WordList.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "zelmat/cards/PropertyNames.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/UnitConversion.h"
 #include "zelmat/text/CountText.h"

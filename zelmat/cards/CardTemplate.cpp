@@ -5,6 +5,7 @@
 #include "zelmat/cards/CardUnits.h"
 #include "zelmat/cards/JsonCardReader.h"
 #include "zelmat/materials/BlockKind.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/materials/Values.h"
 #include "zelmat/quantities/UnitChoice.h"
 #include "zelmat/text/WordList.h"

@@ -14,36 +14,16 @@ namespace {
 
 using Names = std::array<std::string_view, 2>;
 
-/// Columns that measure a member of a family; the others measure what is stored in their unit.
-constexpr std::array<Names, 4> kOwnQuantities = {{
-    {"youngs_modulus", "modulus"},
-    {"pressure", "pressure"},
-    {"plastic_strain", "strain"},
-    {"rms_relative_deviation", "number"},
-}};
-
 /// A card may name a quantity as the block that holds it.
 constexpr std::array<Names, 1> kOtherNames = {{{"thermal_expansion", "expansion"}}};
 
-template <std::size_t kCount>
-std::string_view Second(const std::array<Names, kCount>& pairs, std::string_view first) {
-    const auto found =
-        std::find_if(pairs.begin(), pairs.end(), [&](const Names& pair) { return pair[0] == first; });
-    return found == pairs.end() ? std::string_view() : (*found)[1];
-}
-
 const Quantity* FindNamed(const std::string& name) {
-    const std::string_view other = Second(kOtherNames, name);
-    return FindQuantity(other.empty() ? name : other);
+    const auto other = std::find_if(kOtherNames.begin(), kOtherNames.end(),
+                                    [&](const Names& pair) { return pair[0] == name; });
+    return FindQuantity(other == kOtherNames.end() ? name : (*other)[1]);
 }
 
 }  // namespace
-
-const Quantity* QuantityOf(const std::string& name, const std::string& storedUnit) {
-    if (storedUnit.empty()) return nullptr;
-    const std::string_view own = Second(kOwnQuantities, name);
-    return own.empty() ? FindQuantityStoredIn(storedUnit) : FindQuantity(own);
-}
 
 CardUnits::CardUnits(const JsonNode& units) {
     if (!units.ExpectObject()) return;

@@ -11,10 +11,6 @@
 
 namespace zelmat {
 
-/// What a column's numbers measure: "youngs_modulus" a modulus, "yield_stress" a stress. Null when they have
-/// no unit of their own.
-const Quantity* QuantityOf(const std::string& name, const std::string& storedUnit);
-
 /// The units of a card's numbers where the numbers themselves do not say one: its key `units`, and SI for
 /// what that does not name. "stress" speaks for moduli and pressures, too, unless these are named.
 class CardUnits {

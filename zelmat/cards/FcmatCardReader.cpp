@@ -11,6 +11,7 @@
 #include "zelmat/cards/TextLines.h"
 #include "zelmat/cards/YamlTree.h"
 #include "zelmat/materials/BlockKind.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/materials/Values.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/PlainUnitText.h"

@@ -4,27 +4,39 @@
 #include <array>
 #include <cmath>
 
+#include "zelmat/quantities/Quantity.h"
+
 namespace zelmat {
 
 namespace {
 
 struct PlyConstant {
     const char* name;
-    const char* unit;
     const char* quantity;
 };
 
 constexpr std::array<PlyConstant, 20> kConstants = {{
-    {"E1", "Pa", "modulus"},        {"E2", "Pa", "modulus"},         {"E3", "Pa", "modulus"},
-    {"nu12", "-", "number"},        {"nu13", "-", "number"},         {"nu23", "-", "number"},
-    {"G12", "Pa", "modulus"},       {"G13", "Pa", "modulus"},        {"G23", "Pa", "modulus"},
-    {"E", "Pa", "modulus"},  // of an isotropic ply
-    {"nu", "-", "number"},          {"density", "kg/m3", "density"}, {"alpha", "1/K", "expansion"},
-    {"alpha1", "1/K", "expansion"},                          // along the fibre
-    {"alpha2", "1/K", "expansion"}, {"Xt", "Pa", "stress"},  // strengths: along the fibre, across it, in
-                                                             // shear; tension and compression
-    {"Xc", "Pa", "stress"},         {"Yt", "Pa", "stress"},          {"Yc", "Pa", "stress"},
-    {"S", "Pa", "stress"},
+    {"E1", "modulus"},
+    {"E2", "modulus"},
+    {"E3", "modulus"},
+    {"nu12", "number"},
+    {"nu13", "number"},
+    {"nu23", "number"},
+    {"G12", "modulus"},
+    {"G13", "modulus"},
+    {"G23", "modulus"},
+    {"E", "modulus"},  // of an isotropic ply
+    {"nu", "number"},
+    {"density", "density"},
+    {"alpha", "expansion"},
+    {"alpha1", "expansion"},  // along the fibre
+    {"alpha2", "expansion"},
+    // Strengths: along the fibre, across it, in shear; tension and compression.
+    {"Xt", "stress"},
+    {"Xc", "stress"},
+    {"Yt", "stress"},
+    {"Yc", "stress"},
+    {"S", "stress"},
 }};
 
 const PlyConstant* Find(const std::string& constant) {
@@ -53,7 +65,7 @@ bool PlyMaterial::IsIsotropic() const {
 
 std::string PlyConstantUnit(const std::string& constant) {
     const PlyConstant* known = Find(constant);
-    return known ? known->unit : "";
+    return known ? FindQuantity(known->quantity)->stored.Spelling() : "";
 }
 
 const char* PlyConstantQuantity(const std::string& constant) {

@@ -9,20 +9,22 @@
 #include "zelmat/layups/PlyThickness.h"
 #include "zelmat/layups/StackingNotation.h"
 #include "zelmat/quantities/NumberText.h"
+#include "zelmat/quantities/Quantity.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, const char*>, 7> kUnits = {{
-    {"length", "m"},
-    {"angle", "deg"},
-    {"stress", "Pa"},
-    {"density", "kg/m3"},
-    {"A", "N/m"},
-    {"B", "N"},
-    {"D", "N m"},
+/// What a card may name the unit of, and the quantity that it is.
+constexpr std::array<std::pair<const char*, const char*>, 7> kQuantities = {{
+    {"length", "length"},
+    {"angle", "angle"},
+    {"stress", "stress"},
+    {"density", "density"},
+    {"A", "force_per_length"},
+    {"B", "force"},
+    {"D", "moment"},
 }};
 
 // "published" and "computed" hold stiffness matrices and moduli, for those who check an analysis against
@@ -72,19 +74,20 @@ void LayupCardReader::ReadCard(const JsonNode& root, LayupCard& card) const {
 
 void LayupCardReader::ReadUnits(const JsonNode& units) const {
     if (!units.ExpectObject()) return;
-    for (const std::string& quantity : units.Keys()) {
-        const JsonNode node = units.At(quantity);
-        const auto known = std::find_if(kUnits.begin(), kUnits.end(),
-                                        [&](const auto& unit) { return unit.first == quantity; });
-        if (known == kUnits.end()) {
-            node.Report("unknown-unit", "there is no quantity " + Quoted(quantity),
-                        {"known: " + WordList(kUnits, [](const auto& unit) { return unit.first; })});
+    for (const std::string& name : units.Keys()) {
+        const JsonNode node = units.At(name);
+        const auto known = std::find_if(kQuantities.begin(), kQuantities.end(),
+                                        [&](const auto& entry) { return entry.first == name; });
+        if (known == kQuantities.end()) {
+            node.Report("unknown-unit", "there is no quantity " + Quoted(name),
+                        {"known: " + WordList(kQuantities, [](const auto& entry) { return entry.first; })});
             continue;
         }
+        const std::string& expected = FindQuantity(known->second)->stored.Spelling();
         const auto given = node.Text();
-        if (given && *given != known->second) {
-            node.Report("wrong-unit", quantity + " is given in " + Quoted(*given),
-                        {std::string("expected ") + known->second, "convert the values"});
+        if (given && *given != expected) {
+            node.Report("wrong-unit", name + " is given in " + Quoted(*given),
+                        {"expected " + expected, "convert the values"});
         }
     }
 }

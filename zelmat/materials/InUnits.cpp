@@ -3,6 +3,7 @@
 #include <optional>
 #include <utility>
 
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/UnitConversion.h"
 
 namespace zelmat {
@@ -25,15 +26,6 @@ std::optional<Shown> Converted(std::string_view name, std::string_view unit, std
 }
 
 }  // namespace
-
-const Quantity* QuantityOf(std::string_view name, std::string_view unit) {
-    for (const std::string_view ending : {"modulus", "pressure", "strain"}) {
-        if (!name.ends_with(ending)) continue;
-        const Quantity* quantity = FindQuantity(ending);
-        if (quantity->stored.Spelling() == unit) return quantity;
-    }
-    return unit.empty() ? nullptr : FindQuantityStoredIn(unit);
-}
 
 Table InUnits(const Table& table, const UnitChoice& units) {
     Table shown = table;
