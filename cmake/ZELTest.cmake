@@ -3,6 +3,7 @@
 # A test program of GoogleTest cases. ctest runs every case in a process of its own, so what a process does only once
 # (resolving an attribute key, say) is done anew in every case.
 include(GoogleTest)
+include(ZELLintBatches)
 find_package(GTest REQUIRED)
 
 # What every test includes, parsed once for all of them.
@@ -12,6 +13,9 @@ target_precompile_headers(zel_test_headers PRIVATE <gmock/gmock.h> <gtest/gtest.
 
 function(zel_test name)
     cmake_parse_arguments(arg "" "" "FILES;LINKS" ${ARGN})
+    if(ZEL_LINT)
+        zel_lint_batches(arg_FILES ${arg_FILES})
+    endif()
     add_executable(${name} ${arg_FILES})
     target_link_libraries(${name} PRIVATE ${arg_LINKS} zel_build_flags GTest::gmock GTest::gtest_main)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}")

@@ -25,10 +25,10 @@ public:
         std::ifstream file(path, std::ios::binary);
         bytes_.assign(std::istreambuf_iterator<char>(file), {});
         const auto header = At<Elf64_Ehdr>(0);
-        for (unsigned i = 0; i < header.e_shnum; ++i) {
+        for (std::size_t i = 0; i < header.e_shnum; ++i) {
             const auto section = At<Elf64_Shdr>(header.e_shoff + i * header.e_shentsize);
             if (section.sh_type != kind) continue;
-            Read(section, At<Elf64_Shdr>(header.e_shoff + section.sh_link * header.e_shentsize));
+            Read(section, At<Elf64_Shdr>(header.e_shoff + std::size_t{section.sh_link} * header.e_shentsize));
         }
     }
 

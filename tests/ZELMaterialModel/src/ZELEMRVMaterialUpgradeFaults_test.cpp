@@ -56,7 +56,7 @@ struct OldMaterial {
     KORIMaterialFeature_var platformMaterial;
 };
 
-HRESULT Upgrade(const KORISpecObject_var& material) {
+HRESULT RunUpgrade(const KORISpecObject_var& material) {
     const KORISamUpgrade_var upgrade = material;
     if (!upgrade || !upgrade->IsUpgradeNeeded()) return S_OK;
     return upgrade->Upgrade();
@@ -82,7 +82,7 @@ TEST_P(ZELUpgradeFaults, NeverScaleTwiceAndLeaveNothingBehindWhicheverCallFails)
         const long keys = run.store.KeyReferences();
         HRESULT status = S_OK;
 
-        run.Act([&] { status = Upgrade(old.data.material); });
+        run.Act([&] { status = RunUpgrade(old.data.material); });
 
         EXPECT_EQ(run.store.KeyReferences(), keys);
         EXPECT_EQ(KORModule::Of("ZELMaterialModel").LiveObjects(), 0);
@@ -103,8 +103,8 @@ TEST_P(ZELUpgradeFaults, NeverScaleTwiceAndLeaveNothingBehindWhicheverCallFails)
         }
 
         // Opened again, without faults.
-        Upgrade(old.Current());
-        Upgrade(old.Current());
+        RunUpgrade(old.Current());
+        RunUpgrade(old.Current());
         const ZELRows rows = Coefficients(old.Current());
         EXPECT_TRUE(rows == (ZELRows{{4.0, 2.0, 293.0}}) || rows == (ZELRows{{1.0, 8.0, 293.0}}) ||
                     rows.empty())
@@ -120,7 +120,7 @@ TEST_P(ZELUpgradeFaults, LeaveWhatWasDoneAndNothingElseOnTheOldestMaterial) {
         const long keys = run.store.KeyReferences();
         HRESULT status = S_OK;
 
-        run.Act([&] { status = Upgrade(material); });
+        run.Act([&] { status = RunUpgrade(material); });
 
         EXPECT_EQ(References(material), references);
         EXPECT_EQ(run.store.KeyReferences(), keys);
@@ -133,7 +133,7 @@ TEST_P(ZELUpgradeFaults, LeaveWhatWasDoneAndNothingElseOnTheOldestMaterial) {
             EXPECT_TRUE(GetFlag(hyperelasticity, "HyperelasticUnitUpgradeRequired"));
             EXPECT_TRUE(Component(hyperelasticity, "HyperelasticModel_v2"));
         }
-        EXPECT_EQ(Upgrade(material), S_OK) << "the next run goes on from what is stored";
+        EXPECT_EQ(RunUpgrade(material), S_OK) << "the next run goes on from what is stored";
         EXPECT_TRUE(Component(material, "ZELUserMaterial"));
         EXPECT_TRUE(GetFlag(Component(material, "ZELHyperelasticity"), "HyperelasticUnitUpgradeRequired"));
     });
@@ -148,7 +148,7 @@ TEST_P(ZELUpgradeFaults, KeepTestDataListedOnceWhicheverCallOfFetchingThemFails)
         const long model = References(data.model);
         const long keys = run.store.KeyReferences();
 
-        run.Act([&] { Upgrade(data.material); });
+        run.Act([&] { RunUpgrade(data.material); });
 
         const ZELRows rows = ZELTestDataOf(data.model);
         // Behind a throwing store, and a flag that cannot be read, the list may be shorter; never longer.

@@ -46,7 +46,7 @@ protected:
         SetList(feature_, "TemperatureData", temperatures);
     }
 
-    std::vector<std::string> With(std::vector<const char*> texts) const {
+    std::vector<std::string> With(const std::vector<const char*>& texts) const {
         std::vector<std::string> lines;
         for (const char* text : texts) {
             if (text) lines.emplace_back(text);

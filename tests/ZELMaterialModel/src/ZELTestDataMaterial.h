@@ -21,7 +21,7 @@ struct ZELTestDataMaterial {
     /// One more test-data feature on the model's list, in some container.
     KORISpecObject_var AddTestData(ZELTestStore& store, const KORIContainer_var& container,
                                    const std::vector<double>& values) {
-        const auto data = store.MakeIn(container, "ZELMaterialModelRowDataLT");
+        auto data = store.MakeIn(container, "ZELMaterialModelRowDataLT");
         SetList(data, "MaterialModelRowData", values);
         AppendComponent(model, "HyperelasticMatModelData", data);
         return data;

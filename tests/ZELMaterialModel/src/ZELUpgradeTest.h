@@ -19,7 +19,7 @@ inline std::vector<int> FlagsOf(const KORISamUpgrade_var& upgrade) {
 inline std::vector<int> Needs(const KORISpecObject_var& material) {
     const KORISamUpgrade_var upgrade = material;
     const bool needed = upgrade->IsUpgradeNeeded();
-    const auto flags = FlagsOf(upgrade);
+    auto flags = FlagsOf(upgrade);
     EXPECT_EQ(needed, flags != std::vector<int>(7, 0));
     return flags;
 }
@@ -45,7 +45,7 @@ protected:
 
     /// Johnson-Cook data of an older release, under the plastic feature.
     KORISpecObject_var AddOldJohnsonCook(const ZELMaterialTree& tree) {
-        const auto old = Make("ZELPlasticJohnsonCookLT");
+        auto old = Make("ZELPlasticJohnsonCookLT");
         SetNumber(old, "CoeffA", 350e6);
         SetNumber(old, "CoeffB", 275e6);
         SetNumber(old, "CoeffN", 0.36);
@@ -58,7 +58,7 @@ protected:
 
     /// A model as an older release kept it, in place of the current one.
     KORISpecObject_var AddOldModel(const ZELFullMaterialTree& tree) {
-        const auto old = Make("ZELHyperelasticMaterialModelLT");
+        auto old = Make("ZELHyperelasticMaterialModelLT");
         SetWhole(old, "HyperelasticMatModelPotentialOrder", 2);
         SetFlag(old, "HyperelasticMatModelTempDependentFlag", true);
         SetText(old, "HyperelasticMatModelDataFile", "rubber.csv");

@@ -141,7 +141,7 @@ std::vector<Segment> Hatching(Picture& picture, const Element& box) {
     for (const Element& path : picture.All("path")) {
         const auto kind = path.attributes.find("stroke-width");
         if (kind == path.attributes.end() || path.attributes.at("fill") != "none") continue;
-        const auto segments = Segments(path);
+        auto segments = Segments(path);
         if (segments.empty()) continue;
         const Segment& first = segments.front();
         const bool inside = first.x1 >= left && first.x1 <= left + box.Number("width") && first.y1 >= top &&

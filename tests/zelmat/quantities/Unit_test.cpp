@@ -129,9 +129,9 @@ TEST(Unit, AProductAfterAQuotientIsRefusedWithParentheses) {
 
 TEST(Unit, NumbersBesideOneAndPowersOfTenAreRefused) {
     const std::string reason = " has a number that is neither 1 nor a power of ten such as 1e-6";
-    for (const std::string text :
+    for (const char* text :
          {"200 MPa", "100 MPa", "000 MPa", "2", "0.001 m", "10e-6/K", "1.5 m", "12e-6/K", "1x"}) {
-        EXPECT_EQ(Refusal(text), "the unit '" + text + "'" + reason);
+        EXPECT_EQ(Refusal(text), std::string("the unit '") + text + "'" + reason);
     }
 }
 

@@ -45,7 +45,7 @@ TEST(HardeningTable, IsConstantOutsideAndSaysSo) {
 }
 
 TEST(HardeningTable, IsRefusedForRowsThatAreNoCurves) {
-    const auto why = [](std::vector<HardeningPoint> rows) { return HardeningTable::Over(rows).Why(); };
+    const auto why = [](const std::vector<HardeningPoint>& rows) { return HardeningTable::Over(rows).Why(); };
     EXPECT_EQ(why({}), "a hardening table needs a row");
     EXPECT_EQ(why({{200, 0.1, 300}}), "row 1: a curve has to start at plastic strain 0");
     EXPECT_EQ(why({{200, 0, 300}, {210, 0, 300}}), "row 2: the plastic strain does not rise");

@@ -77,7 +77,7 @@ TEST(TemperatureTable, HasSlopesThatDifferOnARow) {
 }
 
 TEST(TemperatureTable, IsRefusedForRowsThatAreNoTable) {
-    const auto why = [](std::vector<TemperatureTable::Row> rows) {
+    const auto why = [](const std::vector<TemperatureTable::Row>& rows) {
         return TemperatureTable::Over(rows).Why();
     };
     EXPECT_EQ(why({}), "a table over temperature needs a row");
