@@ -1,7 +1,7 @@
 #include "zelmat/materials/WrittenNumbers.h"
 
-#include "zelmat/materials/InUnits.h"
 #include "zelmat/materials/Material.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/UnitConversion.h"
 
 namespace zelmat {
