@@ -6,6 +6,7 @@
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/materials/InUnits.h"
 #include "zelmat/materials/OverTemperature.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/mechanics/hyperelastic/HyperelasticModel.h"
 #include "zelmat/properties/ElasticProperty.h"
 #include "zelmat/properties/ExpansionProperty.h"
