@@ -183,11 +183,6 @@ const bench::Ratio kRatios[] = {
      Target::AtMost(1.5)},
     {"  each time another of 20,000 (cold caches)", Figure::Time("OneScalarStepElsewhere/20000"),
      Figure::Time("OneScalarStepElsewhere/20"), Target::None()},
-    // Documents in a file: the peer's figures stand alone until the house has its own.
-    {"open 2,000 materials with tables", Figure::NoneYet(), Figure::Time("PeerOpen/2000"),
-     Target::AtLeast(5)},
-    {"save 2,000 materials with tables", Figure::NoneYet(), Figure::Time("PeerSave/2000"),
-     Target::AtLeast(2)},
 };
 
 }  // namespace

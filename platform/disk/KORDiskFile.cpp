@@ -166,9 +166,7 @@ bool KORDiskFile::LookAtHeader(KORFileError& error) const {
 }
 
 bool KORDiskFile::Connect(KORFileError& error) {
-    if (connection_.Open(absolute_)) return true;
-    error = Error("cannot be opened");
-    return false;
+    return connection_.Open(absolute_) || FailAt("cannot be opened", error);
 }
 
 bool KORDiskFile::Begin(Use use, KORFileError& error) {
@@ -176,28 +174,37 @@ bool KORDiskFile::Begin(Use use, KORFileError& error) {
         use == Use::Change
             ? connection_.Run("PRAGMA journal_mode=DELETE") && connection_.Run("BEGIN IMMEDIATE")
             : connection_.Run("BEGIN") && connection_.Run("SELECT count(*) FROM sqlite_schema");
-    if (!begun) error = Error(use == Use::Change ? "cannot be opened to change it" : "cannot be read");
-    return begun;
+    return begun || FailAt(use == Use::Change ? "cannot be opened to change it" : "cannot be read", error);
 }
 
-bool KORDiskFile::CheckWhole(bool& newer, KORFileError& error) {
+bool KORDiskFile::FailAt(const char* tried, KORFileError& error) const {
+    error = Error(tried);
+    // What is cut short is told as that, and not as what SQLite makes of it.
+    if (connection_.IsDamaged()) static_cast<void>(HasItsSize(error));
+    return false;
+}
+
+bool KORDiskFile::HasItsSize(KORFileError& error) const {
     const auto header = connection_.ReadHeader();
     const std::int64_t size = connection_.FileSize();
     if (size == 0) return Refuse(KORDiskSchema::ProblemOf({}, 0), error);
     if (!header) return Refuse("cannot be read", error);
-    const std::string problem = KORDiskSchema::ProblemOf(*header, header->size());
-    if (!problem.empty()) return Refuse(problem, error);
     const std::int64_t whole = KORDiskSchema::WholeSize(*header);
-    if (size != whole) {
-        return Refuse("is damaged: it has " + std::to_string(size) + " bytes, and its header tells of " +
-                          std::to_string(whole),
-                      error);
-    }
-    newer = KORDiskSchema::FormatOf(*header) > KORDiskSchema::kFormat;
+    if (size == whole) return true;
+    return Refuse("is damaged: it has " + std::to_string(size) + " bytes, and its header tells of " +
+                      std::to_string(whole),
+                  error);
+}
+
+bool KORDiskFile::CheckWhole(bool& newer, KORFileError& error) {
+    if (!HasItsSize(error)) return false;
+    const KORSqlite::Header header = *connection_.ReadHeader();
+    const std::string problem = KORDiskSchema::ProblemOf(header, header.size());
+    if (!problem.empty()) return Refuse(problem, error);
+    newer = KORDiskSchema::FormatOf(header) > KORDiskSchema::kFormat;
     if (newer || KORDiskSchema::IsExact(connection_)) return true;
     if (!connection_.Failed()) return Refuse("is damaged: its tables are not a document's", error);
-    error = Error("cannot be read");
-    return false;
+    return FailAt("cannot be read", error);
 }
 
 bool KORDiskFile::MayChange(KORFileError& error) const {

@@ -46,7 +46,9 @@ private:
     bool LookAtHeader(KORFileError& error) const;
     bool Begin(Use use, KORFileError& error);
     bool CheckWhole(bool& newer, KORFileError& error);
+    bool HasItsSize(KORFileError& error) const;
     bool MayChange(KORFileError& error) const;
+    bool FailAt(const char* tried, KORFileError& error) const;  ///< the connection has failed
     bool Refuse(std::string message, KORFileError& error) const;
     bool Connect(KORFileError& error);
     bool HasJournal() const;

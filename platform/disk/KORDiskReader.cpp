@@ -109,14 +109,15 @@ void KORDiskReader::MakeFeature(const KORSqliteStatement& row, const KORDiskCont
     const KORLayoutHandle layout = LayoutOf(type);
     document_.Features().SkipTo(feature - 1);
     const KORUnicodeString name = row.IsNull(3) ? layout->NameText() : KORUnicodeString(row.Bytes(3));
-    made_.push_back(
-        KORFeature::New(document_, layout, name, *containers.At(std::max<std::uint64_t>(container, 1))));
-    KORFeature& made = *made_.back();
-    if (container == 0) made.SetContainer(nullptr);
-    anyOutside_ |= container == 0;
-    if (!row.IsNull(4)) made.SetAlias(KORUnicodeString(row.Bytes(4)));
+    const auto made =
+        KORFeature::New(document_, layout, name, *containers.At(std::max<std::uint64_t>(container, 1)));
+    if (container == 0) {
+        outside_.push_back(made);
+        made->SetContainer(nullptr);
+    }
+    if (!row.IsNull(4)) made->SetAlias(KORUnicodeString(row.Bytes(4)));
     try {
-        ReadAttributes(row.Bytes(5), made);
+        ReadAttributes(row.Bytes(5), *made);
     } catch (const std::length_error&) {
         Damaged(Called(feature) + " has too many attributes");
     }
@@ -128,7 +129,8 @@ void KORDiskReader::ReadAttributes(std::string_view packed, KORFeature& feature)
         const std::uint64_t name = attributes.Count();
         const std::size_t first = references_.size();
         KORUnpackedValue read = KORUnpackValue(attributes, references_);
-        if (attributes.Failed() || !index_.names.Has(name)) {
+        const bool absent = read.value.State() == KORValueState::Absent;  // means something in steps only
+        if (attributes.Failed() || absent || !index_.names.Has(name)) {
             return Damaged(Called(feature.Number()) + ": its attributes cannot be taken apart");
         }
         const KORAttributeKind kind = read.value.Kind();
@@ -137,7 +139,7 @@ void KORDiskReader::ReadAttributes(std::string_view packed, KORFeature& feature)
             const bool list = kind == KORAttributeKind::ListOfComponents;
             pending_.push_back({&feature, slot, list, first, read.references});
         } else {
-            feature.Write(slot, std::move(read.value));
+            feature.Swap(slot, read.value);
         }
     }
 }
@@ -165,7 +167,7 @@ void KORDiskReader::Resolve() {
                 value = KORValue::OfComponent(target);
             }
         }
-        pending.feature->Write(pending.slot, std::move(value));
+        pending.feature->Swap(pending.slot, value);
     }
     pending_.clear();
     references_.clear();
@@ -221,15 +223,15 @@ bool KORDiskReader::ReadEntries(std::string_view packed, const KORDiskContainers
 
 std::vector<std::uint32_t> KORDiskReader::Finish() {
     std::vector<std::uint32_t> dropped;
-    if (anyOutside_) {
+    if (!outside_.empty()) {
         const KORReachedFeatures reached(document_);
-        for (const auto& feature : made_) {
+        for (const auto& feature : outside_) {
             if (reached.Contains(*feature)) continue;
             dropped.push_back(feature->Number());
             feature->Clear();  // one by one: what is left may be a long chain, or a ring
         }
     }
-    made_.clear();
+    outside_.clear();
     document_.Features().Clean();
     document_.Log().Saved();
     return dropped;

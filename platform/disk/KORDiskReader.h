@@ -62,8 +62,8 @@ private:
     KORDiskIndex& index_;
     std::optional<KORDiskSlots> slots_;
     std::vector<KORLayoutHandle> layouts_;  ///< by the type's number less 1, once a feature was of it
-    std::vector<KORVar<KORFeature>> made_;
-    bool anyOutside_ = false;  ///< some of them lie in no container
+    std::vector<KORVar<KORFeature>>
+        outside_;  ///< the features that lie in no container: nothing else may hold them
     std::vector<Pending> pending_;
     std::vector<std::uint32_t> references_;
     std::vector<std::string> notes_;

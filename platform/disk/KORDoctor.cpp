@@ -4,6 +4,8 @@
 #include <map>
 #include <unordered_set>
 
+#include "platform/analysis/KORUnitTypes.h"
+#include "platform/catalog/KORJsonFile.h"
 #include "platform/disk/KORDiskFile.h"
 #include "platform/disk/KORPackedValue.h"
 #include "platform/disk/KORSqliteStatement.h"
@@ -58,12 +60,16 @@ private:
     }
 
     void CheckCounters() {
-        KORSqliteStatement row(file_, "SELECT last_feature, last_step, done FROM document");
+        KORSqliteStatement row(file_, "SELECT last_feature, last_step, done, pressure_unit FROM document");
         constexpr std::int64_t kMost = std::numeric_limits<std::int32_t>::max();
         const char* const repair = "the counters would be made from the rows there are";
         if (!row.Step()) return Find(Kind::Table, "the table document has no row", repair);
         lastFeature_ = row.Integer(0);
         lastStep_ = row.Integer(1);
+        if (const std::string unit(row.Bytes(3));
+            !unit.empty() && !KORFindUnit(*KORFindUnitType("PRESSURE"), unit)) {
+            Find(Kind::Table, KORShownText(unit) + " is no unit of pressure", "no unit would be chosen");
+        }
         for (int column = 0; column < 3; ++column) {
             if (row.Integer(column) >= 0 && row.Integer(column) <= kMost) continue;
             Find(Kind::Table, "the counters in the table document make no sense", repair);
@@ -78,7 +84,8 @@ private:
         KORSqliteStatement row(file_, ("SELECT id, " + column + " FROM " + table + " ORDER BY id").c_str());
         last = first - 1;
         while (row.Step()) {
-            const bool good = row.Integer(0) == ++last && seen.emplace(row.Bytes(1)).second;
+            const bool good =
+                row.Integer(0) == ++last && !row.Bytes(1).empty() && seen.emplace(row.Bytes(1)).second;
             if (good) continue;
             Find(Kind::Table, "row " + Number(row.Integer(0)) + " of the table " + table + " is out of order",
                  kRestore);
@@ -150,7 +157,9 @@ private:
                 if (entries.Count() > static_cast<std::uint64_t>(containers_)) return false;
             } else {
                 if (place >= 3 && !IsName(entries.Count())) return false;
-                KORUnpackValue(entries, targets);
+                const KORValue value = KORUnpackValue(entries, targets).value;
+                const bool absent = value.State() == KORValueState::Absent;
+                if (place < 3 && (absent || value.Kind() != KORAttributeKind::String)) return false;
             }
         }
         for (const std::uint32_t target : targets) {

@@ -33,7 +33,8 @@ void KORSqlite::Close() noexcept {
 }
 
 bool KORSqlite::Open(const std::string& path) {
-    const int opened = sqlite3_open_v2(path.c_str(), &connection_, SQLITE_OPEN_READWRITE, nullptr);
+    constexpr int kFlags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;  // one thread: nothing to keep apart
+    const int opened = sqlite3_open_v2(path.c_str(), &connection_, kFlags, nullptr);
     if (opened != SQLITE_OK) {
         Fail(opened);
         return false;
