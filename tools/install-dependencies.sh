@@ -17,6 +17,7 @@ packages=(
     libeigen3-dev
     libceres-dev
     locales
+    gnuplot-nox
     libxml2-utils
     python3-jsonschema
 )

@@ -16,6 +16,7 @@ namespace zelmat {
     COMMAND(At)                  \
     COMMAND(Response)            \
     COMMAND(Constants)           \
+    COMMAND(Plot)                \
     COMMAND(Unit)                \
     COMMAND(Config)              \
     COMMAND(Catalog)

@@ -11,9 +11,9 @@
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/layups/LayupCardReader.h"
-#include "zelmat/layups/LayupDrawing.h"
 #include "zelmat/layups/LayupHost.h"
 #include "zelmat/layups/PlyThickness.h"
+#include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/quantities/Measured.h"
 
 namespace zelmat {
@@ -71,8 +71,8 @@ public:
         if (passes && !drawing_.empty()) {
             const auto units = DrawnUnits(context.options, findings);
             if (!units) return;
-            drawn_ =
-                WriteOutputFile(drawing_, LayupDrawing(*stored_, Picture(*units)), {card_->file}, findings);
+            drawn_ = WriteOutputFile(drawing_, LayupDrawing(*stored_, StackPicture(*card_, *units)),
+                                     {card_->file}, findings);
         }
     }
 
@@ -155,14 +155,6 @@ private:
                           {}});
         }
         return stored;
-    }
-
-    LayupPicture Picture(const UnitChoice& units) const {
-        LayupPicture picture{.title = card_->name, .isotropic = {}, .units = units};
-        for (const PlyMaterial& material : card_->materials) {
-            if (material.IsIsotropic()) picture.isotropic.insert(material.name);
-        }
-        return picture;
     }
 
     std::string layup_;      // a stacking notation, or the path of a card

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "zelmat/layups/LayupLegend.h"
 #include "zelmat/layups/Millimetres.h"
@@ -10,7 +9,7 @@
 #include "zelmat/layups/SvgSheet.h"
 #include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
-#include "zelmat/quantities/UnitConversion.h"
+#include "zelmat/quantities/ShownQuantity.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/WrappedText.h"
@@ -46,8 +45,7 @@ public:
           legend_(layup, picture.isotropic),
           plan_(PlanStack(layup)),
           z_(layup.Interfaces()),
-          unit_(picture.units.For(*FindQuantity("length"))),
-          toShown_(UnitConversion::FromStored(*FindQuantity("length"), unit_)) {}
+          length_("length", picture.units) {}
 
     std::string Text() {
         Head();
@@ -69,11 +67,8 @@ private:
         return {kStackLeft, Y(bottom + height), kStackWidth, height};
     }
 
-    double Shown(double metres) const {
-        const auto shown = toShown_(WithoutNoiseOfSums(metres));
-        return RoundedTo(shown.value_or(std::numeric_limits<double>::quiet_NaN()), kDigits);
-    }
-    std::string Length(double metres) const { return WithUnit(Shown(metres), unit_.Spelling()); }
+    double Shown(double metres) const { return RoundedTo(length_(WithoutNoiseOfSums(metres)), kDigits); }
+    std::string Length(double metres) const { return length_.Text(WithoutNoiseOfSums(metres), kDigits); }
 
     void Head() {
         constexpr double kTitleFont = 17.0 * 1.15, kTitleLine = 21.0;  // bold letters are wider
@@ -210,7 +205,7 @@ private:
         }
         sheet_.Arrow(kAxis, stackBottom_ + 6.0, kAxis, top_ - 34.0);
         sheet_.Text(kAxis - 8.0, top_ - 28.0, "text-anchor=\"end\" font-weight=\"bold\"",
-                    "z [" + unit_.Spelling() + "]");
+                    "z [" + length_.Unit() + "]");
         const double middle = kStackLeft + kStackWidth / 2.0;
         sheet_.Text(middle, top_ - 8.0, "text-anchor=\"middle\" font-weight=\"bold\"", "top");
         sheet_.Text(middle, stackBottom_ + 18.0, "text-anchor=\"middle\" font-weight=\"bold\"", "bottom");
@@ -326,8 +321,7 @@ private:
     const LayupLegend legend_;
     const StackPlan plan_;
     const std::vector<double> z_;
-    const Unit unit_;
-    const UnitConversion toShown_;
+    const ShownQuantity length_;
     double top_ = 0.0;          // of the stack
     double stackBottom_ = 0.0;  // y of its lower end
     SvgSheet sheet_;

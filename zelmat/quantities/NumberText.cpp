@@ -1,5 +1,6 @@
 #include "zelmat/quantities/NumberText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -18,6 +19,15 @@ double RoundedTo(double number, int digits) {
     double rounded = number;
     std::from_chars(text.data(), written.ptr, rounded);
     return rounded == 0.0 ? 0.0 : rounded;
+}
+
+std::string RoundedText(double number, int digits) {
+    const double rounded = RoundedTo(number, digits);
+    std::array<char, 32> text;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), rounded,
+                                   std::chars_format::general, std::max(digits, 6))
+                         .ptr;
+    return {text.data(), end};
 }
 
 std::string WithUnit(double number, const std::string& unit) {

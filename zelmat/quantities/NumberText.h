@@ -12,6 +12,9 @@ std::string NumberText(double number);
 /// with; no minus zero.
 double RoundedTo(double number, int digits);
 
+/// The same as a text, plain up to so many digits before the point: "100000" of 6, "1.2e-05".
+std::string RoundedText(double number, int digits);
+
 /// A number with its unit: "293.15 K". "-" and the empty text are no unit.
 std::string WithUnit(double number, const std::string& unit);
 

@@ -15,29 +15,48 @@ bool IsNoCharacter(std::uint32_t point) {
     return (point >= 0xfdd0 && point <= 0xfdef) || (point & 0xfffe) == 0xfffe;
 }
 
+/// What a character of markup is written as; empty for every other one.
+std::string_view Reference(char symbol) {
+    switch (symbol) {
+        case '&':
+            return "&amp;";
+        case '<':
+            return "&lt;";
+        case '>':
+            return "&gt;";
+        case '"':
+            return "&quot;";
+        case '\'':
+            return "&#39;";
+        default:
+            return {};
+    }
+}
+
 }  // namespace
 
-std::string XmlText(std::string_view text) {
-    const std::string printable = Printable(text);
-    std::string xml;
-    xml.reserve(printable.size());
+std::string XmlCharacters(std::string_view printable) {
+    std::string characters;
+    characters.reserve(printable.size());
     for (auto at = printable.begin(); at != printable.end();) {
         const auto start = at;
-        const std::uint32_t point = utf8::unchecked::next(at);
-        if (point == '&') {
-            xml += "&amp;";
-        } else if (point == '<') {
-            xml += "&lt;";
-        } else if (point == '>') {
-            xml += "&gt;";
-        } else if (point == '"') {
-            xml += "&quot;";
-        } else if (point == '\'') {
-            xml += "&#39;";
-        } else if (IsNoCharacter(point)) {
-            xml += "\xef\xbf\xbd";
+        if (IsNoCharacter(utf8::unchecked::next(at))) {
+            characters += "\xef\xbf\xbd";
         } else {
-            xml.append(start, at);
+            characters.append(start, at);
+        }
+    }
+    return characters;
+}
+
+std::string XmlText(std::string_view text) {
+    std::string xml;
+    for (const char symbol : XmlCharacters(Printable(text))) {
+        const std::string_view reference = Reference(symbol);
+        if (reference.empty()) {
+            xml += symbol;
+        } else {
+            xml += reference;
         }
     }
     return xml;

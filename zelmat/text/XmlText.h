@@ -10,4 +10,7 @@ namespace zelmat {
 /// characters and turns of the direction of writing as `Printable` shows them.
 std::string XmlText(std::string_view text);
 
+/// Printable text with what XML has no character for as U+FFFD, and markup as it is.
+std::string XmlCharacters(std::string_view printable);
+
 }  // namespace zelmat

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include "zelmat/files/SignalHold.h"
+#include "zelmat/findings/Findings.h"
+
+namespace zelmat {
+
+/// A folder of the program's own for files that go with it, under TMPDIR. Signals that would end the program
+/// wait as long as it stands, so that nothing stays behind.
+class ScratchFolder {
+public:
+    /// A finding when it cannot be made.
+    explicit ScratchFolder(Findings& findings);
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
+
+    bool Exists() const { return !path_.empty(); }
+    const std::string& Path() const { return path_; }
+
+    /// Writes a file in it. A finding when that fails.
+    [[nodiscard]] bool Write(const std::string& name, const std::string& text, Findings& findings) const;
+
+    /// All bytes of a file in it, of which other programs may have made anything: no more than `most`. Empty
+    /// when there is none.
+    std::string Read(const std::string& name, std::size_t most) const;
+
+private:
+    SignalHold hold_;
+    std::string path_;
+};
+
+}  // namespace zelmat

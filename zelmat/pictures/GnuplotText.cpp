@@ -1,0 +1,44 @@
+#include "zelmat/pictures/GnuplotText.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "zelmat/text/Printable.h"
+#include "zelmat/text/XmlText.h"
+
+namespace zelmat {
+
+namespace {
+
+void ReplaceAll(std::string& text, std::string_view what, std::string_view with) {
+    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size())) {
+        text.replace(at, what.size(), with);
+    }
+}
+
+}  // namespace
+
+std::string GnuplotText(std::string_view text) {
+    std::string line(text);
+    std::replace_if(
+        line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
+    std::string quoted = XmlCharacters(Printable(line));
+    ReplaceAll(quoted, "'", "’");
+    ReplaceAll(quoted, "]]>", "]] >");
+    return "'" + quoted + "'";
+}
+
+std::string WrittenUnit(std::string_view spelling) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 5> kWritten = {
+        {{"degC", "°C"}, {"degF", "°F"}, {"degR", "°R"}, {"m3", "m³"}, {"m2", "m²"}}};
+    std::string unit(spelling);
+    for (const auto& [plain, written] : kWritten) ReplaceAll(unit, plain, written);
+    return unit;
+}
+
+std::string TitleWithUnit(const std::string& title, const std::string& unit) {
+    return unit.empty() || unit == "-" ? title : title + " [" + WrittenUnit(unit) + "]";
+}
+
+}  // namespace zelmat
