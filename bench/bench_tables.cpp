@@ -69,11 +69,11 @@ public:
         const std::unique_ptr<KORRawColldouble> moduli(access_->GetListOfDouble(keys_[0]));
         const std::unique_ptr<KORRawColldouble> ratios(access_->GetListOfDouble(keys_[1]));
         const std::unique_ptr<KORRawColldouble> temperatures(access_->GetListOfDouble(keys_[2]));
-        for (int row = 0; row < rows.size(); ++row) {
-            ZELCftArraydouble& numbers = rows[row];
-            numbers[0] = moduli->Data()[row];
-            numbers[1] = ratios->Data()[row];
-            numbers[2] = temperatures->Data()[row];
+        const int count = rows.size();
+        ZELCftArraydouble* const row = rows.Refill(count);
+        for (int i = 0; i < count; ++i) {
+            const double numbers[] = {moduli->Data()[i], ratios->Data()[i], temperatures->Data()[i]};
+            row[i].Assign(numbers);
         }
     }
 

@@ -10,6 +10,9 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     target_compile_options(zel_build_flags INTERFACE
         $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict> $<$<NOT:$<CONFIG:Debug>>:-Wno-maybe-uninitialized>)
 endif()
+# Nobody replaces a function of ours at run time, so a shared library may inline its own exported functions and call
+# them directly. clang does so by itself.
+target_compile_options(zel_build_flags INTERFACE $<$<CXX_COMPILER_ID:GNU>:-fno-semantic-interposition>)
 if(ZEL_SANITIZE)
     set(sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_compile_options(zel_build_flags INTERFACE ${sanitizers})

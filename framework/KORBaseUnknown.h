@@ -45,6 +45,8 @@ public:
     std::int32_t References() const { return references_; }
 
 protected:
+    bool IsMainObject() const { return !host_; }
+
     /// An interface that this object implements itself, without a reference; null for any other.
     virtual void* OwnInterface(KORIID) { return nullptr; }
 

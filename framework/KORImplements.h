@@ -24,6 +24,21 @@ public:
     }
 
 protected:
+    /// QueryInterface for a class that always offers all of I...: a main object answers for itself what it
+    /// implements, without a virtual call. Most queries ask for that.
+    HRESULT QueryOwnFirst(KORIID iid, void** out) {
+        if (IsMainObject()) {
+            void* found = KORImplements::OwnInterface(iid);
+            if (!found && iid == IID_KORBaseUnknown) found = static_cast<KORBaseUnknown*>(this);
+            if (found) {
+                KORBaseUnknown::AddRef();
+                *out = found;
+                return S_OK;
+            }
+        }
+        return KORBaseUnknown::QueryInterface(iid, out);
+    }
+
     void* OwnInterface(KORIID iid) override {
         void* found = nullptr;
         static_cast<void>(((iid == I::Iid() && (found = static_cast<I*>(this))) || ...));

@@ -15,15 +15,6 @@ public:
 
     const KORName* Find(std::string_view text) const { return places_[PlaceOf(text, Hash(text))].name; }
 
-    const KORName* Find(const char* text) {
-        const auto address = reinterpret_cast<std::uintptr_t>(text);
-        Recent& recent = recent_[(address ^ address >> 8) % kRecent];
-        if (recent.text == text && std::strcmp(text, recent.name->c_str()) == 0) return recent.name;
-        const KORName* const name = Find(std::string_view(text));
-        if (name) recent = {text, name};
-        return name;
-    }
-
     const KORName* Intern(std::string_view text) {
         const std::uint64_t hash = Hash(text);
         std::size_t place = PlaceOf(text, hash);
@@ -88,17 +79,34 @@ private:
         }
     }
 
-    /// A text that was found, by its address. It may be gone by now, and another one may lie there.
-    struct Recent {
-        const char* text = nullptr;
-        const KORName* name = nullptr;
-    };
-    static constexpr std::size_t kRecent = 1024;
-
-    std::array<Recent, kRecent> recent_;
     std::vector<Place> places_ = std::vector<Place>(1024);  ///< a power of two, at most half full
     std::uint32_t count_ = 0;
 };
+
+namespace {
+
+/// A text that was found, by its address. It may be gone by now, and another one may lie there.
+struct Recent {
+    const char* text = nullptr;
+    const KORName* name = nullptr;
+};
+constexpr std::size_t kRecent = 1024;
+constinit std::array<Recent, kRecent> recents;
+
+/// Where the text that lies there is remembered, if it is.
+Recent& RecentAt(const char* text) {
+    const auto address = reinterpret_cast<std::uintptr_t>(text);
+    return recents[(address ^ address >> 8) % kRecent];
+}
+
+/// Apart from its caller, which is short without it.
+[[gnu::noinline]] const KORName* FindAnew(std::string_view text, Recent& recent) {
+    const KORName* const name = KORName::Find(text);
+    if (name) recent = {text.data(), name};
+    return name;
+}
+
+}  // namespace
 
 const KORName* KORName::Intern(std::string_view text) {
     return KORNamePool::Instance().Intern(text);
@@ -109,5 +117,13 @@ const KORName* KORName::Find(std::string_view text) {
 }
 
 const KORName* KORName::Find(const char* text) {
-    return KORNamePool::Instance().Find(text);
+    Recent& recent = RecentAt(text);
+    if (recent.text == text && std::strcmp(text, recent.name->c_str()) == 0) return recent.name;
+    return FindAnew(text, recent);
+}
+
+const KORName* KORName::FindConstant(std::string_view text) {
+    Recent& recent = RecentAt(text.data());
+    if (recent.text == text.data() && recent.name->Text() == text) return recent.name;
+    return FindAnew(text, recent);
 }

@@ -18,6 +18,7 @@ public:
     /// The same of a zero-terminated text. Callers ask again and again with the same constants, so where the
     /// text lies is remembered; what lies there is compared each time.
     static const KORName* Find(const char* text);
+    static const KORName* FindConstant(std::string_view text);  ///< the same; not of a null address
 
     const std::string& Text() const { return text_; }
     const char* c_str() const { return text_.c_str(); }

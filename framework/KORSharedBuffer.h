@@ -28,9 +28,11 @@ public:
     int Size() const { return SizeOf(first_); }
     const T* First() const { return first_; }  ///< Size() elements in a row; null without a block
 
+    bool IsShared() const { return first_ && HeaderOf(first_).count != 1; }
+
     /// The elements for the caller to change: shared with nobody from here on. Good until the next change.
     T* Own() {
-        if (first_ && HeaderOf(first_).count != 1) Grow(Size());
+        if (IsShared()) Grow(Size());
         return first_;
     }
 
@@ -55,6 +57,18 @@ public:
         Reserve(size + count);
         HeaderOf(first_).size += count;
         return first_ + size;
+    }
+
+    /// Makes it this many elements: those that are too many go, and new ones are made by default.
+    void Resize(int size) {
+        const int before = Size();
+        if (size <= before) {
+            if (size < before) Truncate(size);
+            return;
+        }
+        Reserve(size);
+        std::uninitialized_value_construct_n(first_ + before, size - before);
+        HeaderOf(first_).size = size;
     }
 
     /// Takes the element at an index out; those after it move up.
@@ -103,6 +117,24 @@ private:
 
     /// For how many elements there is room without another block; 0 as long as others share this one.
     int Room() const { return first_ && HeaderOf(first_).count == 1 ? HeaderOf(first_).room : 0; }
+
+    void Truncate(int size) {
+        if (IsShared()) {
+            KORSharedBuffer kept;
+            if (size > 0) kept.CopyFrom(first_, size);
+            std::swap(first_, kept.first_);
+        } else {
+            std::destroy_n(first_ + size, Size() - size);
+            HeaderOf(first_).size = size;
+        }
+    }
+
+    /// Into a buffer without a block.
+    void CopyFrom(const T* elements, int count) {
+        Grow(count);
+        std::uninitialized_copy_n(elements, count, first_);
+        HeaderOf(first_).size = count;
+    }
 
     /// A block of its own with this much room. The elements move there, or are copied if others share them.
     void Grow(int room) {

@@ -2,7 +2,7 @@
 
 HRESULT KORCatalog::RetrieveStartUp(const KORUnicodeString& lateType, const char* interfaceName, void** out) {
     *out = nullptr;
-    const KORCatalogType* type = file_->Find(KORName::Find(lateType.View()));
+    const KORCatalogType* type = file_->Find(KORName::FindConstant(lateType.View()));
     const KORName* iid = KORName::Find(interfaceName);
     if (!type || !iid) return E_FAIL;
     return FAILED(type->startUp->QueryInterface(iid, out)) ? E_FAIL : S_OK;

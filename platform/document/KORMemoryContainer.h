@@ -16,6 +16,7 @@ class KORMemoryContainer final
 public:
     explicit KORMemoryContainer(KORMemoryDocument& document) : document_(&document) {}
 
+    HRESULT QueryInterface(KORIID iid, void** out) override { return QueryOwnFirst(iid, out); }
     KORDocument* GetDocument() override;
 
     /// The catalog of that file name in the platform's catalog folder. The client identifier is for platforms

@@ -9,6 +9,8 @@
 template <class Object, class... I>
 class KORAttributeReads : public KORImplements<KORISpecObject, KORISpecAttrAccess, I...> {
 public:
+    HRESULT QueryInterface(KORIID iid, void** out) final { return this->QueryOwnFirst(iid, out); }
+
     KORUnicodeString GetType() final { return Layout().NameText(); }
 
     KORISpecAttrKey* GetAttrKey(const char* name) final {

@@ -43,13 +43,13 @@ void KORFeature::operator delete(void* memory) {
 KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp,
                        const KORFeature* original)
     : type_(&type), number_(number) {
-    const KORLayout& layout = type.Layout();
-    KORValue* slots = Slots();
+    KORValue* const slots = Slots();
     new (slots + KORLayout::kContainer) KORValue(KORAttributeKind::Component);
-    const KORValue* values = (original ? original->Slots() : layout.Initials()) + KORLayout::kFirstAttribute;
-    for (KORSlot slot = KORLayout::kFirstAttribute; slot < layout.SlotCount(); ++slot) {
+    const KORValue* const values = original ? original->Slots() : type.Layout().Initials();
+    const KORSlot count = type.Layout().SlotCount();
+    for (KORSlot slot = KORLayout::kFirstAttribute; slot < count; ++slot) {
         // As if logged: undoing the creation takes the values along.
-        (new (slots + slot) KORValue(*values++))->SetStamp(stamp);
+        (new (slots + slot) KORValue(values[slot]))->SetStamp(stamp);
     }
     type.AddRef();
     type.Document()->Features().Add(number, *this);

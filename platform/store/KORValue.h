@@ -30,12 +30,16 @@ public:
     static KORValue EmptyList(KORAttributeKind kind) noexcept;        ///< `kind` is one of the lists
     static KORValue Absent() noexcept;
 
-    KORValue(const KORValue& other) : KORValue(other.kind_) {
-        bits_ = other.OwnsNothing() ? other.bits_ : other.CopyOwned();
-        state_ = other.state_;
-        stamp_ = other.stamp_;
-    }
-    KORValue(KORValue&& other) noexcept : KORValue(other.kind_) { Swap(other); }
+    KORValue(const KORValue& other)
+        : bits_(other.OwnsNothing() ? other.bits_ : other.CopyOwned()),
+          stamp_(other.stamp_),
+          kind_(other.kind_),
+          state_(other.state_) {}
+    KORValue(KORValue&& other) noexcept
+        : bits_(std::exchange(other.bits_, 0)),
+          stamp_(std::exchange(other.stamp_, 0)),
+          kind_(other.kind_),
+          state_(std::exchange(other.state_, KORValueState::NeverValued)) {}
     KORValue& operator=(KORValue other) noexcept {
         Swap(other);
         return *this;

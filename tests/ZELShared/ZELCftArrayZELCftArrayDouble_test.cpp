@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 ZELCftArraydouble Row(double first, double second) {
@@ -89,6 +91,98 @@ TEST(ZELCftArrayZELCftArrayDouble, CopiesAreDeep) {
 
     EXPECT_EQ(copy[0][0], 1.0);
     EXPECT_EQ(assigned[0][0], 1.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, CopiesShareTheirRowsUntilOneIsWritten) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.push_back(Row(1, 2));
+
+    ZELCftArrayZELCftArrayDouble copy(table);
+    EXPECT_EQ(&std::as_const(copy)[0], &std::as_const(table)[0]);
+
+    copy[0][0] = 7.0;
+    EXPECT_NE(&std::as_const(copy)[0], &std::as_const(table)[0]);
+    EXPECT_EQ(std::as_const(table)[0][0], 1.0);
+    EXPECT_EQ(std::as_const(copy)[0][0], 7.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, ARowHandedOutForWritingIsItsOwnAlsoAfterACopyWasMade) {
+    ZELCftArrayZELCftArrayDouble table;
+    table.push_back(Row(1, 2));
+    ZELCftArraydouble& row = table[0];
+
+    const ZELCftArrayZELCftArrayDouble copy(table);
+    ZELCftArrayZELCftArrayDouble assigned;
+    assigned = table;
+    row[0] = 7.0;
+
+    EXPECT_EQ(copy[0][0], 1.0);
+    EXPECT_EQ(std::as_const(assigned)[0][0], 1.0);
+    EXPECT_EQ(std::as_const(table)[0][0], 7.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, EveryChangeLeavesACopyAsItWas) {
+    const ZELCftArraydouble rows[] = {Row(5, 6), Row(7, 8), Row(9, 10)};
+    using Table = ZELCftArrayZELCftArrayDouble;
+    void (*const changes[])(Table&) = {
+        [](Table& table) { table.push_back(Row(0, 0)); },
+        [](Table& table) { table.push_back(std::as_const(table)[0]); },
+        [](Table& table) { table.Resize(1); },
+        [](Table& table) { table.Resize(0); },
+        [](Table& table) { table.Resize(4); },
+        [](Table& table) { table.Initialize(0, nullptr); },
+        [](Table& table) { table.Initialize(2, nullptr); },
+        [](Table& table) { table.Initialize(1, &std::as_const(table)[2]); },
+        [](Table& table) { table.Refill(3)[0] = Row(0, 0); },
+        [](Table& table) { table.Kill(); },
+        [](Table& table) { table = Table(); },
+        [](Table& table) { const Table taken(std::move(table)); },
+    };
+    for (const auto change : changes) {
+        Table table(3, rows);
+        const Table copy(table);
+
+        change(table);
+
+        ASSERT_EQ(copy.size(), 3);
+        EXPECT_EQ(copy[0][0], 5.0);
+        EXPECT_EQ(copy[2][1], 10.0);
+    }
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, KeepsTheFirstRowsWhenASharedTableIsCut) {
+    const ZELCftArraydouble rows[] = {Row(5, 6), Row(7, 8)};
+    ZELCftArrayZELCftArrayDouble table(2, rows);
+    const ZELCftArrayZELCftArrayDouble copy(table);
+
+    table.Resize(1);
+
+    ASSERT_EQ(table.size(), 1);
+    EXPECT_EQ(std::as_const(table)[0][1], 6.0);
+    EXPECT_EQ(copy.size(), 2);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, IsResetToOneOfItsOwnRows) {
+    const ZELCftArraydouble rows[] = {Row(5, 6), Row(7, 8)};
+    ZELCftArrayZELCftArrayDouble table(2, rows);
+
+    table.Initialize(1, &std::as_const(table)[1]);
+
+    ASSERT_EQ(table.size(), 1);
+    EXPECT_EQ(std::as_const(table)[0][0], 7.0);
+}
+
+TEST(ZELCftArrayZELCftArrayDouble, IsRefilledInItsOwnRowsUnlessTheyAreShared) {
+    ZELCftArrayZELCftArrayDouble table(2);
+    const ZELCftArraydouble* const own = &std::as_const(table)[0];
+    EXPECT_EQ(table.Refill(2), own);
+    EXPECT_EQ(table.Refill(1), own);
+    EXPECT_EQ(table.size(), 1);
+
+    const ZELCftArrayZELCftArrayDouble copy(table);
+    EXPECT_NE(table.Refill(1), own);
+    EXPECT_EQ(&copy[0], own);
+    EXPECT_EQ(ZELCftArrayZELCftArrayDouble().Refill(0), nullptr);
 }
 
 TEST(ZELCftArrayZELCftArrayDouble, IsEmptiedByInitializeAndByKill) {

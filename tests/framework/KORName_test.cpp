@@ -51,6 +51,18 @@ TEST(KORName, IsFoundByWhatStandsThereAndNotByWhereItStands) {
     EXPECT_EQ(KORName::Find(static_cast<const char*>(text)), nullptr);
 }
 
+TEST(KORName, IsFoundByAConstantsLengthAndNotUpToItsFirstZero) {
+    const KORName* whole = KORName::Intern("constant text");
+    const KORName* part = KORName::Intern("constant");
+    constexpr std::string_view kText = "constant text";
+
+    EXPECT_EQ(KORName::FindConstant(kText), whole);
+    EXPECT_EQ(KORName::FindConstant(kText), whole);
+    EXPECT_EQ(KORName::FindConstant(kText.substr(0, 8)), part);
+    EXPECT_EQ(KORName::FindConstant(std::string_view("constant\0text", 13)), nullptr);
+    EXPECT_EQ(KORName::FindConstant("a constant that nobody interned"), nullptr);
+}
+
 TEST(KORName, IsNumberedInOrderOfFirstUse) {
     const std::uint32_t first = KORName::Intern("numbered first")->Number();
 

@@ -116,3 +116,24 @@ TEST(KORSharedBuffer, HasRoomForWhatWasReservedUnlessItIsShared) {
     EXPECT_EQ(numbers.First()[99], 3.5);
     EXPECT_EQ(numbers.Extend(0), nullptr);
 }
+
+TEST(KORSharedBuffer, IsResizedWithoutAChangeToWhoSharesIt) {
+    const auto feature = MakeTestFeature("BufferedLT");
+    Buffer buffer = Of({feature, feature, feature});
+    const Buffer copy = buffer;
+    EXPECT_TRUE(buffer.IsShared());
+
+    buffer.Resize(1);
+    EXPECT_EQ(buffer.Size(), 1);
+    EXPECT_FALSE(buffer.IsShared());
+    EXPECT_EQ(copy.Size(), 3);
+    EXPECT_EQ(feature->References(), 5);
+
+    buffer.Resize(3);
+    EXPECT_EQ(buffer.First()[0], feature);
+    EXPECT_EQ(buffer.First()[2], nullptr);
+
+    buffer.Resize(0);
+    EXPECT_EQ(buffer.Size(), 0);
+    EXPECT_EQ(feature->References(), 4);
+}

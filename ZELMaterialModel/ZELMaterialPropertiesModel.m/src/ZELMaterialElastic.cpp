@@ -1,5 +1,7 @@
 #include "ZELMaterialModel/include/ZELMaterialElastic.h"
 
+#include <utility>
+
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELMaterialConstants.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELTableDescription.h"
 #include "framework/KORError.h"
@@ -52,7 +54,7 @@ HRESULT ZELMaterialElastic::SetElasticDataArray(const ZELCftArrayZELCftArrayDoub
 HRESULT ZELMaterialElastic::SetPropertyElasticDataArray() {
     const bool cut = GetTemperatureDependent() == 0 && Table().size() >= 2;
     if (cut) {
-        const ZELCftArrayZELCftArrayDouble firstRow(1, &Table()[0]);
+        const ZELCftArrayZELCftArrayDouble firstRow(1, &std::as_const(Table())[0]);
         Table().Kill();
         Table() = firstRow;
     }

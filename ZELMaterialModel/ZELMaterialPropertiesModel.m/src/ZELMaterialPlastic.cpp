@@ -103,7 +103,8 @@ HRESULT ZELMaterialPlastic::GetPropertyPlasticityData() {
 HRESULT ZELMaterialPlastic::WriteCurve() {
     const HRESULT status = ZELWriteColumns(FeatureForWriting(), columns, Table(), true);
     if (FAILED(status)) return status;
-    const bool startsPlastic = Table().size() > 0 && Table()[0][1] != 0.0;
+    const ZELCftArrayZELCftArrayDouble& table = Table();
+    const bool startsPlastic = table.size() > 0 && table[0][1] != 0.0;
     return startsPlastic ? E_FAIL : S_OK;  // reported, not enforced: the lists are stored
 }
 
@@ -134,7 +135,7 @@ HRESULT ZELMaterialPlastic::WriteJohnsonCook(KORISpecAttrAccess& access) {
     const ZELIJohnsonCookData_var data = JohnsonCookData(access);
     if (!data) return E_FAIL;
     if (!FeatureForWriting()) return E_NOINTERFACE;
-    const ZELCftArraydouble& row = Table()[0];
+    const ZELCftArraydouble& row = std::as_const(Table())[0];
     data->SetCoeffA(row[0]);
     data->SetCoeffB(row[1]);
     data->SetCoeffN(row[2]);

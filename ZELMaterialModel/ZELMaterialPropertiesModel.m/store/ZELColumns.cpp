@@ -11,12 +11,12 @@ constexpr std::size_t kMostColumns = 3;  ///< two value columns and the temperat
 
 /// Columns to rows that are there already, unrolled by width: as fast as the plain loop.
 template <std::size_t... Column>
-void FillRows(std::index_sequence<Column...>, const double* const* columns, int rows,
-              ZELCftArrayZELCftArrayDouble& table) {
+void FillRows(std::index_sequence<Column...>, const double* const* columns, int count,
+              ZELCftArraydouble* rows) {
     const double* const from[] = {columns[Column]...};
-    for (int row = 0; row < rows; ++row) {
+    for (int row = 0; row < count; ++row) {
         const double numbers[] = {from[Column][row]...};
-        table[row].Assign(numbers);
+        rows[row].Assign(numbers);
     }
 }
 
@@ -101,8 +101,8 @@ HRESULT ZELReadColumns(KORISpecObject* feature, ZELColumnSlots columns, bool tem
     }
     int rows = lists[0]->Size();
     for (std::size_t column = 1; column < used; ++column) rows = std::min(rows, lists[column]->Size());
-    table.Resize(rows);
-    ForWidth(used, [&](auto indices) { FillRows(indices, values.data(), rows, table); });
+    ZELCftArraydouble* const refilled = table.Refill(rows);
+    ForWidth(used, [&](auto indices) { FillRows(indices, values.data(), rows, refilled); });
     if (rows < lists[0]->Size()) outcome = ZELColumnsRead::Inconsistent;
     return S_OK;
 }
