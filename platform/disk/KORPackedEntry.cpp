@@ -78,6 +78,7 @@ private:
                 case kName:
                 case kAlias:
                     if (kind != KORAttributeKind::String || absent) return std::nullopt;
+                    feature.MakeNameSlots();
                     return place == kName ? KORLayout::kName : KORLayout::kAlias;
                 case kDeclared:
                     if (absent) return std::nullopt;

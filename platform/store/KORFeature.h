@@ -75,6 +75,10 @@ public:
         return MakeUndeclared(*StoreDocument()).SlotOf(name);
     }
 
+    /// Makes room for its name and alias, which few features need: before Swap is called for one of them on a
+    /// feature that may never have had either. Its document is open.
+    void MakeNameSlots() { MakeUndeclared(*StoreDocument()); }
+
     /// Visits the undeclared attributes as (const KORUnicodeString& name, const KORValue& value), in the
     /// order in which their names came. The visitor does not change the feature.
     template <class Visitor>
@@ -98,7 +102,7 @@ public:
     void ForEachComponent(Visitor&& visit) const;
 
     /// Exchanges a slot's value for another: all there is to do, undo and redo a change. Marks the feature
-    /// dirty. The caller holds a reference.
+    /// dirty. The caller holds a reference. The slot is there: see UndeclaredSlot and MakeNameSlots.
     void Swap(KORSlot slot, KORValue& other) noexcept;
 
     /// Takes all values away, unlogged: its document is being closed.

@@ -72,6 +72,10 @@ std::string Shown(const KORValue& value) {
 
 }  // namespace
 
+std::string KORShownValue(const KORValue& value) {
+    return Shown(value);
+}
+
 std::string KORShownDocument(KORMemoryDocument& document) {
     const KORDiskContainers containers(document);
     std::string shown;

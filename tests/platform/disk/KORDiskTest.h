@@ -8,6 +8,7 @@
 
 /// A document as text: its living features in the order of their numbers, each with all that it holds.
 std::string KORShownDocument(KORMemoryDocument& document);
+std::string KORShownValue(const KORValue& value);
 
 /// A folder of the test's own, a platform whose shared catalog declares a late type with one attribute of
 /// every kind, and the shortest way to documents in files.
