@@ -29,7 +29,10 @@ std::unique_ptr<KORDiskDocument> KORDiskDocument::OpenToRead(KORPlatform& platfo
     std::unique_ptr<KORDiskDocument> opened(new KORDiskDocument(platform, path, KORDiskFile::Use::Read));
     bool newer = false;
     if (!opened->file_.Open(KORDiskFile::Use::Read, newer, error)) return nullptr;
-    if (!opened->Load(history, error)) return nullptr;
+    if (!opened->Load(history, error)) {
+        if (newer) error.message = "its format is newer than this program, which cannot read it";
+        return nullptr;
+    }
     if (newer) opened->notes_.push_back("its format is newer than this program: it can be read only");
     opened->file_.Connection().RollBack();
     opened->file_.Connection().Close();

@@ -164,3 +164,11 @@ KORVar<KORFeature> KORDiskTest::First(KORMemoryDocument& document) {
     });
     return first;
 }
+
+KORValue KORDiskTest::UndeclaredOf(const KORFeature& feature, std::string_view name) {
+    KORValue found = KORValue::Absent();
+    feature.ForEachUndeclared([&](const KORUnicodeString& known, const KORValue& value) {
+        if (known.View() == name) found = value;
+    });
+    return found;
+}

@@ -36,6 +36,8 @@ protected:
     static KORVar<KORFeature> Material(KORMemoryDocument& document, const char* name) {
         return document.NewPlatformFeature("KORDiskTestLT", name);
     }
+    static KORValue UndeclaredOf(const KORFeature& feature,
+                                 std::string_view name);           ///< absent when it has none
     static KORVar<KORFeature> First(KORMemoryDocument& document);  ///< that lies in a container; null: none
 
     template <class Change>
