@@ -15,6 +15,9 @@ namespace zelmat {
     COMMAND(Layup)               \
     COMMAND(At)                  \
     COMMAND(Response)            \
+    COMMAND(Fit)                 \
+    COMMAND(TrueCurve)           \
+    COMMAND(Laminate)            \
     COMMAND(Constants)           \
     COMMAND(Plot)                \
     COMMAND(Unit)                \

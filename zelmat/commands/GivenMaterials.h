@@ -25,6 +25,13 @@ class GivenMaterials {
 public:
     void Declare(CLI::App& line);
 
+    /// In the place of Declare, for a command that takes its arguments apart itself.
+    void Set(std::string path, std::string material, const CardReading& how) {
+        path_ = std::move(path);
+        material_ = std::move(material);
+        how_ = how;
+    }
+
     const std::string& Path() const { return path_; }
 
     /// For a command whose line ends with an argument of its own: with MATERIAL left out, the parser has

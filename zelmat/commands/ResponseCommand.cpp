@@ -3,12 +3,15 @@
 
 #include "zelmat/commands/Calculation.h"
 #include "zelmat/commands/FitOption.h"
+#include "zelmat/commands/FitReport.h"
 #include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/commands/StretchOption.h"
+#include "zelmat/mechanics/fit/HyperelasticFit.h"
 #include "zelmat/mechanics/hyperelastic/HyperelasticResponse.h"
 #include "zelmat/mechanics/hyperelastic/Stability.h"
 #include "zelmat/properties/HyperelasticProperty.h"
+#include "zelmat/properties/TestCurves.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/WordList.h"
 
@@ -57,6 +60,7 @@ protected:
         }
         TellModel(*material, *property, *at, temperature, result);
         TellModes(*at->energy, result);
+        TellDeviation(*at->energy, *material, result);
         if (!stretches.empty()) TellResponse(*at->energy, stretches, place, findings, result);
         return true;
     }
@@ -133,6 +137,29 @@ private:
             result.Add(std::move(locking));
         }
         result.Add(std::move(limits));
+    }
+
+    /// How near the fit comes to the tests that the material keeps.
+    void TellDeviation(const StrainEnergy& energy, const Material& material, Result& result) const {
+        DeviationTable table;
+        std::vector<mechanics::FitPoint> all;
+        for (const mechanics::TestCurve& curve : TestCurvesOf(material)) {
+            const auto modes = Modes();
+            if (std::find(modes.begin(), modes.end(), curve.mode) == modes.end()) continue;
+            const auto data = mechanics::TakeTestData({curve}, mechanics::DeviationMeasure::ABSOLUTE);
+            if (!data.Ok()) continue;
+            all.insert(all.end(), data->points.begin(), data->points.end());
+            const auto [least, greatest] =
+                std::minmax_element(curve.points.begin(), curve.points.end(),
+                                    [](const auto& a, const auto& b) { return a.stretch < b.stretch; });
+            if (const auto deviation = mechanics::DeviationOf(energy, data->points)) {
+                table.Add(Word(Keyword(curve.mode)), *deviation, least->stretch, greatest->stretch);
+            }
+        }
+        const auto deviation = mechanics::DeviationOf(energy, all);
+        if (!deviation) return;
+        table.Add("all", *deviation);
+        result.Add(table.Table(result, "Deviation from the material's tests"));
     }
 
     static std::string StateOf(const mechanics::StabilityLimits& limits) {

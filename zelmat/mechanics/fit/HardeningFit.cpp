@@ -113,6 +113,7 @@ std::optional<LeastSquaresResult> BestMinimum(HardeningLaw law, const ScaledCurv
         const auto minimum = Minimise(problem, start);
         if (minimum && (!best || minimum->sum < best->sum)) best = minimum;
     }
+    if (best) best = Polished(problem, *best);
     return best;
 }
 
@@ -166,11 +167,11 @@ Outcome<HardeningFit> FitHardening(HardeningLaw law, const std::vector<StressStr
         if (deviation) *deviation *= unit;
         coefficients.push_back(best->parameters[i] * unit);
         fit.coefficients.push_back({names[i], coefficients.back(), deviation, best->atBound[i]});
-        if (best->atBound[i]) fit.notes.push_back(names[i] + " is at its bound");
+        if (best->atBound[i]) fit.warnings.push_back(names[i] + " is at its bound");
     }
-    if (!best->converged) fit.notes.push_back("the fit stopped before it came to rest");
+    if (!best->converged) fit.warnings.push_back("the fit stopped before it came to rest");
     if (!uncertainty.distinguishable) {
-        fit.notes.push_back("the points cannot tell the coefficients apart: others give the same stress");
+        fit.warnings.push_back("the points cannot tell the coefficients apart: others give the same stress");
     }
     fit.correlations = StrongCorrelations(uncertainty, names);
     fit.deviation = Deviation(law, coefficients, *counting);

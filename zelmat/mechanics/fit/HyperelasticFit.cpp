@@ -58,7 +58,7 @@ public:
         for (const auto& start : FitStarts(model_, order_, points_, weights_)) {
             auto minimum = Minimise(problem, parameters_.Parameters(start), kFewIterations);
             if (!minimum) continue;
-            if (minimum->sum < kMet * kMet * static_cast<double>(points_.size())) return {*minimum};
+            if (minimum->sum < kMet * kMet * static_cast<double>(points_.size())) return {Polished(problem, *minimum)};
             minima.push_back(std::move(*minimum));
         }
         SortBySum(minima);
@@ -66,6 +66,7 @@ public:
         for (LeastSquaresResult& minimum : minima) {
             if (!minimum.converged) minimum = Minimise(problem, minimum.parameters).value_or(minimum);
         }
+        for (LeastSquaresResult& minimum : minima) minimum = Polished(problem, minimum);
         SortBySum(minima);
         return minima;
     }
@@ -231,25 +232,26 @@ bool HasTwoInvariants(HyperelasticModel model) {
     return model == MOONEY_RIVLIN || model == POLYNOMIAL || model == VAN_DER_WAALS;
 }
 
-void AddNotes(HyperelasticFit& fit, const Uncertainty& uncertainty, bool converged, bool smallestModulus) {
-    if (!converged) fit.notes.push_back("the fit stopped before it came to rest");
+void AddWarnings(HyperelasticFit& fit, const Uncertainty& uncertainty, bool converged, bool smallestModulus) {
+    if (!converged) fit.warnings.push_back("the fit stopped before it came to rest");
     if (fit.modes.size() == 1 && HasTwoInvariants(fit.model)) {
-        fit.notes.push_back("one mode of test only: it cannot tell the parts of the two invariants apart");
+        fit.warnings.push_back("one mode of test only: it cannot tell the parts of the two invariants apart");
     }
     if (!uncertainty.distinguishable) {
-        fit.notes.push_back("the tests cannot tell the coefficients apart: others give the same response");
+        fit.warnings.push_back("the tests cannot tell the coefficients apart: others give the same response");
     }
     if (!fit.alternatives.empty()) {
-        fit.notes.push_back("not unique: other coefficients come nearly as close to the tests");
+        fit.warnings.push_back("not unique: other coefficients come nearly as close to the tests");
     }
-    if (smallestModulus) fit.notes.push_back("mu0 is at its bound: the tests ask for a negative modulus");
+    if (smallestModulus) fit.warnings.push_back("mu0 is at its bound: the tests ask for a negative modulus");
     for (const FittedCoefficient& coefficient : fit.coefficients) {
-        if (coefficient.atBound) fit.notes.push_back(coefficient.name + " is at its bound");
+        if (coefficient.atBound) fit.warnings.push_back(coefficient.name + " is at its bound");
     }
     for (const ModeStability& stability : fit.stability) {
         if (!stability.dataInside.value_or(true)) {
-            fit.notes.push_back("unstable within the range of the " + std::string(Keyword(stability.mode)) +
-                                " test by the criterion " + std::string(Keyword(stability.criterion)));
+            fit.warnings.push_back("unstable within the range of the " +
+                                   std::string(Keyword(stability.mode)) + " test by the criterion " +
+                                   std::string(Keyword(stability.criterion)));
         }
     }
 }
@@ -309,7 +311,8 @@ Outcome<HyperelasticFit> FitHyperelastic(HyperelasticModel model, int order,
                         .stability = {},
                         .correlations = {},
                         .alternatives = Alternatives(model, scaled, minima, data->points.size()),
-                        .notes = data->notes};
+                        .notes = data->notes,
+                        .warnings = data->warnings};
     std::vector<std::string> namesAsFitted(names.size());
     for (std::size_t i = 0; i < names.size(); ++i) {
         const std::size_t place = places[i];
@@ -319,7 +322,7 @@ Outcome<HyperelasticFit> FitHyperelastic(HyperelasticModel model, int order,
     }
     fit.correlations = StrongCorrelations(uncertainty, namesAsFitted);
     fit.stability = StabilityByMode(**energy, fit.modes);
-    AddNotes(fit, uncertainty, best.converged, best.atBound.front());
+    AddWarnings(fit, uncertainty, best.converged, best.atBound.front());
     return fit;
 }
 

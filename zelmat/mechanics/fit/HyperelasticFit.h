@@ -38,7 +38,8 @@ struct HyperelasticFit {
     std::vector<ModeStability> stability;         ///< the three modes of stretch, and shear if it was tested
     std::vector<Correlation> correlations;        ///< above 0.95
     std::vector<std::vector<double>> alternatives;  ///< other coefficients with nearly the same deviation
-    std::vector<std::string> notes;
+    std::vector<std::string> notes;                 ///< which points do not count
+    std::vector<std::string> warnings;              ///< why not to trust it
 
     std::vector<double> Values() const;
 };

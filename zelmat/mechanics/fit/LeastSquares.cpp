@@ -2,6 +2,7 @@
 
 #include <ceres/ceres.h>
 
+#include <Eigen/Dense>
 #include <algorithm>
 #include <cmath>
 
@@ -131,6 +132,66 @@ std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, s
                               .sum = SumOfSquares(*residuals),
                               .converged = converged,
                               .atBound = AtBounds(problem, start)};
+}
+
+namespace {
+
+/// The step of the parameters that are free to move, 0 for the others.
+std::vector<double> GaussNewtonStep(const LeastSquaresResult& at) {
+    const auto rows = static_cast<Eigen::Index>(at.residuals.values.size());
+    const std::size_t count = at.parameters.size();
+    std::vector<std::size_t> free;
+    for (std::size_t k = 0; k < count; ++k) {
+        if (!at.atBound[k]) free.push_back(k);
+    }
+    std::vector<double> step(count, 0.0);
+    if (free.empty()) return step;
+    Eigen::MatrixXd slopes(rows, static_cast<Eigen::Index>(free.size()));
+    for (Eigen::Index i = 0; i < rows; ++i) {
+        for (std::size_t k = 0; k < free.size(); ++k) {
+            slopes(i, static_cast<Eigen::Index>(k)) =
+                at.residuals.jacobian[static_cast<std::size_t>(i) * count + free[k]];
+        }
+    }
+    Eigen::VectorXd lengths = slopes.colwise().norm();
+    for (double& length : lengths) length = length > 0.0 ? length : 1.0;
+    slopes = slopes * lengths.cwiseInverse().asDiagonal();
+    const Eigen::Map<const Eigen::VectorXd> values(at.residuals.values.data(), rows);
+    const Eigen::VectorXd solved = slopes.completeOrthogonalDecomposition().solve(values);
+    for (std::size_t k = 0; k < free.size(); ++k) {
+        const auto place = static_cast<Eigen::Index>(k);
+        step[free[k]] = -solved(place) / lengths(place);
+    }
+    return step;
+}
+
+}  // namespace
+
+LeastSquaresResult Polished(const LeastSquaresProblem& problem, const LeastSquaresResult& minimum) {
+    constexpr int kSteps = 60;
+    constexpr double kRounding = 1e-9;  // by which a sum may rise without being greater
+    LeastSquaresResult at = minimum;
+    double last = kUnbounded;
+    for (int i = 0; i < kSteps; ++i) {
+        const auto step = GaussNewtonStep(at);
+        auto next = at.parameters;
+        double size = 0.0;
+        bool inside = true;
+        for (std::size_t k = 0; k < step.size(); ++k) {
+            next[k] += step[k];
+            size = std::max(size, std::abs(step[k]) / std::max(1.0, std::abs(next[k])));
+            inside = inside && next[k] >= problem.lower[k] && next[k] <= problem.upper[k];
+        }
+        if (!inside || !(size < last) || size == 0.0) break;
+        auto residuals = FiniteAt(problem, next);
+        const double sum = residuals ? SumOfSquares(*residuals) : kUnbounded;
+        if (sum > minimum.sum * (1.0 + kRounding)) break;
+        at.parameters = std::move(next);
+        at.residuals = std::move(*residuals);
+        at.sum = sum;
+        last = size;
+    }
+    return at;
 }
 
 }  // namespace zelmat::mechanics

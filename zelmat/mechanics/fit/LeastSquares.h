@@ -41,4 +41,9 @@ constexpr int kManyIterations = 500;
 std::optional<LeastSquaresResult> Minimise(const LeastSquaresProblem& problem, std::vector<double> start,
                                            int iterations = kManyIterations);
 
+/// A minimum to the last digits that its derivatives have, by the steps of Gauss and Newton: where the sum no
+/// longer falls in its digits a descent stops, which leaves the parameters half of theirs. Parameters at a
+/// bound stay there. The same minimum when the steps do not shrink.
+LeastSquaresResult Polished(const LeastSquaresProblem& problem, const LeastSquaresResult& minimum);
+
 }  // namespace zelmat::mechanics

@@ -47,8 +47,8 @@ Outcome<FitData> TakeTestData(const std::vector<TestCurve>& curves, DeviationMea
     for (const TestCurve& curve : curves) {
         if (const auto fault = Fault(curve)) return *fault;
         if (!Rises(curve.points)) {
-            data.notes.push_back("the stretches of a " + std::string(Keyword(curve.mode)) +
-                                 " test do not rise from point to point: taken as they stand");
+            data.warnings.push_back("the stretches of a " + std::string(Keyword(curve.mode)) +
+                                    " test do not rise from point to point: taken as they stand");
         }
         for (const auto& [stretch, stress] : curve.points) {
             const double fromRest = stretch - AtRest(curve.mode);
@@ -64,7 +64,7 @@ Outcome<FitData> TakeTestData(const std::vector<TestCurve>& curves, DeviationMea
     }
     if (outside > 0) data.notes.push_back(Count(outside, "outside the given range left out"));
     if (unstressed > 0) data.notes.push_back(Count(unstressed, "of zero stress left out"));
-    if (wrongSide > 0) data.notes.push_back(Count(wrongSide, "with a stress against the strain"));
+    if (wrongSide > 0) data.warnings.push_back(Count(wrongSide, "with a stress against the strain"));
     if (data.points.empty()) return Refusal{"there is no test point to fit to"};
     return data;
 }

@@ -42,7 +42,8 @@ struct FitPoint {
 /// All points of all curves that count, and what was noticed about them.
 struct FitData {
     std::vector<FitPoint> points;
-    std::vector<std::string> notes;
+    std::vector<std::string> notes;     ///< which were left out, as it was asked for
+    std::vector<std::string> warnings;  ///< what is hardly meant
 };
 
 /// Leaves out the points outside a curve's limits and for RELATIVE those of zero stress. Refuses stretches

@@ -1,6 +1,7 @@
 #include "zelmat/mechanics/laminate/LaminateResponse.h"
 
 #include <cmath>
+#include <limits>
 
 #include "zelmat/mechanics/laminate/PlyStiffness.h"
 
@@ -20,6 +21,28 @@ Vector3 TransposedTimes(const Matrix3& matrix, const Vector3& vector) {
     return product;
 }
 
+/// A sum whose entries are 0 where they are less than the rounding of what was added up.
+class CleanSum {
+public:
+    void Add(const Vector3& summand, double factor) {
+        for (std::size_t i = 0; i < 3; ++i) {
+            sum_[i] += factor * summand[i];
+            size_[i] += std::abs(factor * summand[i]);
+        }
+    }
+    Vector3 Value() const {
+        constexpr double kRounding = 16.0 * std::numeric_limits<double>::epsilon();
+        Vector3 clean = sum_;
+        for (std::size_t i = 0; i < 3; ++i) {
+            if (std::abs(clean[i]) <= kRounding * size_[i]) clean[i] = 0.0;
+        }
+        return clean;
+    }
+
+private:
+    Vector3 sum_{}, size_{};
+};
+
 /// Forces and moments that would hold back the expansion of every ply at a change of temperature by 1.
 struct HeldBack {
     Vector3 force{}, moment{};
@@ -27,16 +50,16 @@ struct HeldBack {
 
 HeldBack ThermalLoads(const Laminate& laminate) {
     const auto z = Interfaces(laminate);
-    HeldBack held;
+    CleanSum force, moment;
     for (std::size_t k = 0; k < laminate.layers.size(); ++k) {
         const Layer& layer = laminate.layers[k];
         const PlyMaterial& material = laminate.materials[layer.material];
         const Vector3 stress =
             Times(RotatedStiffness(material.elastic, layer.angle), RotatedExpansion(material, layer.angle));
-        held.force = Sum(held.force, stress, layer.thickness);
-        held.moment = Sum(held.moment, stress, layer.thickness * 0.5 * (z[k] + z[k + 1]));
+        force.Add(stress, layer.thickness);
+        moment.Add(stress, layer.thickness * 0.5 * (z[k] + z[k + 1]));
     }
-    return held;
+    return {force.Value(), moment.Value()};
 }
 
 PlyPoint PointAt(const Laminate& laminate, const Layer& layer, double z, const LaminateResponse& plane,

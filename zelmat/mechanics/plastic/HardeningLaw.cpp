@@ -68,6 +68,20 @@ std::vector<std::string> CoefficientNames(HardeningLaw law) {
     return {};
 }
 
+std::string FormulaOf(HardeningLaw law) {
+    switch (law) {
+        case HardeningLaw::LUDWIK:
+            return "sigma_0 + K e^n";
+        case HardeningLaw::SWIFT:
+            return "K (e_0 + e)^n";
+        case HardeningLaw::VOCE:
+            return "sigma_s - (sigma_s - sigma_0) exp(-e/e_c)";
+        case HardeningLaw::JOHNSON_COOK:
+            return "A + B e^n, at the reference rate and transition temperature";
+    }
+    return {};
+}
+
 HardeningStress StressOf(HardeningLaw law, const std::vector<double>& c, double plasticStrain) {
     switch (law) {
         case LUDWIK:

@@ -23,6 +23,9 @@ std::optional<HardeningLaw> HardeningLawOf(std::string_view keyword);
 /// In the order of the formulas: sigma_0, K, n | K, e_0, n | sigma_0, sigma_s, e_c | A, B, n.
 std::vector<std::string> CoefficientNames(HardeningLaw law);
 
+/// "sigma_0 + K e^n", e the plastic strain.
+std::string FormulaOf(HardeningLaw law);
+
 /// A stress with its derivatives by the coefficients.
 struct HardeningStress {
     double stress;

@@ -55,7 +55,7 @@ TEST(HardeningFit, KeepsItsBoundsAndSaysSo) {
     EXPECT_TRUE(fit.coefficients[0].atBound);
     EXPECT_FALSE(fit.coefficients[0].standardDeviation);
     EXPECT_TRUE(fit.coefficients[1].standardDeviation);
-    EXPECT_THAT(fit.notes, Contains("sigma_0 is at its bound"));
+    EXPECT_THAT(fit.warnings, Contains("sigma_0 is at its bound"));
 }
 
 TEST(HardeningFit, IsRefusedForTooFewPointsAndForWhatNoCurveHas) {

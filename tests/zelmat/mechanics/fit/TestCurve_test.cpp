@@ -46,7 +46,7 @@ TEST(TestCurve, KeepsToItsLimitsAndCarriesItsWeight) {
 TEST(TestCurve, OutOfOrderOrAgainstTheStrainIsTakenAndSaid) {
     const auto data = TakeTestData({Curve({{1.5, 2}, {1.2, -1}})}, RELATIVE);
     EXPECT_EQ(data->points.size(), 2u);
-    EXPECT_THAT(data->notes,
+    EXPECT_THAT(data->warnings,
                 ElementsAre("the stretches of a uniaxial test do not rise from point to point: taken "
                             "as they stand",
                             "1 point with a stress against the strain"));

@@ -1,0 +1,336 @@
+#include "zelmat/commands/FitInput.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <tuple>
+
+#include "zelmat/commands/CardInput.h"
+#include "zelmat/commands/OptionNumbers.h"
+#include "zelmat/files/ReadText.h"
+#include "zelmat/properties/HardeningProperty.h"
+#include "zelmat/properties/TestCurves.h"
+#include "zelmat/properties/UsedBlock.h"
+#include "zelmat/quantities/NumberText.h"
+#include "zelmat/quantities/ReadNumber.h"
+#include "zelmat/text/QuotedText.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+using mechanics::LoadingMode;
+using mechanics::StressStrain;
+using mechanics::TestCurve;
+
+constexpr const char* kModes = "uniaxial, equibiaxial, planar or shear";
+
+/// "planar=1:3" or "1:3": what stands before the "=" is a mode.
+struct ByMode {
+    std::optional<LoadingMode> mode;
+    std::string text;
+    bool good = true;
+};
+
+ByMode SplitByMode(const std::string& text, const char* option, Findings& findings) {
+    const std::size_t equals = text.find('=');
+    if (equals == std::string::npos) return {{}, text};
+    const auto mode = mechanics::LoadingModeOf(text.substr(0, equals));
+    if (!mode) {
+        findings.Add(UsageFinding(option, "no-such-mode", QuotedText(text.substr(0, equals)) + " is no mode",
+                                  {std::string("expected ") + kModes}));
+    }
+    return {mode, text.substr(equals + 1), mode.has_value()};
+}
+
+std::optional<double> NumberIn(const std::string& text, const char* option, Findings& findings) {
+    const auto number = ReadNumber(text);
+    if (number) return *number;
+    findings.Add(UsageFinding(option, "wrong-number", number.Error().text));
+    return std::nullopt;
+}
+
+Finding DataFinding(Place place, const char* code, std::string text, std::vector<std::string> details = {}) {
+    return {FindingKind::ERROR, std::move(place), code, std::move(text), std::move(details)};
+}
+
+/// The stretch (amount of shear) of each row; nothing for columns that do not say it in this mode.
+std::optional<double> StretchOf(const MeasuredCsv& points, std::size_t row, LoadingMode mode) {
+    const auto at = [&](MeasuredColumn column) -> std::optional<double> {
+        const auto* numbers = points.Numbers(column);
+        return numbers ? std::optional((*numbers)[row]) : std::nullopt;
+    };
+    if (mode == LoadingMode::SIMPLE_SHEAR) return at(MeasuredColumn::SHEAR);
+    if (const auto stretch = at(MeasuredColumn::STRETCH)) return stretch;
+    if (const auto strain = at(MeasuredColumn::ENGINEERING_STRAIN)) return 1.0 + *strain;
+    if (const auto strain = at(MeasuredColumn::TRUE_STRAIN)) return std::exp(*strain);
+    return std::nullopt;
+}
+
+}  // namespace
+
+void FitInput::Declare(CLI::App& line) {
+    line.add_option("CARD|DOC|CSV", what_,
+                    "Material card or document and one of its materials, or CSV files of measured points")
+        ->required();
+    line.add_option("--mode", modeTexts_,
+                    std::string("Mode of each CSV file, or the modes that count of a card: ") + kModes)
+        ->delimiter(',');
+    line.add_option("--range", limitTexts_, "Stretches that count: 1:4, or of one mode planar=1:4");
+    line.add_option("--weight", weightTexts_, "Weight of the tests of a mode: equibiaxial=2");
+    line.add_option("--temperature", temperatureText_, "Which hardening curve of several: 20degC");
+    DeclareCardReading(line, how_);
+}
+
+bool FitInput::ReadModes(Findings& findings) {
+    for (const std::string& text : modeTexts_) {
+        const auto mode = mechanics::LoadingModeOf(text);
+        if (!mode) {
+            findings.Add(UsageFinding("--mode", "no-such-mode", QuotedText(text) + " is no mode",
+                                      {std::string("expected ") + kModes}));
+            return false;
+        }
+        modes_.push_back(*mode);
+    }
+    return true;
+}
+
+bool FitInput::ReadLimits(Findings& findings) {
+    for (const std::string& text : limitTexts_) {
+        const ByMode split = SplitByMode(text, "--range", findings);
+        const std::size_t colon = split.text.find(':');
+        if (!split.good) return false;
+        if (colon == std::string::npos) {
+            findings.Add(UsageFinding("--range", "wrong-range", QuotedText(text) + " is no range",
+                                      {"FROM:TO, as in 1:4 or planar=1:4"}));
+            return false;
+        }
+        const auto lower = NumberIn(split.text.substr(0, colon), "--range", findings);
+        const auto upper = NumberIn(split.text.substr(colon + 1), "--range", findings);
+        if (!lower || !upper) return false;
+        limits_.push_back({split.mode, *lower, *upper});
+    }
+    return true;
+}
+
+bool FitInput::ReadWeights(Findings& findings) {
+    for (const std::string& text : weightTexts_) {
+        const ByMode split = SplitByMode(text, "--weight", findings);
+        const auto weight = split.good ? NumberIn(split.text, "--weight", findings) : std::nullopt;
+        if (!weight) return false;
+        weights_.push_back({split.mode, *weight});
+    }
+    return true;
+}
+
+bool FitInput::Read(CommandContext& context) {
+    Findings& findings = context.findings;
+    temperature_ = OptionNumberIfGiven("--temperature", temperatureText_, "temperature", findings);
+    if (!ReadModes(findings) || !ReadLimits(findings) || !ReadWeights(findings) || findings.HasErrors()) {
+        return false;
+    }
+    const std::string& path = what_.front();
+    place_ = {ShownPath(path), 0};
+    // Standard input can be read once, so it is a card or a document.
+    const auto text = path == "-" ? std::optional<std::string>("") : ReadText(path, findings);
+    if (!text) return false;
+    if (MeasuredCsv::IsOne(*text)) return ReadFiles(context, *text);
+    if (what_.size() > 2) {
+        findings.Add(UsageFinding("CARD|DOC|CSV", "too-many", "a card or a document has one material to fit",
+                                  {"only files of measured points can be several"}));
+        return false;
+    }
+    GivenMaterials given;
+    given.Set(path, what_.size() > 1 ? what_[1] : "", how_);
+    material_ = given.ReadOne(context);
+    if (material_) name_ = material_->name;
+    return material_.has_value();
+}
+
+bool FitInput::ReadFiles(CommandContext& context, const std::string& first) {
+    if (modes_.size() > 1 && modes_.size() != what_.size()) {
+        context.findings.Add(UsageFinding(
+            "--mode", "modes-and-files",
+            std::to_string(modes_.size()) + " modes for " + std::to_string(what_.size()) + " files",
+            {"one mode for all files, or one for each"}));
+        return false;
+    }
+    for (const std::string& path : what_) {
+        const auto text = path == what_.front() ? std::optional(first) : ReadText(path, context.findings);
+        if (!text) return false;
+        auto points = MeasuredCsv::Read(*text, ShownPath(path), how_, context.findings);
+        if (!points) return false;
+        measured_.push_back({ShownPath(path), std::move(*points)});
+    }
+    name_ = WordList(measured_, [](const Measured& measured) { return measured.file; });
+    return true;
+}
+
+void FitInput::AddCurves(const Measured& measured, std::optional<LoadingMode> given,
+                         std::vector<TestCurve>& curves, Findings& findings) const {
+    const MeasuredCsv& points = measured.points;
+    const auto* modes = points.Words(MeasuredColumn::MODE);
+    const auto* specimens = points.Words(MeasuredColumn::SPECIMEN);
+    const auto* weights = points.Numbers(MeasuredColumn::WEIGHT);
+    const auto* nominal = points.Numbers(MeasuredColumn::NOMINAL_STRESS);
+    const auto* trueStress = points.Numbers(MeasuredColumn::TRUE_STRESS);
+    if ((!nominal && !trueStress) || (nominal && trueStress)) {
+        return findings.Add(DataFinding({measured.file, 0}, "one-stress",
+                                        "the points need one stress, nominal or true",
+                                        {"NominalStress [MPa] or TrueStress [MPa]"}));
+    }
+    if (!modes && !given) {
+        findings.Add({FindingKind::WARNING,
+                      {measured.file, 0},
+                      "mode-not-said",
+                      "the tests are taken as uniaxial",
+                      {"--mode or a column Mode says it"}});
+    }
+    using Key = std::tuple<LoadingMode, std::string, double>;
+    std::map<Key, TestCurve> specimensOf;
+    for (std::size_t row = 0; row < points.Rows(); ++row) {
+        const Place place{measured.file, points.Line(row)};
+        const auto mode = modes ? mechanics::LoadingModeOf((*modes)[row])
+                                : std::optional(given.value_or(LoadingMode::UNIAXIAL));
+        if (!mode) {
+            return findings.Add(DataFinding(place, "no-such-mode", QuotedText((*modes)[row]) + " is no mode",
+                                            {std::string("expected ") + kModes}));
+        }
+        const auto stretch = StretchOf(points, row, *mode);
+        if (!stretch) {
+            const bool shear = *mode == LoadingMode::SIMPLE_SHEAR;
+            return findings.Add(
+                DataFinding(place, "no-stretch",
+                            shear ? "a shear test needs a column AmountOfShear"
+                                  : "the points have no stretch and no strain",
+                            shear ? std::vector<std::string>()
+                                  : std::vector<std::string>{"Stretch, EngineeringStrain or TrueStrain"}));
+        }
+        if (!mechanics::IsReachable(*mode, *stretch)) {
+            return findings.Add(DataFinding(place, "impossible-stretch",
+                                            "the stretch is " + NumberText(*stretch), {"has to be above 0"}));
+        }
+        const double weight = weights ? (*weights)[row] : 1.0;
+        TestCurve& curve =
+            specimensOf
+                .try_emplace(
+                    {*mode, specimens ? (*specimens)[row] : "", weight},
+                    TestCurve{.mode = *mode, .points = {}, .weight = weight, .lower = {}, .upper = {}})
+                .first->second;
+        curve.points.push_back(
+            {*stretch,
+             nominal ? (*nominal)[row] : mechanics::NominalStressOf(*mode, *stretch, (*trueStress)[row])});
+    }
+    for (auto& [key, curve] : specimensOf) curves.push_back(std::move(curve));
+}
+
+void FitInput::Restrict(std::vector<TestCurve>& curves) const {
+    for (TestCurve& curve : curves) {
+        for (const Limits& limits : limits_) {
+            if (limits.mode && *limits.mode != curve.mode) continue;
+            curve.lower = limits.lower;
+            curve.upper = limits.upper;
+        }
+        for (const Weight& weight : weights_) {
+            if (!weight.mode || *weight.mode == curve.mode) curve.weight *= weight.weight;
+        }
+    }
+}
+
+bool FitInput::IsHardening() const {
+    if (material_) return TestCurvesOf(*material_).empty() && material_->Find("plastic");
+    return measured_.front().points.Numbers(MeasuredColumn::PLASTIC_STRAIN) != nullptr;
+}
+
+std::vector<TestCurve> FitInput::Curves(Findings& findings) const {
+    std::vector<TestCurve> curves;
+    if (material_) {
+        curves = TestCurvesOf(*material_);
+        if (!modes_.empty()) {
+            std::erase_if(curves, [this](const TestCurve& curve) {
+                return std::find(modes_.begin(), modes_.end(), curve.mode) == modes_.end();
+            });
+        }
+        if (curves.empty()) {
+            findings.Add(DataFinding(
+                place_, "no-tests",
+                QuotedText(name_) + (modes_.empty() ? " has no test_data" : " has no tests in these modes"),
+                {"uniaxial, equibiaxial or planar in test_data, or a CSV file"}));
+        }
+    }
+    for (std::size_t at = 0; at < measured_.size(); ++at) {
+        const auto mode =
+            modes_.empty() ? std::nullopt : std::optional(modes_[std::min(at, modes_.size() - 1)]);
+        AddCurves(measured_[at], mode, curves, findings);
+    }
+    if (findings.HasErrors()) return {};
+    Restrict(curves);
+    return curves;
+}
+
+/// The temperature whose curve counts: the only one, or the one that was asked for.
+std::optional<double> FitInput::OneTemperature(const std::vector<double>& temperatures, const Place& place,
+                                               Findings& findings) const {
+    std::vector<double> all = temperatures;
+    std::sort(all.begin(), all.end());
+    all.erase(std::unique(all.begin(), all.end()), all.end());
+    const auto near = [this](double at) { return temperature_ && std::abs(at - *temperature_) < 1e-6; };
+    const auto found = std::find_if(all.begin(), all.end(), near);
+    if (found != all.end()) return *found;
+    if (all.size() == 1 && !temperature_) return all.front();
+    findings.Add(DataFinding(
+        place, "which-temperature",
+        temperature_ ? "there is no curve at this temperature" : "there are curves at several temperatures",
+        {"--temperature: " + WordList(all, [](double at) { return WithUnit(at, "K"); })}));
+    return std::nullopt;
+}
+
+std::vector<StressStrain> FitInput::Hardening(Findings& findings) const {
+    std::vector<StressStrain> curve;
+    std::vector<double> temperatures;
+    Place place = place_;
+    if (material_) {
+        const auto block = UsedBlock(*material_, "plastic", findings);
+        if (!block) return {};
+        place.line = block->origin.Line();
+        const auto hardening = HardeningOf(*block);
+        const auto* table =
+            hardening.Ok() ? std::get_if<mechanics::HardeningTable>(&hardening->law) : nullptr;
+        if (!table) {
+            findings.Add(DataFinding(place, "no-curve",
+                                     hardening.Ok() ? "johnson-cook is a law already" : hardening.Why()));
+            return {};
+        }
+        for (const auto& row : table->Rows()) {
+            curve.push_back({row.plasticStrain, row.stress});
+            temperatures.push_back(row.temperature);
+        }
+    }
+    for (const Measured& measured : measured_) {
+        const auto* strain = measured.points.Numbers(MeasuredColumn::PLASTIC_STRAIN);
+        const auto* stress = measured.points.Numbers(MeasuredColumn::TRUE_STRESS);
+        const auto* temperature = measured.points.Numbers(MeasuredColumn::TEMPERATURE);
+        if (!strain || !stress) {
+            findings.Add(
+                DataFinding({measured.file, 0}, "no-curve",
+                            "a law of metals is fitted to plastic strains and true stresses",
+                            {"YieldStress [MPa],PlasticStrain [-]", "zelmat true-curve makes them"}));
+            return {};
+        }
+        for (std::size_t row = 0; row < measured.points.Rows(); ++row) {
+            curve.push_back({(*strain)[row], (*stress)[row]});
+            temperatures.push_back(temperature ? (*temperature)[row] : 0.0);
+        }
+    }
+    const auto one = OneTemperature(temperatures, place, findings);
+    if (!one) return {};
+    std::vector<StressStrain> chosen;
+    for (std::size_t at = 0; at < curve.size(); ++at) {
+        if (temperatures[at] == *one) chosen.push_back(curve[at]);
+    }
+    return chosen;
+}
+
+}  // namespace zelmat
