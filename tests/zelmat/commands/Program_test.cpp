@@ -68,7 +68,7 @@ TEST(Program, TellsAWrongCommandLineAsJsonWhereJsonIsWanted) {
 TEST(Program, ExplainsItselfWhenAsked) {
     const ProgramRun run = RunZelmat({"--help"});
     EXPECT_EQ(run.exitCode, 0);
-    EXPECT_THAT(run.out, HasSubstr("\n  show       print the properties on a material card"));
+    EXPECT_THAT(run.out, HasSubstr("\n  show        print the properties on a material card"));
     EXPECT_THAT(run.out,
                 HasSubstr("Exit codes: 0 clean or warnings alone, 1 errors (under --strict warnings, too),\n"
                           "2 wrong command line, 3 could not read or write.\n"));

@@ -111,7 +111,12 @@ TEST(ResponseCommand, PrintsModelModuliLimitsAndResponse) {
         "  uniaxial  drucker              -        -            0.1  10  stable throughout\n"
         "  uniaxial  dead-load            -        -            0.1  10  stable throughout\n"
         "\n"
-        "Response\n"
+        "Deviation from the material's tests\n"
+              "  tests     points  from   to  RMS relative  RMS absolute [MPa]        R^2\n"
+              "  uniaxial      24  1.02  7.6     0.2824609            1.221634  0.6033608\n"
+              "  all           24     -    -     0.2824609            1.221634  0.6033608\n"
+              "\n"
+              "Response\n"
         "  mode      stretch  energy per volume [MPa]  nominal stress [MPa]  true stress [MPa]  tangent "
         "[MPa]\n"
         "  uniaxial      1.0                  0.00000             0.0000000             0.0000      "
@@ -178,6 +183,22 @@ TEST(ResponseCommand, RefusesStretchesThatAreNone) {
     }
     EXPECT_EQ(RunZelmat({"response", card, "--stretch", "-1"}).exitCode, 1);
     EXPECT_EQ(RunZelmat({"response", card, "--mode", "biaxial"}).exitCode, 2);
+}
+
+// What the card publishes as rms_relative_deviation of its fits.
+TEST(ResponseCommand, SaysHowNearAFitComesToTheTestsOfItsMaterial) {
+    const std::pair<const char*, double> published[] = {{"OGDEN", 0.0819},
+                                                        {"NEO_HOOKE", 0.223},
+                                                        {"YEOH", 0.122},
+                                                        {"REDUCED_POLYNOMIAL", 0.118},
+                                                        {"POLYNOMIAL", 0.146}};
+    for (const auto& [model, deviation] : published) {
+        const ResultJson result({"response", Sample("natural_rubber_treloar.json"), "--model", model});
+        EXPECT_NEAR(result.Number("deviation", 3, "rms_relative"), deviation, 5e-4) << model;
+    }
+    const ResultJson planar({"response", Sample("natural_rubber_treloar.json"), "--model", "MOONEY_RIVLIN",
+                             "--variant", "planar", "--mode", "planar"});
+    EXPECT_NEAR(planar.Number("deviation", 0, "rms_relative"), 0.139, 5e-4);
 }
 
 TEST(ResponseCommand, SaysWhichFitItTakes) {

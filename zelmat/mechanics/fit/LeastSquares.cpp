@@ -153,11 +153,19 @@ std::vector<double> GaussNewtonStep(const LeastSquaresResult& at) {
                 at.residuals.jacobian[static_cast<std::size_t>(i) * count + free[k]];
         }
     }
+    // What the residuals do not depend on but for rounding stays where it is.
+    constexpr double kRounding = 1e-10;
     Eigen::VectorXd lengths = slopes.colwise().norm();
-    for (double& length : lengths) length = length > 0.0 ? length : 1.0;
-    slopes = slopes * lengths.cwiseInverse().asDiagonal();
+    const double longest = lengths.maxCoeff();
+    for (Eigen::Index k = 0; k < lengths.size(); ++k) {
+        const bool acts = lengths(k) > kRounding * longest;
+        if (!acts) lengths(k) = 1.0;
+        slopes.col(k) *= acts ? 1.0 / lengths(k) : 0.0;
+    }
     const Eigen::Map<const Eigen::VectorXd> values(at.residuals.values.data(), rows);
-    const Eigen::VectorXd solved = slopes.completeOrthogonalDecomposition().solve(values);
+    Eigen::CompleteOrthogonalDecomposition<Eigen::MatrixXd> decomposed;
+    decomposed.setThreshold(kRounding);
+    const Eigen::VectorXd solved = decomposed.compute(slopes).solve(values);
     for (std::size_t k = 0; k < free.size(); ++k) {
         const auto place = static_cast<Eigen::Index>(k);
         step[free[k]] = -solved(place) / lengths(place);
@@ -171,7 +179,7 @@ LeastSquaresResult Polished(const LeastSquaresProblem& problem, const LeastSquar
     constexpr int kSteps = 60;
     constexpr double kRounding = 1e-9;  // by which a sum may rise without being greater
     LeastSquaresResult at = minimum;
-    double last = kUnbounded;
+    double last = 1e-3;  // of a minimum that is at rest, only small steps lead to it
     for (int i = 0; i < kSteps; ++i) {
         const auto step = GaussNewtonStep(at);
         auto next = at.parameters;
