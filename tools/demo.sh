@@ -38,6 +38,14 @@ run convert samples/forms/aluminium_6061_t6.csv --to json --output "$converted"
 "$zelmat" convert "$converted" --to csv | diff samples/forms/aluminium_6061_t6.csv -
 echo "CSV, JSON and CSV again: no difference"
 
+# What the numbers mean: fits to the rubber's tests ranked, where one becomes unstable, the copper's stress at 600 K, the
+# laminate's moduli.
+run fit samples/natural_rubber_treloar.json --all-models
+run response samples/natural_rubber_treloar.json --model POLYNOMIAL
+run at samples/copper_ofhc.json plastic --plastic-strain 0.1 --temperature 600K
+run constants E=210GPa nu=0.3 density=7850kg/m3
+run laminate "[0/45/-45/90]s" --ply E1=181GPa,E2=10.3GPa,nu12=0.28,G12=7.17GPa --thickness 0.125mm
+
 # A document of an older release; the upgraded one needs nothing more.
 upgraded=$(mktemp --suffix=.json)
 trap 'rm -f "$converted" "$upgraded"' EXIT
