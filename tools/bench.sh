@@ -15,7 +15,7 @@ cmake --build --preset release --target bench
 
 tables=$(mktemp -d)
 trap 'rm -rf "$tables"' EXIT
-for program in access tables documents disk materials cards; do
+for program in access tables documents disk materials cards fits; do
     echo
     echo "== bench_$program"
     "build/release/bin/bench_$program" --markdown="$tables/$program.md" "$@"
@@ -42,7 +42,7 @@ TEXT
     echo "- Compiler: $("${CXX:-c++}" --version | head -n 1), preset \`release\`"
     echo "- OCAF: $(dpkg-query --show --showformat='${Version}' libocct-ocaf-dev)"
     echo "- Load of the machine before the end of the run: $(cut -d ' ' -f 1 /proc/loadavg)"
-    for program in access tables documents disk materials cards; do
+    for program in access tables documents disk materials cards fits; do
         question=$(sed -n '1s|^// ||p; 2s|^// | |p' "bench/bench_$program.cpp" | tr -d '\n')
         printf '\n## bench_%s\n\n%s\n\n' "$program" "$question"
         cat "$tables/$program.md"
