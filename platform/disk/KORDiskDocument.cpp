@@ -11,8 +11,8 @@ KORDiskDocument::KORDiskDocument(KORPlatform& platform, const std::string& path,
 KORDiskDocument::~KORDiskDocument() {
     document_->Close();
     if (!made_) return;
+    file_.Unmake();  // while the lock keeps others from taking it
     file_.Connection().RollBack();
-    file_.Unmake();
 }
 
 std::unique_ptr<KORDiskDocument> KORDiskDocument::Create(KORPlatform& platform, const std::string& path,
@@ -75,14 +75,16 @@ bool KORDiskDocument::Save(const KORHistoryOrigin& origin, KORFileError& error) 
         error = {file_.Path(), 0, 0, "cannot be saved in the middle of a step"};
         return false;
     }
+    if (!locked_ && !file_.Lock(error)) {
+        if (!file_.Connection().IsBusy()) Reread();
+        return false;
+    }
     if (WriteAll(origin, error)) return true;
     Reread();
     return false;
 }
 
 bool KORDiskDocument::WriteAll(const KORHistoryOrigin& origin, KORFileError& error) {
-    if (!locked_ && !file_.Lock(error)) return false;
-    locked_ = true;
     KORSqlite& connection = file_.Connection();
     if (made_) KORDiskSchema::Make(connection);
     KORDiskWriter writer(connection, file_.Path(), *document_, index_);

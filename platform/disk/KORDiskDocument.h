@@ -22,7 +22,8 @@ public:
                                                                  const std::string& path,
                                                                  KORFileError& error);
 
-    /// Reads a document. The file is free for others again when this answers.
+    /// Reads a document. The file is free for others again when this answers. The unit of pressure that the
+    /// document was saved with, if one was chosen, becomes the platform's current one.
     [[nodiscard]] static std::unique_ptr<KORDiskDocument> OpenToRead(KORPlatform& platform,
                                                                      const std::string& path,
                                                                      KORFileError& error,
@@ -44,10 +45,14 @@ public:
     const std::string& Path() const { return file_.Path(); }
 
     /// Saves all that has changed, in one transaction: durable when this answers true, with the cost of the
-    /// change. The steps that are new are kept as the origin's. False, and `error` filled: the file is as it
-    /// was saved last, Document() is another one, read from it anew, and handles of the old one's features
-    /// read as never valued. Only an open step is refused without harm. The first Save lets go of the lock;
-    /// one more takes it again, and fails when another program has changed the file in between.
+    /// change. The steps that are new are kept as the origin's.
+    ///
+    /// False, and `error` filled: the file is as it was saved last. Document() is another one then, read from
+    /// it anew, and handles of the old one's features read as never valued; only when a step is open, or
+    /// another program has the lock, all stays as it is, to be tried again.
+    ///
+    /// The first Save lets go of the lock; one more takes it again, and fails when another program has
+    /// changed the file in between.
     [[nodiscard]] bool Save(const KORHistoryOrigin& origin, KORFileError& error);
 
     bool CanSave() const { return use_ == KORDiskFile::Use::Change; }

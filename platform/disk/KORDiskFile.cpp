@@ -100,6 +100,7 @@ bool KORDiskFile::Make(KORFileError& error) {
     Enter();
     if (!Connect(error) || !Begin(Use::Change, error)) return false;
     if (connection_.FileSize() != 0) return Refuse("exists already", error);
+    if (connection_.HasMoved()) return Refuse("was taken away by another program that was making it", error);
     return true;
 }
 

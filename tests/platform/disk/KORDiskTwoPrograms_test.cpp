@@ -166,6 +166,23 @@ TEST_F(KORDiskTwoPrograms, ASecondSaveAfterAnotherProgramSavedIsRefusedAndReadsI
     EXPECT_EQ(10.0, Stored());
 }
 
+TEST_F(KORDiskTwoPrograms, ASecondSaveThatDoesNotGetTheLockKeepsWhatItHasAndCanBeTriedAgain) {
+    MakeDocument();
+    auto first = OpenToChange();
+    Save(*first);
+    First(first->Document())->SetDouble(length, 9.0, 1);
+    KORFileError error;
+    {
+        const auto second = OpenToChange();
+
+        EXPECT_FALSE(first->Save({}, error));
+    }
+    EXPECT_THAT(error.Text(), HasSubstr("is in use"));
+    EXPECT_EQ(9.0, First(first->Document())->GetDouble(length, 1));
+    Save(*first);
+    EXPECT_EQ(9.0, Stored());
+}
+
 TEST_F(KORDiskTwoPrograms, WhoWaitedWhileItWasCompactedChangesTheNewFile) {
     MakeDocument();
     const Program second([&](const auto& tell) {
