@@ -100,6 +100,9 @@ def runs(folder):
     yield ["config"]
     yield ["config", "units=us"]
     yield ["config", "units=none"]
+    yield ["catalog"]
+    yield ["catalog", "MRVHyperelasticityLT"]
+    yield ["catalog", "OtherLT"]
     yield ["no-such-command"]
     yield ["help", "no-such-command"]
 
