@@ -17,7 +17,7 @@ struct ZELAnalysisDocUtils {
     static HRESULT GetSpecContainer(KORIContainer*& container, KORDocument* document);
 
     /// Makes the late types of a catalog known to a document. E_FAIL when the catalog cannot be opened.
-    static HRESULT LoadCatalog(const char* catalog, KORDocument* document);
+    [[nodiscard]] static HRESULT LoadCatalog(const char* catalog, KORDocument* document);
 
     /// The document's analysis-model factory and its analysis model. E_FAIL when it has none.
     static HRESULT GetFactory(KORISamAnalysisModelFactory_var& factory, const KORDocument* document);

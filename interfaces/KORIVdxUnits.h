@@ -44,7 +44,7 @@ protected:
 class KORIVdxUnits : public KORInterface<IID_KORIVdxUnits> {
 public:
     /// A new parameter of that unit type with one reference for the caller; null for an unknown type.
-    virtual KORIVdxParameter* CreateParameter(const KORUnicodeString& unitType) = 0;
+    [[nodiscard]] virtual KORIVdxParameter* CreateParameter(const KORUnicodeString& unitType) = 0;
 
 protected:
     ~KORIVdxUnits() = default;

@@ -11,7 +11,7 @@
 /// units do not.
 class KORUnitsService final : public KORImplements<KORIVdxUnits> {
 public:
-    KORIVdxParameter* CreateParameter(const KORUnicodeString& unitType) override;
+    [[nodiscard]] KORIVdxParameter* CreateParameter(const KORUnicodeString& unitType) override;
 
     /// False, and nothing changes, for an unknown unit type or a symbol that is none of its units.
     bool SetCurrentUnit(std::string_view unitType, std::string_view symbol);

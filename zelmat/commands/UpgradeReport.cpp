@@ -4,8 +4,9 @@
 
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "zelmat/materials/StatusText.h"
-#include "zelmat/quantities/NumberText.h"
+#include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/text/Printable.h"
+#include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -51,13 +52,26 @@ std::vector<FeatureChanges> ByFeature(const UpgradeReport& report, const KORUpgr
 void PrintConverted(std::ostream& out, const ConvertedCoefficients& converted) {
     out << "  coefficients: " << Printable(converted.model) << ", from " << converted.from << " to "
         << converted.to << '\n';
-    for (std::size_t row = 0; row < converted.rows.size(); ++row) {
-        out << "    row " << row + 1 << ":\n";
-        for (const auto& [name, before, after, factor] : converted.rows[row]) {
-            out << "      " << name << ": " << NumberText(before) << " -> " << NumberText(after) << " (times "
-                << NumberText(factor) << ")\n";
+    std::vector<double> before, after, factors;
+    for (const auto& row : converted.rows) {
+        for (const ConvertedCoefficient& coefficient : row) {
+            before.push_back(coefficient.before);
+            after.push_back(coefficient.after);
+            factors.push_back(coefficient.factor);
         }
     }
+    const auto befores = NumberColumn(before), afters = NumberColumn(after), times = NumberColumn(factors);
+    TablePrinter printer({"row", "coefficient", "before", "after", "times"});
+    printer.SetLeft(1);
+    std::size_t line = 0;
+    for (std::size_t row = 0; row < converted.rows.size(); ++row) {
+        for (const ConvertedCoefficient& coefficient : converted.rows[row]) {
+            printer.AddRow(
+                {std::to_string(row + 1), coefficient.name, befores[line], afters[line], times[line]});
+            ++line;
+        }
+    }
+    printer.Print(out);
 }
 
 nlohmann::ordered_json ToJson(const ConvertedCoefficients& converted) {

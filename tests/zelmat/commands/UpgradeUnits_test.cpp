@@ -88,11 +88,11 @@ TEST_F(UpgradeUnits, TellEveryCoefficientBeforeAndAfter) {
 
     ExpectClean(run);
     EXPECT_THAT(run.out, HasSubstr("  coefficients: MOONEY_RIVLIN, from MPa to Pa\n"
-                                   "    row 1:\n"
-                                   "      C10: 0.5 -> 5e+05 (times 1e+06)\n"
-                                   "      C01: 0.125 -> 125000 (times 1e+06)\n"
-                                   "      D1: 0.25 -> 2.5e-07 (times 1e-06)\n"
-                                   "      temperature: 293.15 -> 293.15 (times 1)\n"));
+                                   "  row  coefficient   before       after  times\n"
+                                   "    1  C10            0.500  5.0000e+05  1e+06\n"
+                                   "    1  C01            0.125  1.2500e+05  1e+06\n"
+                                   "    1  D1             0.250  2.5000e-07  1e-06\n"
+                                   "    1  temperature  293.150  2.9315e+02  1e+00\n"));
     EXPECT_EQ(WrittenRow(), json::parse("[500000, 125000, 2.5e-7, 293.15]"));
 }
 
