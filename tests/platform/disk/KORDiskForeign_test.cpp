@@ -271,7 +271,8 @@ TEST_P(KORDiskCorruption, NeverCrashes) {
         std::string broken = whole;
         const std::size_t first = GetParam() % 2 == 0 ? 0 : 100;  // behind the header, too
         for (std::size_t flips = 1 + random() % 8; flips > 0; --flips) {
-            broken[first + random() % (broken.size() - first)] ^= static_cast<char>(1u << random() % 8);
+            char& byte = broken[first + random() % (broken.size() - first)];
+            byte = static_cast<char>(byte ^ (1 << random() % 8));
         }
         if (GetParam() % 3 == 0) {
             const std::size_t at = random() % broken.size();
