@@ -6,6 +6,7 @@
 #include "zelmat/cards/PropertyNames.h"
 #include "zelmat/cards/TableByColumns.h"
 #include "zelmat/cards/TextLines.h"
+#include "zelmat/materials/BlockKind.h"
 #include "zelmat/quantities/PlainUnitText.h"
 
 namespace zelmat {
@@ -20,8 +21,10 @@ bool IsLower(char c) {
     return c >= 'a' && c <= 'z';
 }
 
-/// Sections of an ini file: those of FCMat begin with a capital, ours never do.
+/// Sections of an ini file: those of FCMat begin with a capital and are no blocks.
 CardFormKind FormOfSection(std::string_view line) {
+    const auto name = line.substr(1, line.find_first_of(".]") - 1);
+    if (FindBlockKind(BlockName(WithoutBlanksAround(name)))) return CardFormKind::CSV;
     const char first = line.size() > 1 ? line[1] : ' ';
     return IsUpper(first) ? CardFormKind::FCMAT_INI : IsLower(first) ? CardFormKind::CSV : CardFormKind::JSON;
 }
@@ -42,7 +45,7 @@ bool IsYamlKey(std::string_view line) {
 bool IsCsvLine(std::string_view line) {
     if (line.find('=') != std::string_view::npos) return true;
     const auto cells = CsvCells(line, CsvSeparator(line));
-    if (!cells) return false;
+    if (!cells) return true;  // an open quote, which its reader tells
     if (cells->size() > 1) return true;
     const ColumnHeader header = ReadColumnHeader(cells->front());
     return header.hasUnit || FindTableByColumns({header.name}).has_value();

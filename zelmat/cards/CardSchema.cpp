@@ -6,6 +6,7 @@
 #include "zelmat/cards/CardUnits.h"
 #include "zelmat/cards/JsonCardReader.h"
 #include "zelmat/cards/PropertyNames.h"
+#include "zelmat/cards/TableByColumns.h"
 #include "zelmat/materials/BlockKind.h"
 #include "zelmat/materials/HyperelasticForms.h"
 #include "zelmat/materials/Values.h"
@@ -122,7 +123,7 @@ void AddTable(ordered_json& schema, const BlockKind& block, const TableKind& kin
         return;
     }
     schema["type"] = "object";
-    ordered_json required = schema.value("required", ordered_json::array());
+    ordered_json required = ordered_json::array();
     if (kind.flagged) {
         schema["properties"]["temperature_dependent"] = {{"type", "boolean"}};
         required.push_back("temperature_dependent");
@@ -169,14 +170,31 @@ void AddSetting(ordered_json& block, const Setting& setting) {
     holder["properties"][setting.name.substr(dot + 1)] = SettingSchema(setting);
 }
 
+/// The block's own table, or, of one row, its values by the columns' names.
+void AddOwnTable(ordered_json& schema, const BlockKind& block, const TableKind& table) {
+    ordered_json tabular = ordered_json::object();
+    AddTable(tabular, block, table);
+    if (block.alternatives) {
+        schema["allOf"].push_back(std::move(tabular));
+        return;
+    }
+    schema["if"] = {{"anyOf", {{{"required", {"columns"}}}, {{"required", {"rows"}}}}}};
+    schema["then"] = std::move(tabular);
+    schema["else"] = {{"minProperties", 1}};
+}
+
 ordered_json BlockSchema(const BlockKind& block) {
     ordered_json schema = {{"description", block.title}};
     if (block.IsUnread()) return schema;
     schema["type"] = "object";
     for (const Setting& setting : block.settings) AddSetting(schema, setting);
     for (const TableKind& table : block.tables) {
-        AddTable(table.name.empty() ? schema : schema["properties"][table.name], block, table);
-        if (!table.name.empty() && table.required) schema["required"].push_back(table.name);
+        if (table.name.empty()) {
+            AddOwnTable(schema, block, table);
+            continue;
+        }
+        AddTable(schema["properties"][table.name], block, table);
+        if (table.required) schema["required"].push_back(table.name);
     }
     return schema;
 }
@@ -195,8 +213,10 @@ ordered_json MaterialSchema() {
         {"units", Reference("units")}};
     for (const BlockKind& block : BlockKinds()) {
         const ordered_json one = Reference(block.name);
-        properties[block.name] =
-            block.alternatives ? ordered_json{{"type", "array"}, {"minItems", 1}, {"items", one}} : one;
+        properties[block.name] = one;
+        if (block.alternatives) properties[block.name] = {{"type", "array"}, {"minItems", 1}, {"items", one}};
+        if (HasColumn(block, block.name))
+            properties[block.name] = {{"anyOf", {Reference("number_with_unit"), one}}};
     }
     return {{"type", "object"}, {"required", {"name"}}, {"properties", std::move(properties)}};
 }

@@ -211,6 +211,12 @@ bool CardTableReader::ConvertColumn(const JsonNode& header, Column& column) cons
     const ColumnHeader given = ReadColumnHeader(header.Json().get_ref<const std::string&>());
     const Quantity* quantity = QuantityOf(column.kind.name, column.kind.unit);
     if (!quantity) return true;
+    if (!given.hasUnit && units_.HasToBeNamed(*quantity)) {
+        header.Report("no-unit", "the column " + Quoted(given.name) + " has no unit",
+                      {"expected " + given.name + " [" + quantity->units.front().Spelling() + "]",
+                       "units that do: " + UnitsThatDo(*quantity)});
+        return false;
+    }
     const auto unit =
         given.hasUnit ? ReadUnit(given.unit, *quantity) : QuantityResult<Unit>(units_.For(*quantity));
     if (!unit) {

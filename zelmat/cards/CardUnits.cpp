@@ -25,7 +25,7 @@ const Quantity* FindNamed(const std::string& name) {
 
 }  // namespace
 
-CardUnits::CardUnits(const JsonNode& units) {
+CardUnits::CardUnits(const JsonNode& units, BareColumns bare) : bare_(bare) {
     if (!units.ExpectObject()) return;
     for (const std::string& name : units.Keys()) {
         if (IsComment(name)) continue;
@@ -62,11 +62,20 @@ const Unit* CardUnits::Find(const Quantity& quantity) const {
     return found == units_.end() ? nullptr : &found->second;
 }
 
-const Unit& CardUnits::For(const Quantity& quantity) const {
-    if (const Unit* own = Find(quantity)) return *own;
+/// For it or for its family; null when the card names neither.
+const Unit* CardUnits::Named(const Quantity& quantity) const {
+    if (const Unit* own = Find(quantity)) return own;
     const Quantity* family = quantity.family.empty() ? nullptr : FindQuantity(quantity.family);
-    const Unit* shared = family ? Find(*family) : nullptr;
-    return shared ? *shared : quantity.stored;
+    return family ? Find(*family) : nullptr;
+}
+
+const Unit& CardUnits::For(const Quantity& quantity) const {
+    const Unit* named = Named(quantity);
+    return named ? *named : quantity.stored;
+}
+
+bool CardUnits::HasToBeNamed(const Quantity& quantity) const {
+    return bare_ == BareColumns::REFUSED && quantity.stored.Spelling() != "-" && !Named(quantity);
 }
 
 }  // namespace zelmat

@@ -57,6 +57,8 @@ std::shared_ptr<const PlacedJson> CsvCardReader::Read(std::string_view text) {
 void CsvCardReader::ReadLine(std::string_view line) {
     const std::string_view bare = WithoutBlanksAround(line);
     if (bare.empty() || bare.front() == '#') return;
+    if (line_ == 1 && bare.starts_with("sep="))
+        return;  // spreadsheets write it; the header tells the separator
     if (bare.find('\0') != std::string_view::npos) return Report("no-text", "the line holds a NUL byte");
     const auto key = KeyOf(bare);
     if (lost_ && key) return;
@@ -90,7 +92,7 @@ void CsvCardReader::OpenSection(std::string_view name) {
     }
     Json& material = Material();
     const std::size_t dot = name.find('.');
-    block_ = name.substr(0, dot);
+    block_ = BlockName(name.substr(0, dot));
     table_ = dot == std::string_view::npos ? std::string_view() : name.substr(dot + 1);
     kind_ = FindBlockKind(block_);
     if (block_.empty() || (table_.empty() && dot != std::string_view::npos)) {
@@ -147,7 +149,12 @@ void CsvCardReader::FindSection(const std::vector<std::string>& names) {
     const auto found = FindTableByColumns(names);
     if (!found) {
         lost_ = true;
-        return Report("unknown-table", "no table has the columns " + QuotedText(names.front()) + ", ...",
+        constexpr std::size_t kMostShown = 10;
+        std::string shown;
+        for (std::size_t i = 0; i < names.size() && i < kMostShown; ++i)
+            shown += (i ? ", " : "") + QuotedText(names[i]);
+        if (names.size() > kMostShown) shown += ", ...";
+        return Report("unknown-table", "no table has just the columns " + shown,
                       {"give the table a section, such as [elastic]"});
     }
     kind_ = found->block;

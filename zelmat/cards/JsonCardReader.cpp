@@ -39,7 +39,7 @@ void JsonCardReader::ReadMaterial(const JsonNode& root, Findings& mistakes,
     const auto before = mistakes.All().size();
     Material material{.file = file_->Name(), .name = {}};
     ReadHead(root, material);
-    const CardUnits units = root.Has("units") ? CardUnits(root.At("units")) : CardUnits();
+    const CardUnits units = root.Has("units") ? CardUnits(root.At("units"), bare_) : CardUnits(bare_);
     ReadBlocks(root, units, material);
     KeepUnknownBlocks(root, material);
     const auto& all = mistakes.All();

@@ -19,8 +19,9 @@ public:
     /// The version of the form that this program writes and the newest that it reads.
     static constexpr int kVersion = 1;
 
-    JsonCardReader(std::shared_ptr<const PlacedJson> file, Findings& findings)
-        : file_(std::move(file)), findings_(findings) {}
+    JsonCardReader(std::shared_ptr<const PlacedJson> file, Findings& findings,
+                   BareColumns bare = BareColumns::SI)
+        : file_(std::move(file)), findings_(findings), bare_(bare) {}
 
     /// The materials without a mistake.
     std::vector<Material> Read();
@@ -36,6 +37,7 @@ private:
 
     std::shared_ptr<const PlacedJson> file_;
     Findings& findings_;
+    BareColumns bare_;
 };
 
 }  // namespace zelmat

@@ -4,6 +4,7 @@
 #include <array>
 #include <cctype>
 
+#include "zelmat/materials/BlockKind.h"
 #include "zelmat/quantities/PlainUnitText.h"
 
 namespace zelmat {
@@ -16,7 +17,7 @@ struct Alias {
 };
 
 /// Symbols, letter by letter.
-constexpr std::array<Alias, 15> kSymbols = {{
+constexpr std::array<Alias, 16> kSymbols = {{
     {"E", "youngs_modulus"},
     {"nu", "poissons_ratio"},
     {"NU", "poissons_ratio"},
@@ -31,11 +32,12 @@ constexpr std::array<Alias, 15> kSymbols = {{
     {"k", "conductivity"},
     {"cp", "specific_heat"},
     {"c_p", "specific_heat"},
+    {"CP", "specific_heat"},
     {"T", "temperature"},
 }};
 
 /// Names in small letters, without what stands between their words.
-constexpr std::array<Alias, 38> kNames = {{
+constexpr std::array<Alias, 41> kNames = {{
     {"youngsmodulus", "youngs_modulus"},
     {"youngmodulus", "youngs_modulus"},
     {"emodulus", "youngs_modulus"},
@@ -59,6 +61,9 @@ constexpr std::array<Alias, 38> kNames = {{
     {"equivalentplasticstrain", "plastic_strain"},
     {"referencetemperature", "reference_temperature"},
     {"thermalexpansionreferencetemperature", "reference_temperature"},
+    {"tref", "reference_temperature"},
+    {"stressfreetemperature", "reference_temperature"},
+    {"zeroexpansiontemperature", "reference_temperature"},
     {"meltingtemperature", "melting_temperature"},
     {"tmelt", "melting_temperature"},
     {"transitiontemperature", "transition_temperature"},
@@ -74,6 +79,19 @@ constexpr std::array<Alias, 38> kNames = {{
     {"stretch", "stretch"},
     {"nominalstress", "nominal_stress"},
     {"engineeringstress", "nominal_stress"},
+}};
+
+/// Blocks, as the names above.
+constexpr std::array<Alias, 9> kBlocks = {{
+    {"elasticity", "elastic"},
+    {"linearelastic", "elastic"},
+    {"isotropicelastic", "elastic"},
+    {"isotropicelasticity", "elastic"},
+    {"plasticity", "plastic"},
+    {"expansion", "thermal_expansion"},
+    {"heatcapacity", "specific_heat"},
+    {"hyperelasticity", "hyperelastic"},
+    {"usermaterials", "user_material"},
 }};
 
 template <std::size_t kCount>
@@ -111,6 +129,16 @@ std::string PropertyName(std::string_view name) {
     if (const auto symbol = Find(kSymbols, name); !symbol.empty()) return std::string(symbol);
     const auto known = Find(kNames, Letters(name));
     return std::string(known.empty() ? name : known);
+}
+
+std::string BlockName(std::string_view name) {
+    const std::string letters = Letters(name);
+    if (const auto known = Find(kBlocks, letters); !known.empty()) return std::string(known);
+    for (const BlockKind& block : BlockKinds()) {
+        if (Letters(block.name) == letters) return block.name;
+    }
+    const std::string property = PropertyName(name);
+    return FindBlockKind(property) ? property : std::string(name);
 }
 
 std::string SpellingsPattern(const std::string& name) {

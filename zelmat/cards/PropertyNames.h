@@ -10,6 +10,10 @@ namespace zelmat {
 /// regard to capitals, blanks, "_", "-" and "'". What is no such name comes back as it is.
 std::string PropertyName(std::string_view name);
 
+/// The block that is meant: "elastic" for "Linear Elastic", "conductivity" for "ThermalConductivity". What is
+/// no such name comes back as it is.
+std::string BlockName(std::string_view name);
+
 /// A regular expression, without anchors, of every spelling that means this name, itself included.
 std::string SpellingsPattern(const std::string& name);
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "zelmat/cards/CardFormKind.h"
+#include "zelmat/cards/CardNames.h"
 #include "zelmat/cards/CsvCardReader.h"
 #include "zelmat/cards/FcmatCardReader.h"
 #include "zelmat/cards/JsonCardReader.h"
@@ -40,8 +41,17 @@ bool IsText(const std::string& text, const std::string& path, Findings& findings
     return false;
 }
 
-Tree TreeOf(std::string text, const std::string& path, const CardReading& how, Findings& findings) {
-    const CardFormKind form = CardFormOf(text);
+/// Editors of other systems write it; its byte order mark is no UTF-8.
+bool IsUtf16(const std::string& text, const std::string& path, Findings& findings) {
+    if (!text.starts_with("\xff\xfe") && !text.starts_with("\xfe\xff")) return false;
+    findings.Add(
+        {FindingKind::UNREADABLE, {path, 1}, "not-utf8", "the text is UTF-16", {"save it as UTF-8"}});
+    return true;
+}
+
+Tree TreeOf(CardFormKind form, std::string text, const std::string& path, const CardReading& how,
+            Findings& findings) {
+    if (IsUtf16(text, path, findings)) return nullptr;
     if (form == CardFormKind::JSON) return JsonTree(std::move(text), path, findings);
     if (!IsText(text, path, findings)) return nullptr;
     switch (form) {
@@ -66,8 +76,11 @@ std::vector<Material> ReadCards(const std::string& path, Findings& findings, con
 
 std::vector<Material> ReadCardText(std::string text, const std::string& name, Findings& findings,
                                    const CardReading& how) {
-    const Tree tree = TreeOf(std::move(text), name, how, findings);
-    return tree ? JsonCardReader(tree, findings).Read() : std::vector<Material>();
+    const CardFormKind form = CardFormOf(text);
+    Tree tree = TreeOf(form, std::move(text), name, how, findings);
+    if (tree) tree = UnderHouseNames(std::move(tree), findings);
+    const auto units = form == CardFormKind::CSV ? BareColumns::REFUSED : BareColumns::SI;
+    return tree ? JsonCardReader(tree, findings, units).Read() : std::vector<Material>();
 }
 
 std::optional<Material> ReadCard(const std::string& path, Findings& findings, const CardReading& how) {

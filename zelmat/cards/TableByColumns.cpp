@@ -35,6 +35,20 @@ std::vector<Values> FormValues(const BlockKind& block) {
 
 }  // namespace
 
+bool HasColumn(const BlockKind& block, const std::string& column) {
+    for (const TableKind& table : block.tables) {
+        if (!table.name.empty()) continue;
+        for (const Values& values : FormValues(block)) {
+            const auto form = table.form(values);
+            if (!form) continue;
+            for (const ColumnKind& kind : form->ColumnsOf(true)) {
+                if (kind.name == column) return true;
+            }
+        }
+    }
+    return false;
+}
+
 std::optional<FoundTable> FindTableByColumns(const std::vector<std::string>& names) {
     for (const BlockKind& block : BlockKinds()) {
         if (block.use != BlockUse::BEHAVIOR || block.alternatives) continue;

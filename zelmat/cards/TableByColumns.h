@@ -8,6 +8,9 @@
 
 namespace zelmat {
 
+/// Whether a table of the block that is not inside it has a column of this name, in whichever form.
+bool HasColumn(const BlockKind& block, const std::string& column);
+
 /// A table and the block that has it.
 struct FoundTable {
     const BlockKind* block;

@@ -3,10 +3,10 @@
 
 #include "zelmat/checks/CheckRules.h"
 #include "zelmat/checks/DerivedText.h"
-#include "zelmat/properties/OtherNumbers.h"
 #include "zelmat/checks/RoomRows.h"
 #include "zelmat/checks/TableLooks.h"
 #include "zelmat/mechanics/elastic/IsotropicElasticity.h"
+#include "zelmat/properties/OtherNumbers.h"
 #include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
@@ -42,16 +42,21 @@ void LookAtConstants(const Material& material, CheckReport& report) {
     const auto all = mechanics::IsotropicFrom({mechanics::ElasticConstant::YOUNGS_MODULUS, *e},
                                               {mechanics::ElasticConstant::POISSONS_RATIO, *nu});
     if (!all.Ok()) return;  // said by the rules of E and nu
-    Compare(material, "G", OtherNumber(material, {"shear_modulus", "G"}, "modulus"), all->shearModulus,
-            report);
-    Compare(material, "K", OtherNumber(material, {"bulk_modulus", "K"}, "modulus"), all->bulkModulus, report);
+    Compare(
+        material, "G",
+        OtherNumber(material, {"shear_modulus", "G", "modulus_of_rigidity", "modulus_of_share"}, "modulus"),
+        all->shearModulus, report);
+    Compare(material, "K", OtherNumber(material, {"bulk_modulus", "K", "compression_modulus"}, "modulus"),
+            all->bulkModulus, report);
 }
 
 std::optional<double> Resistivity(const Material& material) {
-    if (const auto given = OtherNumber(material, {"electrical_resistivity", "resistivity"}, "resistivity")) {
-        return given;
-    }
-    const auto conductivity = OtherNumber(material, {"electrical_conductivity"}, "electrical_conductivity");
+    const std::vector<std::string> names = {"electrical_resistivity", "resistivity", "electric_resistivity",
+                                            "specific_resistance", "rho_el"};
+    if (const auto given = OtherNumber(material, names, "resistivity")) return given;
+    const auto conductivity =
+        OtherNumber(material, {"electrical_conductivity", "electric_conductivity", "sigma_el"},
+                    "electrical_conductivity");
     return conductivity ? std::optional(1.0 / *conductivity) : std::nullopt;
 }
 
@@ -74,7 +79,10 @@ void LookAtWiedemannFranz(const Material& material, CheckReport& report) {
 std::optional<double> MeltingTemperature(const Material& material) {
     const auto hardening = RoomValue(material, "plastic", "melting_temperature");
     return hardening ? hardening
-                     : OtherNumber(material, {"melting_temperature", "melting_point"}, "temperature");
+                     : OtherNumber(material,
+                                   {"melting_temperature", "melting_point", "solidus_temperature", "solidus",
+                                    "T_melt", "Tm"},
+                                   "temperature");
 }
 
 void LookAtMelting(const Material& material, CheckReport& report) {

@@ -5,7 +5,7 @@ namespace zelmat {
 const std::vector<CheckTopic>& CheckRules() {
     static const std::vector<CheckTopic> topics = {
         ValueRules(),        TemperatureRules(),  HardeningRules(), HyperelasticRules(), GasketRules(),
-        CompletenessRules(), PlausibilityRules(), AgreementRules(), LayupRules()};
+        CompletenessRules(), PlausibilityRules(), AgreementRules(), OrthotropicRules(),  LayupRules()};
     return topics;
 }
 

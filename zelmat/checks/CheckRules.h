@@ -22,6 +22,7 @@ CheckTopic GasketRules();
 CheckTopic CompletenessRules();
 CheckTopic PlausibilityRules();
 CheckTopic AgreementRules();
+CheckTopic OrthotropicRules();
 CheckTopic LayupRules();
 
 }  // namespace zelmat

@@ -1,5 +1,6 @@
 #include "zelmat/checks/CheckRules.h"
 #include "zelmat/checks/TableLooks.h"
+#include "zelmat/materials/StoredMeaning.h"
 #include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
@@ -10,18 +11,11 @@ constexpr const char* kJohnsonCook =
     "G. R. Johnson, W. H. Cook, Proc. 7th Int. Symp. on Ballistics, The Hague, 1983";
 constexpr const char* kPlasticity = "definition of the plastic strain: 0 at yield, never decreasing";
 
-/// A curve of engineering stress or total strain, which the block then says, does not begin at strain 0 and
-/// falls at necking: it is converted before it is stored.
-bool IsTrueOverPlastic(const Block& block) {
-    return block.values.Get<std::string>("stress").value_or("true") == "true" &&
-           block.values.Get<std::string>("strain").value_or("plastic") == "plastic";
-}
-
 /// Calls `visit` for each hardening curve; nothing for Johnson-Cook's constants.
 template <class Visit>
 void ForEachHardeningCurve(const Material& material, Visit visit) {
     const Block* block = material.Find("plastic");
-    if (!block || !IsTrueOverPlastic(*block)) return;
+    if (!block || !IsInStoredMeaning(*block)) return;
     for (const Table& table : block->tables) {
         const Column* stress = table.Find("yield_stress");
         const Column* strain = table.Find("plastic_strain");
@@ -29,6 +23,17 @@ void ForEachHardeningCurve(const Material& material, Visit visit) {
         for (const Curve& curve : CurvesOf(table, {"temperature"})) {
             visit(*block, table, *stress, *strain, curve);
         }
+    }
+}
+
+/// Curves that can be converted have been when rules look.
+void LookAtConversion(const Material& material, CheckReport& report) {
+    const Block* block = material.Find("plastic");
+    if (!block || IsInStoredMeaning(*block)) return;
+    Findings why;
+    static_cast<void>(ToStoredMeaning(*block, material, why));
+    for (const Finding& finding : why.All()) {
+        if (finding.kind == FindingKind::ERROR) report.Add(finding.place.line, finding.text, finding.details);
     }
 }
 
@@ -90,6 +95,14 @@ CheckTopic HardeningRules() {
              .bound = "has to be above 0",
              .source = "definition of the yield stress",
              .look = above0("yield_stress")},
+            {.code = "unconvertible-curve",
+             .says =
+                 "A curve of engineering stress or total strain can be converted to true stress over plastic "
+                 "strain: Young's modulus is known at its temperature, and it begins before yield. The other "
+                 "rules look at the converted curve.",
+             .bound = "Young's modulus there and the yield point are needed",
+             .source = kPlasticity,
+             .look = LookAtConversion},
             {.code = first.code,
              .says = "The first plastic strain of each temperature's curve is exactly 0.",
              .bound = first.bound,

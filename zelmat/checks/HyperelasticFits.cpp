@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "zelmat/mechanics/hyperelastic/HyperelasticModel.h"
-#include "zelmat/mechanics/hyperelastic/OgdenConvention.h"
 
 namespace zelmat {
 
@@ -27,12 +26,6 @@ std::optional<EnergyOutcome> EnergyOfRow(const Block& fit, const Table& table, s
         const Column* column = table.Find(name);
         if (!column || std::isnan(column->values[row])) return std::nullopt;
         coefficients.push_back(column->values[row]);
-    }
-    const auto convention = fit.values.Get<std::string>("ogden_convention");
-    const auto known = convention ? mechanics::OgdenConventionOf(*convention) : std::nullopt;
-    if (known && *model == mechanics::HyperelasticModel::OGDEN) {
-        coefficients = mechanics::ConvertOgden(std::move(coefficients), *known,
-                                               mechanics::OgdenConvention::TWO_MU_BY_ALPHA_SQUARED);
     }
     return mechanics::MakeStrainEnergy(*model, *order, coefficients);
 }

@@ -14,7 +14,8 @@ void ForEachFit(const Material& material, const std::function<void(const Block&,
 
 using EnergyOutcome = mechanics::Outcome<std::shared_ptr<const mechanics::StrainEnergy>>;
 
-/// The potential of a row's coefficients; nothing when the table lacks one of them.
+/// The potential of a row's coefficients, which are in the meaning that documents have; nothing when the
+/// table lacks one of them.
 std::optional<EnergyOutcome> EnergyOfRow(const Block& fit, const Table& table, std::size_t row);
 
 }  // namespace zelmat

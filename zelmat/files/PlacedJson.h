@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -17,7 +18,12 @@ public:
     /// it.
     using Lines = std::unordered_map<std::string, int>;
 
+    /// Where values of a tree stand in the one that it was made from, both as JSON pointers. What lies inside
+    /// such a value lies there, too; what is not named stands at the same place.
+    using Moves = std::unordered_map<std::string, std::string>;
+
     explicit PlacedJson(KORJsonFile file);
+    PlacedJson(std::shared_ptr<const PlacedJson> original, nlohmann::json root, Moves moves);
     PlacedJson(std::string name, nlohmann::json root, Lines lines);
 
     const std::string& Name() const { return name_; }  ///< what findings call the file
@@ -27,10 +33,14 @@ public:
     int Line(nlohmann::json::json_pointer at) const;
 
 private:
+    nlohmann::json::json_pointer InOriginal(nlohmann::json::json_pointer at) const;
+
     std::string name_;
     std::optional<KORJsonFile> file_;
     nlohmann::json root_;  ///< when there is no JSON file
     Lines lines_;
+    std::shared_ptr<const PlacedJson> original_;  ///< that knows the lines; null when this one does
+    Moves moves_;
 };
 
 }  // namespace zelmat

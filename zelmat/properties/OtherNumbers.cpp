@@ -13,11 +13,13 @@ namespace {
 using Json = nlohmann::json;
 
 std::string Letters(const std::string& name) {
+    constexpr std::size_t kLongestSymbol = 2;
     std::string letters;
     for (const char character : name) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (std::isalnum(byte) != 0) letters += static_cast<char>(std::tolower(byte));
+        if (std::isalnum(static_cast<unsigned char>(character)) != 0) letters += character;
     }
+    if (letters.size() <= kLongestSymbol) return letters;
+    for (char& letter : letters) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
     return letters;
 }
 

@@ -24,7 +24,7 @@ TEST(CsvCardReader, ReadsSectionsWithSemicolonsAndTabs) {
     const auto card = CardOf(
         "[material]\nname = S235\nsource = EN 1993\n[plastic]\nhardening = isotropic\n"
         "temperature_dependent = false\nyield_stress [MPa];plastic_strain;T [degC]\n"
-        "235;0;20\n[density]\ndensity\ttemperature\n7850\t293.15\n");
+        "235;0;20\n[density]\ndensity [kg/m3]\ttemperature [K]\n7850\t293.15\n");
 
     EXPECT_EQ(card.name, "S235");
     EXPECT_THAT(card.sources, ElementsAre("EN 1993"));
@@ -59,8 +59,9 @@ TEST(CsvCardReader, NamesTheLineOfEveryMistake) {
                     "card.json:9: error[open-quote]: a double quote is not closed"));
     EXPECT_THAT(
         FindingsOf("colour,taste\n1,2\n"),
-        ElementsAre("card.json:1: error[unknown-table]: no table has the columns 'colour', ... (give the "
-                    "table a section, such as [elastic])"));
+        ElementsAre(
+            "card.json:1: error[unknown-table]: no table has just the columns 'colour', 'taste' (give the "
+            "table a section, such as [elastic])"));
 }
 
 TEST(CsvCardReader, RefusesBytesThatAreNoText) {
@@ -80,6 +81,43 @@ TEST(CsvCardReader, TellsASectionThatStandsInTheWayOfAnother) {
                 ElementsAre("card.json:2: error[repeated-section]: there is a second table of density"));
     EXPECT_FALSE(FindingsOf("[hyperelastic.x]\nyield = 1\n").empty());
     EXPECT_FALSE(FindingsOf("[.]\na,b\n[a.]\n1\n").empty());
+}
+
+TEST(CsvCardReader, WantsTheUnitOfEveryColumnThatHasOne) {
+    EXPECT_THAT(FindingsOf("E,nu,T [degC]\n210,0.3,20\n"),
+                testing::ElementsAre(testing::HasSubstr("card.json:1: error[no-unit]: the column \"E\" has "
+                                                        "no unit (expected E [Pa], units that do: Pa, ")));
+    EXPECT_THAT(FindingsOf("[elastic]\n\nE [GPa],nu,T\n210,0.3,20\n"),
+                testing::ElementsAre(testing::HasSubstr(
+                    "card.json:3: error[no-unit]: the column \"T\" has no unit (expected T [K], ")));
+    // The card may name it for all of its tables.
+    EXPECT_THAT(FindingsOf("[units]\nstress = MPa\ntemperature = degC\n[elastic]\nE,nu,T\n210000,0.3,20\n"),
+                testing::IsEmpty());
+}
+
+TEST(CsvCardReader, NamesTheColumnsOfATableThatThereIsNot) {
+    EXPECT_THAT(FindingsOf("E [GPa],E [GPa],nu,\n1,1,0.3,\n"),
+                testing::Contains(testing::HasSubstr(
+                    "error[unknown-table]: no table has just the columns 'E', 'E', 'nu', ''")));
+}
+
+TEST(CsvCardReader, TakesBlocksUnderTheNamesOfTheFieldAndTheLineThatSpreadsheetsWrite) {
+    EXPECT_THAT(Rows(CardOf("sep=;\n[Elasticity]\nE [GPa];nu\n210;0.3\n").Find("elastic")->tables.front()),
+                testing::ElementsAre(testing::ElementsAre(210e9, 0.3)));
+    EXPECT_THAT(Rows(CardOf("[Elastic]\nE [GPa],nu\n210,0.3\n").Find("elastic")->tables.front()),
+                testing::ElementsAre(testing::ElementsAre(210e9, 0.3)));
+}
+
+TEST(CsvCardReader, SaysThatAQuoteIsOpen) {
+    EXPECT_THAT(FindingsOf("\"E [GPa],nu\n210,0.3\n").front(),
+                testing::HasSubstr("card.json:1: error[open-quote]"));
+}
+
+TEST(ReadCards, SayWhatUtf16Is) {
+    EXPECT_THAT(FindingsOf(std::string("\xff\xfe{\0}\0", 6)),
+                testing::ElementsAre("card.json:1: error[not-utf8]: the text is UTF-16 (save it as UTF-8)"));
+    EXPECT_THAT(FindingsOf(std::string("\xfe\xff\0{\0}", 6)),
+                testing::ElementsAre("card.json:1: error[not-utf8]: the text is UTF-16 (save it as UTF-8)"));
 }
 
 }  // namespace

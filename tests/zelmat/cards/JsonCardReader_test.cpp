@@ -199,8 +199,8 @@ TEST(JsonCardReader, NamesAnUnknownBlock) {
 
 TEST(JsonCardReader, TellsAllMistakesInTheOrderOfTheLines) {
     EXPECT_THAT(
-        FindingsOf("{\n\"specific_heat\": 1,\n\"xyz\": 2,\n\"elastic\": 3,\n\"name\": 4}"),
-        ElementsAre("card.json:2: error[wrong-type]: specific_heat is not an object in braces (got 1)",
+        FindingsOf("{\n\"specific_heat\": true,\n\"xyz\": 2,\n\"elastic\": 3,\n\"name\": 4}"),
+        ElementsAre("card.json:2: error[wrong-type]: specific_heat is not an object in braces (got true)",
                     testing::StartsWith("card.json:3: warning[unknown-block]: "),
                     "card.json:4: error[wrong-type]: elastic is not an object in braces (got 3)",
                     "card.json:5: error[wrong-type]: name is not a text (got 4)"));
@@ -263,7 +263,7 @@ TEST(JsonCardReader, ReadsVersionOneAndRefusesANewerOne) {
 }
 
 TEST(ReadCards, ReadsAListOfMaterialsAndLeavesOutThoseWithMistakes) {
-    const CardFile file(R"([{"name": "a"}, {"name": "b", "density": 7},
+    const CardFile file(R"([{"name": "a"}, {"name": "b", "density": true},
 {"name": "c"}])");
     zelmat::Findings findings;
     const auto cards = zelmat::ReadCards(file.Path(), findings);

@@ -105,6 +105,7 @@ TEST(Checks, LeaveModulusAndPoissonsRatioThatWereSwappedNoWayOut) {
 
 TEST(Checks, TakeACurveOfTotalStrainForWhatItIs) {
     const CardFile file(R"({"name": "M",
+        "elastic": {"temperature_dependent": false, "columns": ["E", "nu"], "rows": [[200e9, 0.3]]},
         "plastic": {"hardening": "isotropic", "temperature_dependent": false,
                     "columns": ["yield_stress", "plastic_strain", "temperature"],
                     "rows": [[4e8, 0.002, 293], [3e8, 0.1, 293]]}})");
@@ -112,8 +113,64 @@ TEST(Checks, TakeACurveOfTotalStrainForWhatItIs) {
     auto material = ReadCard(file.Path(), findings);
     ASSERT_TRUE(material);
     EXPECT_TRUE(CheckMaterial(*material).HasErrors());
-    material->blocks[0].values.Set("strain", std::string("total"));
+    material->blocks[1].values.Set("strain", std::string("total"));
     EXPECT_FALSE(CheckMaterial(*material).HasErrors());
+}
+
+std::vector<std::string> CodesOf(const std::string& text) {
+    const CardFile file(text);
+    Findings findings;
+    const auto material = ReadCard(file.Path(), findings);
+    EXPECT_TRUE(material);
+    std::vector<std::string> codes;
+    const Findings checked = CheckMaterial(*material);
+    for (const Finding& finding : checked.All()) codes.push_back(finding.code);
+    return codes;
+}
+
+TEST(Checks, JudgeACurveOfEngineeringStressAsItWouldBeStored) {
+    const auto card = [](const std::string& rows) {
+        return R"({"name": "M", "class": "metal",
+            "elastic": {"temperature_dependent": false, "columns": ["E", "nu"], "rows": [[200e9, 0.3]]},
+            "plastic": {"hardening": "isotropic", "temperature_dependent": false, "stress": "engineering",
+                        "strain": "total", "columns": ["yield_stress", "plastic_strain", "temperature"], "rows": )" +
+               rows + "}}";
+    };
+    // Engineering stress stays at 500 MPa while true stress rises from 501.25 to 550 MPa.
+    EXPECT_THAT(CodesOf(card("[[5e8, 0.0025, 293], [5e8, 0.1, 293]]")), testing::IsEmpty());
+    // From 501.25 MPa to 400 MPa times 1.1: it falls as stored, too.
+    EXPECT_THAT(CodesOf(card("[[5e8, 0.0025, 293], [4e8, 0.1, 293]]")), testing::ElementsAre("softening"));
+    EXPECT_THAT(CodesOf(card("[[5e8, 0.0025, 293], [5.5e8, 0.1, 293], [5.6e8, 0.09, 293]]")),
+                testing::Contains("plastic-strain-order"));
+}
+
+TEST(Checks, JudgeOgdensCoefficientsByTheConventionTheyAreIn) {
+    const auto card = [](const std::string& says) {
+        return R"({"name": "M", "class": "elastomer", "hyperelastic": [{"model": "OGDEN", "order": 2,
+            "temperature_dependent": false, "columns": ["mu_1", "alpha_1", "mu_2", "alpha_2"],
+            "rows": [[0.63e6, 1.3, -0.7e6, -2]])" +
+               says + "}]}";
+    };
+    // mu0 is the sum of mu, -0.07 MPa; or half the sum of mu times alpha, 1.11 MPa.
+    EXPECT_THAT(CodesOf(card("")), testing::ElementsAre("initial-shear-modulus"));
+    EXPECT_THAT(CodesOf(card(R"(, "ogden_convention": "mu/alpha")")), testing::IsEmpty());
+    EXPECT_THAT(CodesOf(card(R"_(, "potential": "W = sum (mu_i/alpha_i) (...)")_")), testing::IsEmpty());
+}
+
+TEST(Checks, FindOtherConstantsByTheirNamesInTheField) {
+    const std::string steel =
+        R"("elastic": {"temperature_dependent": false, "columns": ["E", "nu"], "rows": [[210e9, 0.3]]})";
+    for (const char* wrong :
+         {R"("ShearModulus": "60 GPa")", R"("G": "60 GPa")", R"("G": 60e9)", R"("K": "60 GPa")",
+          R"("Bulk Modulus": "60 GPa")", R"("modulus-of-rigidity": "60 GPa")",
+          R"("other_properties": {"ModulusOfShare": "60000 MPa"})"}) {
+        EXPECT_THAT(CodesOf("{\"name\": \"M\", " + steel + ", " + wrong + "}"),
+                    testing::ElementsAre("elastic-constants"))
+            << wrong;
+    }
+    EXPECT_THAT(CodesOf("{\"name\": \"M\", " + steel + R"(, "other_properties": {"k": 50, "g": 9.81}})"),
+                testing::IsEmpty())
+        << "a conductivity and gravity";
 }
 
 TEST(Checks, FindOnlyWhatTheSamplesSayOfThemselves) {

@@ -35,6 +35,18 @@ std::string Hardening(const std::string& rows, const std::string& flag = "true")
                 R"(, "columns": ["yield_stress", "plastic_strain", "temperature"], "rows": )" + rows + "}");
 }
 
+/// A tensile test, with the total strain of its first point; at 0.002 that is the yield point.
+std::string Tensile(const std::string& strain) {
+    return Card(kSteel +
+                R"(, "plastic": {"hardening": "isotropic", "strain": "total", "temperature_dependent": false,
+        "columns": ["yield_stress", "plastic_strain", "temperature"], "rows": [[420e6, )" +
+                strain + ", 293], [500e6, 0.1, 293]]}");
+}
+
+std::string Others(const std::string& values) {
+    return Card(R"("other_properties": {)" + values + "}");
+}
+
 std::string JohnsonCook(const std::string& row) {
     return Card(kSteel + R"(, "plastic": {"hardening": "johnson-cook", "temperature_dependent": false,
         "columns": ["A", "B", "n", "m", "melting_temperature", "transition_temperature"], "rows": [)" +
@@ -113,6 +125,7 @@ std::vector<RuleSeed> OfHardening() {
          Hardening("[[4e8, 0, 293], [3e8, 0, 400], [4e8, 0.1, 400]]")},
         {"plastic-strain-order", "error", Hardening("[[4e8, 0, 293], [5e8, 0.1, 293], [6e8, 0.1, 293]]"),
          Hardening("[[4e8, 0, 293], [5e8, 0.1, 293], [6e8, 0.2, 293]]")},
+        {"unconvertible-curve", "error", Tensile("0.0022"), Tensile("0.002")},
         {"softening", "warning", Hardening("[[4e8, 0, 293], [3.9e8, 0.1, 293]]"),
          Hardening("[[4e8, 0, 293], [4e8, 0.1, 293], [3e8, 0, 400]]")},
         {"johnson-cook-A", "error", JohnsonCook("[0, 292e6, 0.31, 1.09, 1356, 298]"),
@@ -174,62 +187,73 @@ std::vector<RuleSeed> OfCompleteness() {
          Card(kSteel + ", " + Expansion("12e-6", R"(, "kind": "Instantaneous coefficient")")),
          Card(kSteel + ", " + Expansion("12e-6", R"(, "kind": "mean, from the reference")"))},
     };
-    }
+}
 
-    std::vector<RuleSeed> OfPlausibility() {
-        const std::string hooke = "\"C10\"";
-        const auto metal = [](const std::string& blocks) { return Card("\"class\": \"metal\", " + blocks); };
-        return {
-            {"impossible-modulus", "error", Card(Elastic("[210, 0.3]")), Card(Elastic("[210000, 0.3]"))},
-            {"implausible-modulus", "warning", Card(Elastic("[210000, 0.3]")), Card(Elastic("[210e9, 0.3]"))},
-            {"implausible-poissons-ratio", "warning", Card(Elastic("[210e9, -0.1]")),
-             Card(Elastic("[210e9, 0]"))},
-            {"impossible-yield-stress", "error", Hardening("[[4e11, 0, 293]]"), Hardening("[[4e8, 0, 293]]")},
-            {"implausible-yield-stress", "warning", Hardening("[[355, 0, 293]]"),
-             Hardening("[[355e6, 0, 293]]")},
-            {"impossible-density", "error", Card(OneColumn("density", "7.85e-9")),
-             Card(OneColumn("density", "7850"))},
-            {"implausible-density", "warning", Card(OneColumn("density", "7.85")),
-             Card(OneColumn("density", "7850"))},
-            {"impossible-expansion", "error", Card(Expansion("12")), Card(Expansion("12e-6"))},
-            {"implausible-expansion", "warning", metal(Expansion("2e-4")), metal(Expansion("2e-5"))},
-            {"impossible-conductivity", "error", Card(OneColumn("conductivity", "50000")),
-             Card(OneColumn("conductivity", "50"))},
-            {"implausible-conductivity", "warning", metal(OneColumn("conductivity", "0.5")),
-             metal(OneColumn("conductivity", "50"))},
-            {"impossible-specific-heat", "error", Card(OneColumn("specific_heat", "0.44")),
-             Card(OneColumn("specific_heat", "440"))},
-            {"implausible-specific-heat", "warning", metal(OneColumn("specific_heat", "4400")),
-             metal(OneColumn("specific_heat", "440"))},
-            {"impossible-initial-shear-modulus", "error", Fit("NEO_HOOKE", "1", hooke, "[0.2]"),
-             Fit("NEO_HOOKE", "1", hooke, "[0.2e6]")},
-            {"implausible-initial-shear-modulus", "warning", Fit("NEO_HOOKE", "1", hooke, "[200]"),
-             Fit("NEO_HOOKE", "1", hooke, "[0.2e6]")},
-            {"impossible-speed-of-sound", "error", Card(kSteel + ", " + OneColumn("density", "7.85")),
-             Card(kSteel + ", " + OneColumn("density", "7850"))},
-            {"implausible-speed-of-sound", "warning",
-             metal(Elastic("[1e10, 0.3]") + ", " + OneColumn("density", "19000")),
-             metal(kSteel + ", " + OneColumn("density", "7850"))},
-            {"unknown-class", "warning", Card("\"class\": \"metall\", " + kSteel), metal(kSteel)},
-        };
-    }
+std::vector<RuleSeed> OfPlausibility() {
+    const std::string hooke = "\"C10\"";
+    const auto metal = [](const std::string& blocks) { return Card("\"class\": \"metal\", " + blocks); };
+    return {
+        {"impossible-modulus", "error", Card(Elastic("[210, 0.3]")), Card(Elastic("[210000, 0.3]"))},
+        {"implausible-modulus", "warning", Card(Elastic("[210000, 0.3]")), Card(Elastic("[210e9, 0.3]"))},
+        {"implausible-poissons-ratio", "warning", Card(Elastic("[210e9, -0.1]")),
+         Card(Elastic("[210e9, 0]"))},
+        {"impossible-yield-stress", "error", Hardening("[[4e11, 0, 293]]"), Hardening("[[4e8, 0, 293]]")},
+        {"implausible-yield-stress", "warning", Hardening("[[355, 0, 293]]"), Hardening("[[355e6, 0, 293]]")},
+        {"impossible-density", "error", Card(OneColumn("density", "7.85e-9")),
+         Card(OneColumn("density", "7850"))},
+        {"implausible-density", "warning", Card(OneColumn("density", "7.85")),
+         Card(OneColumn("density", "7850"))},
+        {"impossible-expansion", "error", Card(Expansion("12")), Card(Expansion("12e-6"))},
+        {"implausible-expansion", "warning", metal(Expansion("2e-4")), metal(Expansion("2e-5"))},
+        {"impossible-conductivity", "error", Card(OneColumn("conductivity", "50000")),
+         Card(OneColumn("conductivity", "50"))},
+        {"implausible-conductivity", "warning", metal(OneColumn("conductivity", "0.5")),
+         metal(OneColumn("conductivity", "50"))},
+        {"impossible-specific-heat", "error", Card(OneColumn("specific_heat", "0.44")),
+         Card(OneColumn("specific_heat", "440"))},
+        {"implausible-specific-heat", "warning", metal(OneColumn("specific_heat", "4400")),
+         metal(OneColumn("specific_heat", "440"))},
+        {"impossible-initial-shear-modulus", "error", Fit("NEO_HOOKE", "1", hooke, "[0.2]"),
+         Fit("NEO_HOOKE", "1", hooke, "[0.2e6]")},
+        {"implausible-initial-shear-modulus", "warning", Fit("NEO_HOOKE", "1", hooke, "[200]"),
+         Fit("NEO_HOOKE", "1", hooke, "[0.2e6]")},
+        {"impossible-speed-of-sound", "error", Card(kSteel + ", " + OneColumn("density", "7.85")),
+         Card(kSteel + ", " + OneColumn("density", "7850"))},
+        {"implausible-speed-of-sound", "warning",
+         metal(Elastic("[1e10, 0.3]") + ", " + OneColumn("density", "19000")),
+         metal(kSteel + ", " + OneColumn("density", "7850"))},
+        {"unknown-class", "warning", Card("\"class\": \"metall\", " + kSteel), metal(kSteel)},
+    };
+}
 
-    std::vector<RuleSeed> OfAgreement() {
-        const std::string copper = "\"class\": \"metal\", " + OneColumn("conductivity", "386");
-        return {
-            {"elastic-constants", "warning", Card(kSteel + ", \"shear_modulus\": \"88 GPa\""),
-             Card(kSteel + ", \"shear_modulus\": \"79 GPa\"")},
-            {"wiedemann-franz", "warning", Card(copper + ", \"electrical_resistivity\": \"1.7 µOhm m\""),
-             Card(copper + ", \"electrical_resistivity\": \"17 nOhm m\"")},
-            {"above-melting", "warning",
-             Card("\"melting_temperature\": \"1083 degC\", " +
-                  ByTemperature("density", "\"density\"", "[[8900, 293], [8000, 1357]]")),
-             Card("\"melting_temperature\": \"1083 degC\", " +
-                  ByTemperature("density", "\"density\"", "[[8900, 293], [8300, 1356]]"))},
-            {"sudden-change", "warning", Densities("[[7850, 293], [7.8, 400]]"),
-             Densities("[[7850, 293], [7800, 400]]")},
-        };
-    }
+std::vector<RuleSeed> OfOrthotropic() {
+    const std::string ply = R"("YoungsModulusX": "181 GPa", "YoungsModulusY": "10.3 GPa", )";
+    const std::string even = R"("E1": 1e10, "E2": 1e10, "E3": 1e10, "nu12": 0.5, "nu13": 0.5, "nu23": )";
+    return {
+        {"orthotropic-moduli", "error", Others(ply + R"("ShearModulusXY": "-7.17 GPa")"),
+         Others(ply + R"("ShearModulusXY": "7.17 GPa")")},
+        {"orthotropic-ratios", "error", Others(ply + R"("PoissonRatioXY": "4.2")"),
+         Others(ply + R"("PoissonRatioXY": "4.19")")},
+        {"orthotropic-determinant", "error", Others(even + "0.51"), Others(even + "0.49")},
+    };
+}
+
+std::vector<RuleSeed> OfAgreement() {
+    const std::string copper = "\"class\": \"metal\", " + OneColumn("conductivity", "386");
+    return {
+        {"elastic-constants", "warning", Card(kSteel + ", \"shear_modulus\": \"88 GPa\""),
+         Card(kSteel + ", \"shear_modulus\": \"79 GPa\"")},
+        {"wiedemann-franz", "warning", Card(copper + ", \"electrical_resistivity\": \"1.7 µOhm m\""),
+         Card(copper + ", \"electrical_resistivity\": \"17 nOhm m\"")},
+        {"above-melting", "warning",
+         Card("\"melting_temperature\": \"1083 degC\", " +
+              ByTemperature("density", "\"density\"", "[[8900, 293], [8000, 1357]]")),
+         Card("\"melting_temperature\": \"1083 degC\", " +
+              ByTemperature("density", "\"density\"", "[[8900, 293], [8300, 1356]]"))},
+        {"sudden-change", "warning", Densities("[[7850, 293], [7.8, 400]]"),
+         Densities("[[7850, 293], [7800, 400]]")},
+    };
+}
 
 }  // namespace
 
@@ -237,7 +261,7 @@ const std::vector<RuleSeed>& RuleSeeds() {
     static const std::vector<RuleSeed> seeds = [] {
         std::vector<RuleSeed> all;
         for (const auto& topic : {OfValues(), OfHardening(), OfRubberAndGaskets(), OfCompleteness(),
-                                  OfPlausibility(), OfAgreement()}) {
+                                  OfPlausibility(), OfOrthotropic(), OfAgreement()}) {
             all.insert(all.end(), topic.begin(), topic.end());
         }
         return all;

@@ -66,6 +66,10 @@ GOOD = {
     "compressibility or none": {"name": "M", "hyperelastic": [fit(), fit(columns=["mu_1", "alpha_1", "D1"],
                                                                          rows=[[1e6, 2, 1e-9]])]},
     "a gasket": {"name": "M", "gasket": gasket(yield_onset={"method": "closure", "closure_value": "0.1 mm"})},
+    "properties beside the blocks": {"name": "M", "E": "210 GPa", "nu": 0.3, "rho": "7850 kg/m3", "specific_heat": 460},
+    "a table of one row, value by value": {"name": "M", "elastic": {"E": "210 GPa", "nu": 0.3}, "plastic": {
+        "hardening": "johnson-cook", "A": "90 MPa", "B": "292 MPa", "n": 0.31, "m": 1.09,
+        "melting_temperature": "1083 degC", "transition_temperature": "25 degC"}},
     "a number with its unit": {"name": "M", "thermal_expansion": {
         "temperature_dependent": False, "columns": ["alpha"], "rows": [[1.2e-5]], "reference_temperature": "20 degC"}},
 }
@@ -115,6 +119,8 @@ BAD = {
     "an unknown method": {"name": "M", "gasket": gasket(yield_onset={"method": "none"})},
     "a reference without a number": {"name": "M", "thermal_expansion": {
         "temperature_dependent": False, "columns": ["alpha"], "rows": [[1e-5]], "reference_temperature": "warm"}},
+    "a block that is a word": {"name": "M", "density": "heavy"},
+    "a block of nothing": {"name": "M", "elastic": {}},
     "test data of no kind": {"name": "M", "test_data": {"uniaxial": {"columns": ["stretch"], "rows": [[1]]}}},
 }
 
