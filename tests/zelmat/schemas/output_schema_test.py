@@ -9,6 +9,7 @@ import copy
 import json
 import os
 import pathlib
+import re
 import subprocess
 import sys
 import tempfile
@@ -154,6 +155,12 @@ def main():
             failures.append(f"the schema takes an output {what}")
 
     described = {name.removeprefix("command_") for name in definitions if name.startswith("command_")}
+    listed = re.findall(r"^  ([a-z][a-z-]*) {2,}", zelmat("help").stdout, re.MULTILINE)
+    if len(listed) < 9:
+        failures.append("zelmat help lists no commands")
+    for command in listed:
+        if command not in described:
+            failures.append(f"docs/output.schema.json does not describe {command}: add command_{command} and a run above")
     for command in sorted(described - told):
         failures.append(f"no run above prints what the schema says of {command}")
     for failure in failures:
