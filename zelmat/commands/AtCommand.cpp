@@ -18,16 +18,16 @@ public:
     void Declare(CLI::App& line) override {
         given_.Declare(line);
         line.add_option("BLOCK", block_, "elastic, plastic, density, thermal_expansion, gasket, ...");
-        line.add_option("--temperature", texts_.temperature, "Temperature: 600K, 20degC");
-        line.add_option("--plastic-strain", texts_.plasticStrain, "plastic: plastic strain: 0.1, 10%");
-        line.add_option("--strain-rate", texts_.strainRate,
+        AddNumberOption(line, "--temperature", texts_.temperature, "Temperature: 600K, 20degC");
+        AddNumberOption(line, "--plastic-strain", texts_.plasticStrain, "plastic: plastic strain: 0.1, 10%");
+        AddNumberOption(line, "--strain-rate", texts_.strainRate,
                         "plastic: strain rate, where the card gives C and the reference rate: \"10 1/s\"");
-        line.add_option("--closure", texts_.closure, "gasket: closure: 0.15mm");
+        AddNumberOption(line, "--closure", texts_.closure, "gasket: closure: 0.15mm");
         line.add_option(
                 "--outside", texts_.outside,
                 "Outside a table: error (default), constant (of hardening tables the default) or linear")
             ->check(CLI::IsMember({"error", "constant", "linear"}));
-        line.add_option("--reference-temperature", texts_.referenceTemperature,
+        AddNumberOption(line, "--reference-temperature", texts_.referenceTemperature,
                         "thermal_expansion: mean coefficient from this temperature");
         line.add_flag("--instantaneous", instantaneous_,
                       "thermal_expansion: the instantaneous coefficient, too");

@@ -80,7 +80,7 @@ void FitInput::Declare(CLI::App& line) {
         ->delimiter(',');
     line.add_option("--range", limitTexts_, "Stretches that count: 1:4, or of one mode planar=1:4");
     line.add_option("--weight", weightTexts_, "Weight of the tests of a mode: equibiaxial=2");
-    line.add_option("--temperature", temperatureText_, "Which hardening curve of several: 20degC");
+    AddNumberOption(line, "--temperature", temperatureText_, "Which hardening curve of several: 20degC");
     DeclareCardReading(line, how_);
 }
 
@@ -110,6 +110,10 @@ bool FitInput::ReadLimits(Findings& findings) {
         const auto lower = NumberIn(split.text.substr(0, colon), "--range", findings);
         const auto upper = NumberIn(split.text.substr(colon + 1), "--range", findings);
         if (!lower || !upper) return false;
+        if (*lower > *upper) {
+            findings.Add(UsageFinding("--range", "wrong-range", QuotedText(text) + " ends before it begins"));
+            return false;
+        }
         limits_.push_back({split.mode, *lower, *upper});
     }
     return true;

@@ -60,7 +60,7 @@ void LaminateInput::Declare(CLI::App& line) {
             "Constants of a notation's plies: E1=181GPa,E2=10.3GPa,nu12=0.28,G12=7.17GPa and, as they "
             "are known, alpha1, alpha2, density, Xt, Xc, Yt, Yc, S")
         ->excludes(material);
-    line.add_option("--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
+    AddNumberOption(line, "--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
 }
 
 std::optional<LayupCard> LaminateInput::Read(CommandContext& context) const {
@@ -146,9 +146,9 @@ std::optional<PlyMaterial> LaminateInput::PlyOfText(Findings& findings) const {
 }
 
 void LoadOption::Declare(CLI::App& line) {
-    line.add_option("--N", force_, "Forces Nx,Ny,Nxy per length: 100,0,0N/mm");
-    line.add_option("--M", moment_, "Moments Mx,My,Mxy per length: \"5,0,0 N m/m\"");
-    line.add_option("--dT", temperature_, "Change of temperature from the one without stress: -100K");
+    AddNumberOption(line, "--N", force_, "Forces Nx,Ny,Nxy per length: 100,0,0N/mm");
+    AddNumberOption(line, "--M", moment_, "Moments Mx,My,Mxy per length: \"5,0,0 N m/m\"");
+    AddNumberOption(line, "--dT", temperature_, "Change of temperature from the one without stress: -100K");
 }
 
 mechanics::LaminateLoad LoadOption::Read(Findings& findings) const {

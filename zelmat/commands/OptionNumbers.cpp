@@ -1,9 +1,19 @@
 #include "zelmat/commands/OptionNumbers.h"
 
+#include <CLI/CLI.hpp>
+
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/PlainUnitText.h"
 
 namespace zelmat {
+
+CLI::Option* AddNumberOption(CLI::App& line, const std::string& name, std::string& text,
+                             const std::string& help) {
+    const auto check = [](const std::string& given) {
+        return std::string(given.empty() ? "a number is missing" : "");
+    };
+    return line.add_option(name, text, help)->check(CLI::Validator(check, ""));
+}
 
 Finding UsageFinding(const std::string& place, const char* code, std::string text,
                      std::vector<std::string> details) {

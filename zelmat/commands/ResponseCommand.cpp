@@ -36,7 +36,7 @@ public:
                 "How the specimen is loaded: uniaxial, equibiaxial, planar or shear; else the first three")
             ->check(CLI::IsMember({"uniaxial", "equibiaxial", "planar", "shear"}));
         stretches_.Declare(line);
-        line.add_option("--temperature", temperature_,
+        AddNumberOption(line, "--temperature", temperature_,
                         "Temperature of coefficients that depend on it: 20degC");
         fit_.Declare(line);
     }

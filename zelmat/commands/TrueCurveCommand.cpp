@@ -21,8 +21,8 @@ public:
     void Declare(CLI::App& line) override {
         line.add_option("CSV", path_, "Points of the test: EngineeringStrain [-],EngineeringStress [MPa]")
             ->required();
-        line.add_option("--youngs-modulus", modulus_, "Young's modulus: 210GPa")->required();
-        line.add_option("--offset", offset_, "Plastic strain of the offset yield point")
+        AddNumberOption(line, "--youngs-modulus", modulus_, "Young's modulus: 210GPa")->required();
+        AddNumberOption(line, "--offset", offset_, "Plastic strain of the offset yield point")
             ->capture_default_str();
         DeclareCardReading(line, how_);
     }

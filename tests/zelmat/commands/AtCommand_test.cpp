@@ -187,6 +187,11 @@ TEST(AtCommand, RefusesOptionsThatDoNotBelongToTheBlock) {
     EXPECT_THAT(Refusal({card, "density", "--outside", "nearest"}, 2), HasSubstr("--outside"));
 }
 
+TEST(AtCommand, RefusesAnEmptyNumber) {
+    EXPECT_THAT(Refusal({Sample("copper_ofhc.json"), "elastic", "--temperature", ""}, 2),
+                HasSubstr("--temperature: a number is missing"));
+}
+
 TEST(AtCommand, NamesTheBlocksThatThereAre) {
     EXPECT_THAT(Refusal({Sample("copper_ofhc.json"), "densty"}, 2), HasSubstr("did you mean density?"));
     EXPECT_THAT(Refusal({Sample("copper_ofhc.json")}, 2), StartsWith("BLOCK: error[missing-block]"));

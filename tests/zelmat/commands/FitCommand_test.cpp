@@ -166,6 +166,7 @@ TEST(FitCommand, TakesSpecimensWeightsAndRanges) {
     EXPECT_EQ(Fit({modes, "--model", "NEO_HOOKE", "--range", "1"}).exitCode, 2);
     EXPECT_EQ(Fit({modes, "--model", "NEO_HOOKE", "--range", "a:b"}).exitCode, 2);
     EXPECT_EQ(Fit({modes, "--model", "NEO_HOOKE", "--range", "8:9"}).exitCode, 1);
+    EXPECT_EQ(Fit({modes, "--model", "NEO_HOOKE", "--range", "2:1"}).exitCode, 2);
 }
 
 TEST(FitCommand, RefusesTestsThatCannotBe) {

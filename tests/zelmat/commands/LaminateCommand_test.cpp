@@ -164,6 +164,9 @@ TEST(LaminateCommand, RefusesLoadsWithoutAUnit) {
     EXPECT_THAT(Refusal({card, "--M", "1,x,0N"}, 2), StartsWith("--M: "));
     EXPECT_THAT(Refusal({card, "--dT", "100"}, 2), HasSubstr("'100' has no unit"));
     EXPECT_THAT(Refusal({card, "--N", ",,"}, 2), StartsWith("--N: "));
+    EXPECT_THAT(Refusal({card, "--N", ""}, 2), HasSubstr("--N: a number is missing"));
+    EXPECT_THAT(Refusal({card, "--N", "1e308,0,0N/m", "--M", "1e308,0,0N"}, 1),
+                HasSubstr("error[no-laminate]: the answer to the load is too great for a number"));
 }
 
 TEST(LaminateCommand, NamesWhatIsMissing) {

@@ -1,5 +1,6 @@
 #include "zelmat/mechanics/laminate/LaminateResponse.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -82,6 +83,17 @@ bool AllFinite(const LaminateLoad& load) {
     return std::isfinite(load.temperatureChange);
 }
 
+bool AllFinite(const Vector3& vector) {
+    return std::all_of(vector.begin(), vector.end(), [](double number) { return std::isfinite(number); });
+}
+
+bool AllFinite(const LaminateResponse& response) {
+    return std::all_of(response.plies.begin(), response.plies.end(), [](const PlyResponse& ply) {
+        return AllFinite(ply.bottom.stress) && AllFinite(ply.bottom.strain) && AllFinite(ply.top.stress) &&
+               AllFinite(ply.top.strain) && AllFinite(ply.bottom.plyStress) && AllFinite(ply.top.plyStress);
+    });
+}
+
 }  // namespace
 
 Outcome<LaminateResponse> RespondTo(const Laminate& laminate, const LaminateLoad& load) {
@@ -103,6 +115,7 @@ Outcome<LaminateResponse> RespondTo(const Laminate& laminate, const LaminateLoad
              .bottom = PointAt(laminate, layer, z[k], response, load.temperatureChange),
              .top = PointAt(laminate, layer, z[k + 1], response, load.temperatureChange)});
     }
+    if (!AllFinite(response)) return Refusal{"the answer to the load is too great for a number"};
     return response;
 }
 

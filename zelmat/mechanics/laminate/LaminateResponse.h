@@ -31,7 +31,7 @@ struct LaminateResponse {
     std::vector<PlyResponse> plies;  ///< from the bottom up
 };
 
-/// Refused where LaminateFault finds one and for loads that are not finite.
+/// Refused where LaminateFault finds one, for loads that are not finite, and where the answer is not.
 Outcome<LaminateResponse> RespondTo(const Laminate& laminate, const LaminateLoad& load);
 
 /// Free expansion of the whole laminate per kelvin.
