@@ -10,6 +10,8 @@ namespace zelmat {
     COMMAND(Summary)             \
     COMMAND(Check)               \
     COMMAND(Convert)             \
+    COMMAND(Export)              \
+    COMMAND(Prove)               \
     COMMAND(New)                 \
     COMMAND(Upgrade)             \
     COMMAND(Layup)               \

@@ -1,0 +1,167 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
+#include <iterator>
+
+#include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/MaterialChoice.h"
+#include "zelmat/commands/WriteGate.h"
+#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/WrongForm.h"
+#include "zelmat/exchange/ExportDeck.h"
+#include "zelmat/files/OutputFile.h"
+#include "zelmat/files/ReadText.h"
+#include "zelmat/layups/LayupCardReader.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+std::vector<std::string> FormNames() {
+    std::vector<std::string> names;
+    for (const DeckForm& form : DeckForms()) names.push_back(form.name);
+    return names;
+}
+
+/// Writes the materials of cards and documents, and layups of layup cards, as input of a solver.
+class Export final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("CARD|DOC", paths_,
+                        "Material cards, documents, layup cards; behind one alone, which of its materials")
+            ->required();
+        line.add_option("--to", form_, "Solver")->required()->check(CLI::IsMember(FormNames()));
+        line.add_option("--model", fit_.model, "Hyperelastic model to carry");
+        line.add_option("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to carry");
+        gate_.Declare(line);
+    }
+
+    void Work(CommandContext& context) override {
+        Findings& findings = context.findings;
+        const DeckForm& form = *FindDeckForm(form_);
+        const auto units = DeckUnits::Read(context.options.units, findings);
+        if (!units || !IsRoomForMany(form, context.options.output, findings)) return;
+        DeckContent content{{}, {}, fit_};
+        const std::string material = TakeMaterialName();
+        for (const std::string& path : paths_) Read(path, material, content, context);
+        if (findings.HasErrors()) return;
+        std::vector<DeckFile> files = ExportDeck(form, content, *units, findings);
+        if (files.empty()) return;
+        if (context.options.output.empty()) {
+            text_ = std::move(files.front().text);
+            return;
+        }
+        Write(form, files, context.options.output, findings);
+    }
+
+    void Print(std::ostream& out) const override {
+        if (text_) out << *text_;
+        for (const WrittenFile& file : written_) PrintWritten(out, "written", file);
+    }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {
+            {"form", form_}, {"text", nullptr}, {"written", nlohmann::ordered_json::array()}};
+        for (const WrittenFile& file : written_) {
+            AddWritten(json["written"].emplace_back(nlohmann::ordered_json::object()), "file", file);
+        }
+        if (text_) json["text"] = *text_;
+        return json;
+    }
+
+private:
+    static bool IsRoomForMany(const DeckForm& form, const std::string& output, Findings& findings) {
+        if (!form.folder || (!output.empty() && output != "-")) return true;
+        findings.Add({FindingKind::USAGE,
+                      {"--output", 0},
+                      "missing-option",
+                      "a deck of " + form.title + " is a folder of files",
+                      {"give the folder with --output"}});
+        return false;
+    }
+
+    /// The last of two words or more names a material where it names no file.
+    std::string TakeMaterialName() {
+        std::error_code none;
+        const bool named =
+            paths_.size() == 2 && paths_.back() != "-" && !std::filesystem::exists(paths_.back(), none);
+        if (!named) return {};
+        std::string name = std::move(paths_.back());
+        paths_.pop_back();
+        return name;
+    }
+
+    void Read(const std::string& path, const std::string& wanted, DeckContent& content,
+              CommandContext& context) {
+        if (path != "-" && FormOfFile(path) == FileForm::LAYUP_CARD) {
+            if (auto layup = LayupCardReader(context.findings).Read(path)) {
+                content.layups.push_back(std::move(*layup));
+            }
+            return;
+        }
+        auto materials = ReadGivenMaterials(path, context.options, context.findings);
+        if (context.findings.HasErrors()) return;
+        if (!wanted.empty()) KeepOne(materials, wanted, path, context.findings);
+        for (Material& material : materials) {
+            if (gate_.Passes(material, context.findings)) content.materials.push_back(std::move(material));
+        }
+    }
+
+    static void KeepOne(std::vector<Material>& materials, const std::string& wanted, const std::string& path,
+                        Findings& findings) {
+        std::vector<std::string> names;
+        for (const Material& material : materials) names.push_back(material.name);
+        const auto chosen = ChooseMaterial(names, wanted, ShownPath(path), findings);
+        if (!chosen) return materials.clear();
+        std::vector<Material> one;
+        one.push_back(std::move(materials[*chosen]));
+        materials = std::move(one);
+    }
+
+    void Write(const DeckForm& form, const std::vector<DeckFile>& files, const std::string& output,
+               Findings& findings) {
+        if (form.folder) {
+            std::error_code failed;
+            std::filesystem::create_directories(output, failed);
+            if (failed) {
+                findings.Add({FindingKind::UNREADABLE,
+                              {output, 0},
+                              "not-written",
+                              "the folder cannot be made: " + failed.message(),
+                              {}});
+                return;
+            }
+        }
+        for (const DeckFile& file : files) {
+            const std::string path = form.folder ? output + "/" + file.name : output;
+            auto written = WriteOutputFile(path, file.text, paths_, findings);
+            if (!written) return;
+            written_.push_back(std::move(*written));
+        }
+    }
+
+    std::vector<std::string> paths_;
+    std::string form_;
+    FitChoice fit_;
+    WriteGate gate_;
+    std::optional<std::string> text_;  // when it goes to no file
+    std::vector<WrittenFile> written_;
+};
+
+}  // namespace
+
+CommandKind ExportCommand() {
+    return {.name = "export",
+            .brief = "write materials and layups as input of a solver",
+            .text =
+                "Write materials and layups as input of a solver, in SI units or those of --units, which the\n"
+                "deck names in a comment. Whatever the solver has no place for, or gets in another form, is a\n"
+                "finding and a comment in the deck. Without --output the deck goes to standard output.",
+            .output = "File for the deck; a folder where the deck is one",
+            .units = true,
+            .make = &MakeCommand<Export>};
+}
+
+}  // namespace zelmat

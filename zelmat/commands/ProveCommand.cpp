@@ -1,0 +1,120 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+
+#include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/exchange/calculix/Proof.h"
+#include "zelmat/quantities/NumberText.h"
+#include "zelmat/text/CountText.h"
+#include "zelmat/text/Printable.h"
+#include "zelmat/text/TablePrinter.h"
+
+namespace zelmat {
+
+namespace {
+
+std::string Shown(double number, int digits) {
+    return NumberText(RoundedTo(number, digits));
+}
+
+/// Runs a solver on a material's deck and holds the results against the formulas.
+class Prove final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        given_.Declare(line);
+        line.add_option("--solver", solver_, "The solver's program: ccx, or a path of it")->required();
+        line.add_option("--model", fit_.model, "Hyperelastic model to prove");
+        line.add_option("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to prove");
+        line.add_option("--timeout", timeout_, "Seconds that one run of the solver may take")
+            ->check(CLI::Range(1, 86'400));
+    }
+
+    void Work(CommandContext& context) override {
+        Findings& findings = context.findings;
+        const auto units = DeckUnits::Read(context.options.units, findings);
+        const auto material = given_.ReadOne(context);
+        if (!units || !material) return;
+        name_ = material->name;
+        const auto solver = FindSolver(solver_, timeout_, findings);
+        if (!solver) return;
+        proof_ = ProveWithCalculix({*material, fit_, *units}, *solver, findings);
+        if (proof_) TellFailures(material->file, findings);
+    }
+
+    void Print(std::ostream& out) const override {
+        if (!proof_) return;
+        TablePrinter table({"behavior", "load", "quantity", "unit", "ours", "solver", "difference", "bound", ""});
+        for (const std::size_t column : {0U, 1U, 2U, 3U, 8U}) table.SetLeft(column);
+        for (const ProofLine& line : proof_->lines) {
+            table.AddRow({line.behavior, line.load, line.quantity, line.unit, Shown(line.ours, 7),
+                          Shown(line.solver, 7), Shown(line.Difference(), 2), NumberText(line.tolerance),
+                          line.Passes() ? "" : "FAILS"});
+        }
+        out << Printable(name_) << '\n';
+        table.Print(out);
+        for (const std::string& text : proof_->notProven) out << "not proven: " << Printable(text) << '\n';
+        out << CountText(proof_->lines.size(), "number") << " compared in " << CountText(static_cast<std::size_t>(proof_->runs), "run")
+            << ", " << Failures() << " beyond the bound\n";
+    }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"material", name_}, {"lines", nlohmann::ordered_json::array()}};
+        if (!proof_) return json;
+        for (const ProofLine& line : proof_->lines) {
+            json["lines"].push_back({{"behavior", line.behavior},
+                                     {"load", line.load},
+                                     {"quantity", line.quantity},
+                                     {"unit", line.unit},
+                                     {"ours", line.ours},
+                                     {"solver", line.solver},
+                                     {"difference", line.Difference()},
+                                     {"bound", line.tolerance},
+                                     {"passes", line.Passes()}});
+        }
+        json["not_proven"] = proof_->notProven;
+        json["runs"] = proof_->runs;
+        return json;
+    }
+
+private:
+    std::size_t Failures() const {
+        return static_cast<std::size_t>(std::count_if(proof_->lines.begin(), proof_->lines.end(),
+                                                      [](const ProofLine& line) { return !line.Passes(); }));
+    }
+
+    void TellFailures(const std::string& file, Findings& findings) const {
+        for (const ProofLine& line : proof_->lines) {
+            if (line.Passes()) continue;
+            findings.Add({FindingKind::ERROR,
+                          {file, 0},
+                          "not-as-computed",
+                          line.behavior + ", " + line.load + ": the solver's " + line.quantity + " is " +
+                              WithUnit(RoundedTo(line.solver, 7), line.unit),
+                          {"computed: " + WithUnit(RoundedTo(line.ours, 7), line.unit),
+                           "difference " + Shown(line.Difference(), 2),
+                           "bound " + NumberText(line.tolerance)}});
+        }
+    }
+
+    GivenMaterials given_;
+    std::string solver_;
+    FitChoice fit_;
+    int timeout_ = 60;
+    std::string name_;
+    std::optional<Proof> proof_;
+};
+
+}  // namespace
+
+CommandKind ProveCommand() {
+    return {.name = "prove",
+            .brief = "run a solver on a material's deck and compare with the formulas",
+            .text =
+                "Write the material's deck, run CalculiX on models of one element in a temporary folder, and\n"
+                "hold stresses, expansion, mass and conduction against the formulas. Ends with 1 when a\n"
+                "difference is beyond its bound.",
+            .units = true,
+            .make = &MakeCommand<Prove>};
+}
+
+}  // namespace zelmat

@@ -1,0 +1,60 @@
+#include "zelmat/exchange/calculix/ProofModel.h"
+
+#include <algorithm>
+
+#include "zelmat/quantities/NumberText.h"
+
+namespace zelmat {
+
+namespace {
+
+constexpr double kRoomTemperature = 293.15;
+constexpr double kBeyond = 25.0;  // K beyond a table's ends
+constexpr std::size_t kMostRows = 8;
+
+}  // namespace
+
+PrintedNumber ProofModel::Stress(int bar, std::size_t component, double time) const {
+    return {"stresses", bars.ElementSet(bar), bars.Element(bar), 1 + component, time};
+}
+
+PrintedNumber ProofModel::FarDisplacement(int bar, std::size_t direction, double time) const {
+    return {"displacements", bars.NodeSet(bar), bars.FarNode(bar), direction, time};
+}
+
+const Block* ProofSubject::Find(const std::string& block) const {
+    const auto found =
+        std::find_if(blocks.begin(), blocks.end(), [&](const Block& one) { return one.kind->name == block; });
+    return found == blocks.end() ? nullptr : &*found;
+}
+
+double ProofSubject::Temperature(double kelvin) const {
+    return units.FromStored(kelvin, "temperature").value_or(0.0);
+}
+
+std::string ProofSubject::TemperatureText(double kelvin) const {
+    return WithUnit(RoundedTo(Temperature(kelvin), 6), units.For("temperature").Spelling());
+}
+
+ProofModel ProofSubject::Model(const std::string& model, bool mechanical) const {
+    return {model, BarModel(mechanical ? cards : thermal, name), {}};
+}
+
+std::vector<double> ProofTemperatures(const std::optional<mechanics::TemperatureRange>& range,
+                                      const std::vector<double>& rows) {
+    if (!range) return {kRoomTemperature};
+    std::vector<double> at;
+    const std::size_t step = std::max<std::size_t>(1, (rows.size() + kMostRows - 1) / kMostRows);
+    for (std::size_t row = 0; row < rows.size(); row += step) {
+        at.push_back(rows[row]);
+        if (row + 1 < rows.size()) at.push_back((rows[row] + rows[row + 1]) / 2.0);
+    }
+    if (range->lowest > kBeyond) at.push_back(range->lowest - kBeyond);
+    at.push_back(range->highest);
+    at.push_back(range->highest + kBeyond);
+    std::sort(at.begin(), at.end());
+    at.erase(std::unique(at.begin(), at.end()), at.end());
+    return at;
+}
+
+}  // namespace zelmat

@@ -1,0 +1,233 @@
+#include "zelmat/exchange/calculix/SolverRun.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "zelmat/files/SignalHold.h"
+#include "zelmat/text/Printable.h"
+#include "zelmat/text/QuotedText.h"
+
+namespace zelmat {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kJob = "job";
+constexpr std::size_t kLogEnd = 20'000;
+
+/// A folder that goes with all that lies in it.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::error_code failed;
+        const fs::path base = fs::temp_directory_path(failed);
+        std::string name = (failed ? fs::path("/tmp") : base) / "zelmat-prove-XXXXXX";
+        if (::mkdtemp(name.data())) path_ = name;
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        if (!path_.empty()) fs::remove_all(path_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    bool IsThere() const { return !path_.empty(); }
+    std::string File(const std::string& name) const { return (path_ / name).string(); }
+    std::string Path() const { return path_.string(); }
+
+private:
+    fs::path path_;
+};
+
+std::optional<Finding> Problem(const std::string& job, const std::string& text,
+                               std::vector<std::string> details = {}) {
+    return Finding{FindingKind::UNREADABLE, {job, 0}, "solver-failed", text, std::move(details)};
+}
+
+std::string ReadEnd(const std::string& path, std::size_t most) {
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file) return {};
+    const auto size = static_cast<std::size_t>(file.tellg());
+    const std::size_t length = std::min(size, most);
+    std::string text(length, '\0');
+    file.seekg(static_cast<std::streamoff>(size - length));
+    file.read(text.data(), static_cast<std::streamsize>(length));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    return text;
+}
+
+/// The environment with one thread for the solver: one element needs no more.
+std::vector<std::string> Environment() {
+    std::vector<std::string> settings = {"OMP_NUM_THREADS=1", "CCX_NPROC_STIFFNESS=1"};
+    for (char** one = environ; *one; ++one) {
+        const std::string_view setting = *one;
+        if (!setting.starts_with("OMP_NUM_THREADS=") && !setting.starts_with("CCX_NPROC")) {
+            settings.emplace_back(setting);
+        }
+    }
+    return settings;
+}
+
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts) pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+/// The process, as the leader of a group of its own; 0 and errno's value in `error` when it cannot be made.
+pid_t Start(const SolverProgram& solver, const TemporaryFolder& folder, int& error) {
+    posix_spawn_file_actions_t actions;
+    posix_spawnattr_t attributes;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawnattr_init(&attributes);
+    posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, folder.File("log").c_str(),
+                                     O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    posix_spawn_file_actions_adddup2(&actions, STDOUT_FILENO, STDERR_FILENO);
+    posix_spawn_file_actions_addchdir_np(&actions, folder.Path().c_str());
+    sigset_t none;
+    sigemptyset(&none);
+    posix_spawnattr_setsigmask(&attributes, &none);
+    posix_spawnattr_setpgroup(&attributes, 0);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK);
+    std::vector<std::string> arguments = {solver.path, kJob}, environment = Environment();
+    pid_t process = 0;
+    error = ::posix_spawn(&process, solver.path.c_str(), &actions, &attributes, Pointers(arguments).data(),
+                          Pointers(environment).data());
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    return error == 0 ? process : 0;
+}
+
+/// One of the signals that are held back has come.
+bool IsAskedToEnd() {
+    sigset_t pending;
+    sigpending(&pending);
+    return sigismember(&pending, SIGINT) == 1 || sigismember(&pending, SIGTERM) == 1 ||
+           sigismember(&pending, SIGHUP) == 1;
+}
+
+/// Waits for the process, which does not outlive this: how it ended, or nothing when its time was over.
+std::optional<int> WaitFor(pid_t process, int timeoutSeconds) {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::seconds(timeoutSeconds);
+    int status = 0;
+    for (;;) {
+        const pid_t ended = ::waitpid(process, &status, WNOHANG);
+        if (ended == process) return status;
+        if ((ended < 0 && errno != EINTR) || Clock::now() >= end || IsAskedToEnd()) break;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    ::kill(-process, SIGKILL);
+    while (::waitpid(process, &status, 0) < 0 && errno == EINTR) {
+    }
+    return std::nullopt;
+}
+
+/// The solver's own words about its failure: the lines after *ERROR.
+std::vector<std::string> ErrorLines(const std::string& log) {
+    constexpr std::size_t kLongest = 300;
+    const std::size_t at = log.rfind("*ERROR");
+    if (at == std::string::npos) return {};
+    std::string words;
+    for (const char character : log.substr(at, kLongest)) {
+        const bool blank = character == ' ' || character == '\n' || character == '\r';
+        if (!blank) words += character;
+        if (blank && !words.empty() && words.back() != ' ') words += ' ';
+    }
+    return {"it says: " + Printable(words)};
+}
+
+std::optional<Finding> Verdict(const SolverProgram& solver, const std::optional<int>& status,
+                               const SolverResults& results, const std::string& job) {
+    if (!status) {
+        return Problem(job, solver.name + " did not end within " + std::to_string(solver.timeoutSeconds) + " s",
+                       {"it was stopped", "--timeout gives it longer"});
+    }
+    if (WIFSIGNALED(*status)) {
+        return Problem(job, solver.name + " crashed: " + ::strsignal(WTERMSIG(*status)),
+                       ErrorLines(results.log));
+    }
+    if (WEXITSTATUS(*status) != 0 || results.printed.empty()) {
+        return Problem(job,
+                       solver.name + " failed with exit code " + std::to_string(WEXITSTATUS(*status)) +
+                           (results.printed.empty() ? " and printed no results" : ""),
+                       ErrorLines(results.log));
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<SolverProgram> FindSolver(const std::string& name, int timeoutSeconds, Findings& findings) {
+    std::vector<std::string> candidates;
+    const char* path = std::getenv("PATH");
+    if (name.find('/') != std::string::npos) {
+        candidates.push_back(fs::absolute(name).string());
+    } else {
+        std::string_view folders = path ? path : "/usr/local/bin:/usr/bin:/bin";
+        while (!folders.empty()) {
+            const std::size_t end = std::min(folders.find(':'), folders.size());
+            if (end > 0) candidates.push_back(std::string(folders.substr(0, end)) + "/" + name);
+            folders.remove_prefix(std::min(end + 1, folders.size()));
+        }
+    }
+    for (const std::string& candidate : candidates) {
+        std::error_code none;
+        if (fs::is_regular_file(candidate, none) && ::access(candidate.c_str(), X_OK) == 0) {
+            return SolverProgram{name, fs::absolute(candidate).string(), timeoutSeconds};
+        }
+    }
+    findings.Add({FindingKind::UNREADABLE,
+                  {"--solver", 0},
+                  "no-solver",
+                  "there is no program " + QuotedText(name),
+                  {"on Debian: apt-get install calculix-ccx", "--solver takes a path, too"}});
+    return std::nullopt;
+}
+
+std::optional<SolverResults> RunSolver(const SolverProgram& solver, const std::string& deck,
+                                       const std::string& job, Findings& findings) {
+    const SignalHold untilTheFolderIsGone;
+    const TemporaryFolder folder;
+    std::ofstream input(folder.IsThere() ? folder.File(std::string(kJob) + ".inp") : "", std::ios::binary);
+    input << deck;
+    input.close();
+    if (!folder.IsThere() || !input) {
+        findings.Add(*Problem(job, "a temporary file for the solver cannot be written", {}));
+        return std::nullopt;
+    }
+    int error = 0;
+    const pid_t process = Start(solver, folder, error);
+    if (process == 0) {
+        findings.Add(*Problem(job, solver.path + " cannot be run: " + std::strerror(error)));
+        return std::nullopt;
+    }
+    const auto status = WaitFor(process, solver.timeoutSeconds);
+    SolverResults results{ReadEnd(folder.File(std::string(kJob) + ".dat"), std::string::npos),
+                          ReadEnd(folder.File("log"), kLogEnd)};
+    if (const auto problem = Verdict(solver, status, results, job)) {
+        findings.Add(*problem);
+        return std::nullopt;
+    }
+    return results;
+}
+
+}  // namespace zelmat
