@@ -20,6 +20,7 @@ packages=(
     gnuplot-nox
     libxml2-utils
     python3-jsonschema
+    calculix-ccx
 )
 
 for extra in "$@"; do

@@ -9,6 +9,7 @@
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/commands/WrongForm.h"
+#include "zelmat/exchange/CarryPage.h"
 #include "zelmat/exchange/ExportDeck.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/ReadText.h"
@@ -29,10 +30,11 @@ std::vector<std::string> FormNames() {
 class Export final : public Command {
 public:
     void Declare(CLI::App& line) override {
+        auto* page = line.add_flag("--carries", page_, "Print instead what each solver gets, as Markdown");
         line.add_option("CARD|DOC", paths_,
                         "Material cards, documents, layup cards; behind one alone, which of its materials")
-            ->required();
-        line.add_option("--to", form_, "Solver")->required()->check(CLI::IsMember(FormNames()));
+            ->excludes(page);
+        line.add_option("--to", form_, "Solver")->check(CLI::IsMember(FormNames()))->excludes(page);
         line.add_option("--model", fit_.model, "Hyperelastic model to carry");
         line.add_option("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to carry");
         gate_.Declare(line);
@@ -40,6 +42,18 @@ public:
 
     void Work(CommandContext& context) override {
         Findings& findings = context.findings;
+        if (page_) {
+            text_ = CarryPage();
+            return;
+        }
+        if (paths_.empty() || form_.empty()) {
+            findings.Add({FindingKind::USAGE,
+                          {"zelmat export", 0},
+                          "usage",
+                          std::string(paths_.empty() ? "CARD|DOC" : "--to") + " is required",
+                          {"see zelmat help export"}});
+            return;
+        }
         const DeckForm& form = *FindDeckForm(form_);
         const auto units = DeckUnits::Read(context.options.units, findings);
         if (!units || !IsRoomForMany(form, context.options.output, findings)) return;
@@ -142,6 +156,7 @@ private:
         }
     }
 
+    bool page_ = false;  // print what is carried, write nothing
     std::vector<std::string> paths_;
     std::string form_;
     FitChoice fit_;
@@ -153,15 +168,16 @@ private:
 }  // namespace
 
 CommandKind ExportCommand() {
-    return {.name = "export",
-            .brief = "write materials and layups as input of a solver",
-            .text =
-                "Write materials and layups as input of a solver, in SI units or those of --units, which the\n"
-                "deck names in a comment. Whatever the solver has no place for, or gets in another form, is a\n"
-                "finding and a comment in the deck. Without --output the deck goes to standard output.",
-            .output = "File for the deck; a folder where the deck is one",
-            .units = true,
-            .make = &MakeCommand<Export>};
+    return {
+        .name = "export",
+        .brief = "write materials and layups as input of a solver",
+        .text =
+            "Write materials and layups as input of a solver, in SI units or those of --units, which the\n"
+            "deck names in a comment. Whatever the solver has no place for, or gets in another form, is a\n"
+            "finding and a comment in the deck. Without --output the deck goes to standard output.",
+        .output = "File for the deck; a folder where the deck is one",
+        .units = true,
+        .make = &MakeCommand<Export>};
 }
 
 }  // namespace zelmat

@@ -43,7 +43,8 @@ public:
 
     void Print(std::ostream& out) const override {
         if (!proof_) return;
-        TablePrinter table({"behavior", "load", "quantity", "unit", "ours", "solver", "difference", "bound", ""});
+        TablePrinter table(
+            {"behavior", "load", "quantity", "unit", "ours", "solver", "difference", "bound", ""});
         for (const std::size_t column : {0U, 1U, 2U, 3U, 8U}) table.SetLeft(column);
         for (const ProofLine& line : proof_->lines) {
             table.AddRow({line.behavior, line.load, line.quantity, line.unit, Shown(line.ours, 7),
@@ -53,8 +54,9 @@ public:
         out << Printable(name_) << '\n';
         table.Print(out);
         for (const std::string& text : proof_->notProven) out << "not proven: " << Printable(text) << '\n';
-        out << CountText(proof_->lines.size(), "number") << " compared in " << CountText(static_cast<std::size_t>(proof_->runs), "run")
-            << ", " << Failures() << " beyond the bound\n";
+        out << CountText(proof_->lines.size(), "number") << " compared in "
+            << CountText(static_cast<std::size_t>(proof_->runs), "run") << ", " << Failures()
+            << " beyond the bound\n";
     }
 
     nlohmann::ordered_json Json() const override {
@@ -85,14 +87,14 @@ private:
     void TellFailures(const std::string& file, Findings& findings) const {
         for (const ProofLine& line : proof_->lines) {
             if (line.Passes()) continue;
-            findings.Add({FindingKind::ERROR,
-                          {file, 0},
-                          "not-as-computed",
-                          line.behavior + ", " + line.load + ": the solver's " + line.quantity + " is " +
-                              WithUnit(RoundedTo(line.solver, 7), line.unit),
-                          {"computed: " + WithUnit(RoundedTo(line.ours, 7), line.unit),
-                           "difference " + Shown(line.Difference(), 2),
-                           "bound " + NumberText(line.tolerance)}});
+            findings.Add(
+                {FindingKind::ERROR,
+                 {file, 0},
+                 "not-as-computed",
+                 line.behavior + ", " + line.load + ": the solver's " + line.quantity + " is " +
+                     WithUnit(RoundedTo(line.solver, 7), line.unit),
+                 {"computed: " + WithUnit(RoundedTo(line.ours, 7), line.unit),
+                  "difference " + Shown(line.Difference(), 2), "bound " + NumberText(line.tolerance)}});
         }
     }
 
@@ -107,14 +109,15 @@ private:
 }  // namespace
 
 CommandKind ProveCommand() {
-    return {.name = "prove",
-            .brief = "run a solver on a material's deck and compare with the formulas",
-            .text =
-                "Write the material's deck, run CalculiX on models of one element in a temporary folder, and\n"
-                "hold stresses, expansion, mass and conduction against the formulas. Ends with 1 when a\n"
-                "difference is beyond its bound.",
-            .units = true,
-            .make = &MakeCommand<Prove>};
+    return {
+        .name = "prove",
+        .brief = "run a solver on a material's deck and compare with the formulas",
+        .text =
+            "Write the material's deck, run CalculiX on models of one element in a temporary folder, and\n"
+            "hold stresses, expansion, mass and conduction against the formulas. Ends with 1 when a\n"
+            "difference is beyond its bound.",
+        .units = true,
+        .make = &MakeCommand<Prove>};
 }
 
 }  // namespace zelmat

@@ -20,8 +20,8 @@ const DeckForm* FindDeckForm(const std::string& name) {
 }
 
 const Block* DeckMaterial::Find(const std::string& block) const {
-    const auto found = std::find_if(blocks.begin(), blocks.end(),
-                                    [&](const Block& one) { return one.kind->name == block; });
+    const auto found =
+        std::find_if(blocks.begin(), blocks.end(), [&](const Block& one) { return one.kind->name == block; });
     return found == blocks.end() ? nullptr : &*found;
 }
 

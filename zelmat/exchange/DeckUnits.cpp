@@ -13,9 +13,9 @@ namespace zelmat {
 namespace {
 
 /// What materials in decks are made of, in the order in which a deck names their units.
-constexpr std::array<const char*, 8> kNamed = {
-    "stress",        "density",     "expansion", "conductivity",
-    "specific_heat", "temperature", "length",    "compressibility"};
+constexpr std::array<const char*, 8> kNamed = {"stress",       "density",        "expansion",
+                                               "conductivity", "specific_heat",  "temperature",
+                                               "length",       "compressibility"};
 
 long double Size(const DeckUnits& units, const char* quantity) {
     return units.For(quantity).Factor().Quotient();
@@ -113,8 +113,8 @@ std::optional<DeckTable> DeckTableOf(const Block& block, const DeckUnits& units,
         const bool isTemperature = column.kind.name == TemperatureColumn().name;
         if (isTemperature && !table.temperatureDependent) continue;
         auto values = units.Values(column);
-        if (!values || !std::all_of(values->begin(), values->end(),
-                                    [](double value) { return std::isfinite(value); })) {
+        if (!values ||
+            !std::all_of(values->begin(), values->end(), [](double value) { return std::isfinite(value); })) {
             why = "a number of " + column.kind.name + " is missing, not finite, or too large for the unit";
             return std::nullopt;
         }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
+#include <set>
 
 #include "zelmat/properties/HardeningProperty.h"
 #include "zelmat/quantities/NumberText.h"
@@ -19,6 +19,7 @@ using mechanics::Outcome;
 constexpr double kGreatestStrain = 1.0;
 constexpr int kStrains = 60;
 constexpr int kTemperatures = 12;
+constexpr std::size_t kMostRows = 100'000;
 constexpr double kNearlyMolten = 0.99;  // of the way to melting, where a solver would divide by a stress of 0
 
 /// A power below 1 bends most at 0: the strains lie four times as close there as the common ones do.
@@ -68,7 +69,8 @@ std::optional<HardeningRows> TabulatedRows(const JohnsonCook& law, const DeckUni
     notes.Changed("plastic johnson-cook: curves at " + std::to_string(kTemperatures) +
                   " temperatures to plastic strain 1, between whose points the stress is up to " +
                   NumberText(RoundedTo(percent, 2)) + " % off the law; constant beyond them");
-    if (law.rate) notes.Lost("plastic johnson-cook: the strain-rate factor; the curves hold at the reference rate");
+    if (law.rate)
+        notes.Lost("plastic johnson-cook: the strain-rate factor; the curves hold at the reference rate");
     return InDeckUnits(*curves, true, units);
 }
 
@@ -115,6 +117,31 @@ std::optional<HardeningRows> HardeningRowsOf(const Block& plastic, const DeckUni
     }
     return HardeningRows{std::move(table->columns[0]), std::move(table->columns[1]),
                          std::move(table->temperatures)};
+}
+
+bool ToCommonStrains(HardeningRows& rows) {
+    if (rows.temperatures.empty()) return true;
+    std::vector<HardeningPoint> points;
+    for (std::size_t row = 0; row < rows.stress.size(); ++row) {
+        points.push_back({rows.stress[row], rows.plasticStrain[row], rows.temperatures[row]});
+    }
+    const auto table = HardeningTable::Over(points);
+    if (!table.Ok()) return true;  // no curves to interpolate in
+    std::set<double> strains(rows.plasticStrain.begin(), rows.plasticStrain.end());
+    std::set<double> temperatures(rows.temperatures.begin(), rows.temperatures.end());
+    if (strains.size() * temperatures.size() > kMostRows) return false;
+    HardeningRows common;
+    for (const double temperature : temperatures) {
+        for (const double strain : strains) {
+            const auto value = table->At(strain, temperature);
+            if (!value.Ok()) return true;
+            common.stress.push_back(value->stress);
+            common.plasticStrain.push_back(strain);
+            common.temperatures.push_back(temperature);
+        }
+    }
+    rows = std::move(common);
+    return true;
 }
 
 }  // namespace zelmat

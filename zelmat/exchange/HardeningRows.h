@@ -28,4 +28,9 @@ double TabulationError(const mechanics::JohnsonCook& law, const mechanics::Harde
 /// note, where there are none.
 std::optional<HardeningRows> HardeningRowsOf(const Block& plastic, const DeckUnits& units, DeckNotes& notes);
 
+/// The same curves, every one at the plastic strains of all of them, for solvers that interpolate between
+/// temperatures by the row: CalculiX reads a curve at the strains of the one below it, and cuts what lies
+/// beyond. Unchanged, with false, where that would take more than 100,000 rows.
+bool ToCommonStrains(HardeningRows& rows);
+
 }  // namespace zelmat

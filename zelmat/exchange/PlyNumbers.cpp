@@ -49,8 +49,8 @@ std::optional<PlyNumbers> PlyNumbersOf(const PlyMaterial& ply, const DeckUnits& 
         numbers.alpha2 = units.FromStored(plane->alpha2, "expansion");
     }
     if (!numbers.isotropic && !assumed.empty()) {
-        notes.Changed("ply material " + QuotedText(ply.name) + ": assumed to be the same in 2 and 3, with nu23 = nu12: " +
-                      WordList(assumed));
+        notes.Changed("ply material " + QuotedText(ply.name) +
+                      ": assumed to be the same in 2 and 3, with nu23 = nu12: " + WordList(assumed));
     }
     if (plane->strength) notes.Lost("ply material " + QuotedText(ply.name) + ": its strengths");
     return numbers;

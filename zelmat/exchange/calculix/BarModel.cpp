@@ -107,8 +107,14 @@ std::string BarModel::Mesh() const {
             }
             if (x == bar.cubes) break;
             std::vector<std::string> words = {std::to_string(bar.firstElement + x)};
-            for (const auto& [dx, y, z] : {std::array{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0},
-                                           {0, 0, 1}, {1, 0, 1}, {1, 1, 1}, {0, 1, 1}}) {
+            for (const auto& [dx, y, z] : {std::array{0, 0, 0},
+                                           {1, 0, 0},
+                                           {1, 1, 0},
+                                           {0, 1, 0},
+                                           {0, 0, 1},
+                                           {1, 0, 1},
+                                           {1, 1, 1},
+                                           {0, 1, 1}}) {
                 words.push_back(std::to_string(Node(bar, x + dx, y, z)));
             }
             elements += Line(words);
@@ -118,9 +124,10 @@ std::string BarModel::Mesh() const {
     for (std::size_t at = 0; at < bars_.size(); ++at) {
         const Bar& bar = bars_[at];
         const int number = static_cast<int>(at) + 1;
-        sets += "*NSET, NSET=" + NodeSet(number) + ", GENERATE\n" +
-                Line({std::to_string(bar.firstNode), std::to_string(bar.firstNode + 4 * (bar.cubes + 1) - 1)}) +
-                "*SOLID SECTION, ELSET=" + ElementSet(number) + ", MATERIAL=" + materialName_ + "\n";
+        sets +=
+            "*NSET, NSET=" + NodeSet(number) + ", GENERATE\n" +
+            Line({std::to_string(bar.firstNode), std::to_string(bar.firstNode + 4 * (bar.cubes + 1) - 1)}) +
+            "*SOLID SECTION, ELSET=" + ElementSet(number) + ", MATERIAL=" + materialName_ + "\n";
     }
     return nodes + elements + material_ + sets;
 }

@@ -57,8 +57,8 @@ private:
     std::string material_, materialName_;
     std::vector<Bar> bars_;
     int nextNode_ = 1, nextElement_ = 1;
-    std::string initial_;     // temperatures
-    std::string boundary_;    // of the step that is being made
+    std::string initial_;   // temperatures
+    std::string boundary_;  // of the step that is being made
     std::string temperatures_;
     std::string steps_;
 };

@@ -24,10 +24,11 @@ std::vector<CarryRule> Rules() {
         {"plastic kinematic", Carry::CARRIED, "*PLASTIC, HARDENING=KINEMATIC",
          "wrong in steps without NLGEOM"},
         {"plastic johnson-cook", Carry::CONVERTED, "*PLASTIC",
-         "HARDENING=JOHNSON COOK is run as isotropic without a word, so curves over temperature stand for the law"},
+         "HARDENING=JOHNSON COOK is run as isotropic without a word, so curves over temperature stand for "
+         "the law"},
         {"density", Carry::CARRIED, "*DENSITY", ""},
-        {"thermal_expansion", Carry::CARRIED, "*EXPANSION, ZERO=",
-         "instantaneous coefficients are integrated to mean ones"},
+        {"thermal_expansion", Carry::CARRIED,
+         "*EXPANSION, ZERO=", "instantaneous coefficients are integrated to mean ones"},
         {"conductivity", Carry::CARRIED, "*CONDUCTIVITY", ""},
         {"specific_heat", Carry::CARRIED, "*SPECIFIC HEAT", ""},
         {"user_material MECHANICAL", Carry::CARRIED, "*USER MATERIAL, *DEPVAR",
@@ -98,11 +99,22 @@ private:
 
     std::string Plastic(const Block& block) const {
         if (!material_.Find("elastic")) return Lost(block, "it needs an elastic behavior beside it");
-        const auto rows = HardeningRowsOf(block, units_, notes_);
+        auto rows = HardeningRowsOf(block, units_, notes_);
         if (!rows) return {};
+        const std::size_t given = rows->stress.size();
+        if (!ToCommonStrains(*rows)) {
+            notes_.Caution(
+                "the hardening curves have too many different plastic strains to write all of them at each "
+                "temperature; between temperatures CalculiX reads a curve at the strains of the one below");
+        } else if (rows->stress.size() != given) {
+            notes_.Changed(BehaviorOf(block) +
+                           ": each curve is written at the plastic strains of all, interpolated, since "
+                           "CalculiX reads a curve at the strains of the one below it");
+        }
         const bool kinematic = BehaviorOf(block) == "plastic kinematic";
         if (kinematic) {
-            notes_.Caution("CalculiX computes kinematic hardening wrongly in linear steps: use *STEP, NLGEOM");
+            notes_.Caution(
+                "CalculiX computes kinematic hardening wrongly in linear steps: use *STEP, NLGEOM");
         }
         return CalculixCard(kinematic ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC",
                             {{rows->stress, rows->plasticStrain}, rows->temperatures});
@@ -114,7 +126,8 @@ private:
         if (!table) return Lost(block, why);
         const auto reference = block.values.Get<double>("reference_temperature");
         if (!reference) {
-            notes_.Caution("thermal_expansion has no reference temperature: CalculiX takes 0, and so does the deck");
+            notes_.Caution(
+                "thermal_expansion has no reference temperature: CalculiX takes 0, and so does the deck");
             return CalculixCard("*EXPANSION", *table);
         }
         if (IsInstantaneous(block)) {
@@ -125,7 +138,9 @@ private:
                 if (!value) return Lost(block, "a coefficient is too large for the unit");
                 table->columns[0][row] = *value;
             }
-            notes_.Changed("thermal_expansion: mean coefficients from the reference temperature, integrated from the instantaneous ones");
+            notes_.Changed(
+                "thermal_expansion: mean coefficients from the reference temperature, integrated from the "
+                "instantaneous ones");
         }
         const auto zero = units_.FromStored(*reference, "temperature");
         if (!zero) return Lost(block, "the reference temperature is too large for the unit");
@@ -166,7 +181,9 @@ private:
             const auto shear = units_.FromStored((*energy)->ShearModulus(), "stress");
             if (!shear) return false;
             d[row] = RoundedTo(kCalculixIncompressible / *shear, 6);
-            notes_.Changed("hyperelastic: D = 0 (incompressible) is written as D1 = 1e-4/mu0, since CalculiX puts a softer one in its place");
+            notes_.Changed(
+                "hyperelastic: D = 0 (incompressible) is written as D1 = 1e-4/mu0, since CalculiX puts a "
+                "softer one in its place");
         }
         return true;
     }

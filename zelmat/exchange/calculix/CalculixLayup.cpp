@@ -23,15 +23,15 @@ std::string PlyCards(const std::string& name, const PlyNumbers& ply) {
     if (ply.isotropic) {
         text += CalculixCard("*ELASTIC", OneRow({ply.e1, ply.nu12}));
     } else {
-        text += CalculixCard("*ELASTIC, TYPE=ENGINEERING CONSTANTS",
-                             OneRow({ply.e1, ply.e2, ply.e3, ply.nu12, ply.nu13, ply.nu23, ply.g12, ply.g13,
-                                     ply.g23}));
+        text += CalculixCard(
+            "*ELASTIC, TYPE=ENGINEERING CONSTANTS",
+            OneRow({ply.e1, ply.e2, ply.e3, ply.nu12, ply.nu13, ply.nu23, ply.g12, ply.g13, ply.g23}));
     }
     if (ply.density) text += CalculixCard("*DENSITY", OneRow({*ply.density}));
     if (ply.alpha1) {
-        text += ply.isotropic ? CalculixCard("*EXPANSION", OneRow({*ply.alpha1}))
-                              : CalculixCard("*EXPANSION, TYPE=ORTHO",
-                                             OneRow({*ply.alpha1, *ply.alpha2, *ply.alpha2}));
+        text += ply.isotropic
+                    ? CalculixCard("*EXPANSION", OneRow({*ply.alpha1}))
+                    : CalculixCard("*EXPANSION, TYPE=ORTHO", OneRow({*ply.alpha1, *ply.alpha2, *ply.alpha2}));
     }
     return text;
 }

@@ -11,6 +11,7 @@ namespace zelmat {
 /// amount of shear x), the faces that the mode leaves free being free of stress: with the material's own
 /// compressibility, where it has one, by the split of the energy into a part of J^(-1/3) F and one of J. In
 /// PLANAR and SIMPLE_SHEAR the direction across is held. Nothing where the potential has none.
-std::optional<double> CompressibleStress(const HyperelasticAt& material, mechanics::LoadingMode mode, double x);
+std::optional<double> CompressibleStress(const HyperelasticAt& material, mechanics::LoadingMode mode,
+                                         double x);
 
 }  // namespace zelmat

@@ -16,8 +16,12 @@ using mechanics::LoadingMode;
 using mechanics::OutsidePolicy;
 
 constexpr double kTolerance = 1e-3;
+
+/// Near rest the solver's Ogden stresses are noise of a millionth of the bulk modulus, below which no
+/// residual gets: the first increments are not small, and the bound on the residual is one that noise meets.
 constexpr const char* kProcedure =
-    "*STEP, NLGEOM, INC=10000\n*STATIC\n0.05, 1., 1e-8, 0.1\n*CONTROLS, PARAMETERS=FIELD\n1e-7, 1e-6, , , , , ,\n";
+    "*STEP, NLGEOM, INC=10000\n*STATIC\n0.1, 1., 1e-6, 0.1\n*CONTROLS, PARAMETERS=FIELD\n1e-4, 1e-3, , , , , "
+    ",\n";
 constexpr const char* kStress = "*EL PRINT, ELSET=E%, FREQUENCY=100000\nS\n";
 
 const std::vector<double>& Loads(LoadingMode mode) {
@@ -33,7 +37,8 @@ bool IsSafe(const mechanics::StrainEnergy& energy, LoadingMode mode, double x) {
     if (!limits.stableAtRest) return false;
     const double margin = 0.03;
     return (!limits.compression || x > *limits.compression * (1.0 + margin)) &&
-           (!limits.tension || x < *limits.tension * (1.0 - margin)) && mechanics::Respond(energy, mode, x).Ok();
+           (!limits.tension || x < *limits.tension * (1.0 - margin)) &&
+           mechanics::Respond(energy, mode, x).Ok();
 }
 
 void Load(BarModel& bars, int bar, LoadingMode mode, double x) {

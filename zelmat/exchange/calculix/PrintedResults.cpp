@@ -37,8 +37,10 @@ PrintedResults::PrintedResults(std::string_view text) {
             const auto times = Numbers(line.substr(time + kTime.size()));
             std::string name(line.substr(set + kSet.size(), time - set - kSet.size()));
             std::erase(name, ' ');  // "for setEALL" is printed, too
-            tables_.push_back({std::string(line.substr(line.find_first_not_of(' '))), name,
-                               times.empty() ? 0.0 : times.front(), {}});
+            tables_.push_back({std::string(line.substr(line.find_first_not_of(' '))),
+                               name,
+                               times.empty() ? 0.0 : times.front(),
+                               {}});
         } else if (!tables_.empty()) {
             auto numbers = Numbers(line);
             if (!numbers.empty()) tables_.back().rows.push_back(std::move(numbers));

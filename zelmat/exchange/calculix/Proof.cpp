@@ -37,12 +37,15 @@ public:
         std::erase_if(blocks, [&](const Block& block) { return IsUnproven(block); });
         const std::string cards = CardsOf(form, blocks, notes);
         notes.Report({request_.material.file, 0}, request_.material.name, findings_);
+        if (!request_.deck) {
+            std::erase_if(blocks, [&](const Block& block) { return !IsIn(cards, form, block); });
+        }
         if (cards.empty()) {
             NothingToProve();
             return std::nullopt;
         }
-        const bool stiff = cards.find("*ELASTIC") != std::string::npos ||
-                           cards.find("*HYPERELASTIC") != std::string::npos;
+        const bool stiff =
+            cards.find("*ELASTIC") != std::string::npos || cards.find("*HYPERELASTIC") != std::string::npos;
         const ProofSubject subject{blocks, request_.units, cards, stiff ? cards : cards + kSomeStiffness,
                                    NameIn(cards)};
         for (const ProofModel& model : ModelsOf(subject)) {
@@ -54,6 +57,12 @@ public:
     }
 
 private:
+    /// Whether the writer has put it there; it told why not.
+    static bool IsIn(const std::string& cards, const DeckForm& form, const Block& block) {
+        const std::string& as = FindRule(form.rules, BehaviorOf(block))->as;
+        return cards.find(as.substr(0, as.find(','))) != std::string::npos;
+    }
+
     bool IsUnproven(const Block& block) {
         if (block.kind->name != "user_material") return false;
         proof_.notProven.push_back(BehaviorOf(block) + ": only its own routine knows what it answers");
@@ -71,7 +80,8 @@ private:
 
     static std::vector<ProofModel> ModelsOf(const ProofSubject& subject) {
         std::vector<ProofModel> models = HyperelasticProofs(subject);
-        for (auto* make : {&ElasticProof, &HardeningProof, &ExpansionProof, &DensityProof, &ConductionProof}) {
+        for (auto* make :
+             {&ElasticProof, &HardeningProof, &ExpansionProof, &DensityProof, &ConductionProof}) {
             auto model = make(subject);
             if (model && !model->expected.empty()) models.push_back(std::move(*model));
         }
@@ -80,8 +90,8 @@ private:
 
     bool Run(const ProofModel& model) {
         ++proof_.runs;
-        const auto results =
-            RunSolver(solver_, model.bars.Text(), request_.material.file + " (" + model.name + ")", findings_);
+        const auto results = RunSolver(solver_, model.bars.Text(),
+                                       request_.material.file + " (" + model.name + ")", findings_);
         if (!results) return false;
         const PrintedResults printed(results->printed);
         for (const ExpectedLine& expected : model.expected) {

@@ -30,8 +30,9 @@ struct ProofLine {
 /// What a proof came to.
 struct Proof {
     std::vector<ProofLine> lines;
-    std::vector<std::string> notProven;  ///< behaviors of the deck that no model was made for, with the reason
-    int runs = 0;                        ///< of the solver
+    std::vector<std::string>
+        notProven;  ///< behaviors of the deck that no model was made for, with the reason
+    int runs = 0;   ///< of the solver
 };
 
 /// What goes into a proof.

@@ -43,9 +43,9 @@ struct ProofModel {
 struct ProofSubject {
     const std::vector<Block>& blocks;  ///< that the deck carries, in the stored meaning
     const DeckUnits& units;
-    std::string cards;     ///< of the material, from *MATERIAL on, with a stiffness
-    std::string thermal;   ///< the same for runs that need no more than some stiffness
-    std::string name;      ///< of the material in the cards
+    std::string cards;    ///< of the material, from *MATERIAL on, with a stiffness
+    std::string thermal;  ///< the same for runs that need no more than some stiffness
+    std::string name;     ///< of the material in the cards
 
     const Block* Find(const std::string& block) const;
     double Temperature(double kelvin) const;  ///< in the deck's unit

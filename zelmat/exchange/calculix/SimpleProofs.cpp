@@ -49,8 +49,8 @@ double ElasticStrain(const ProofSubject& subject, double youngsModulus, double t
 constexpr const char* kStressAndDisplacement =
     "*EL PRINT, ELSET=E%, FREQUENCY=100000\nS\n*NODE PRINT, NSET=N%, FREQUENCY=100000\nU\n";
 
-void AddElastic(ProofModel& model, const ProofSubject& subject,
-                const mechanics::IsotropicElasticity& elastic, double kelvin) {
+void AddElastic(ProofModel& model, const ProofSubject& subject, const mechanics::IsotropicElasticity& elastic,
+                double kelvin) {
     const double strain = RoundedTo(ElasticStrain(subject, elastic.youngsModulus, kelvin), 4);
     const double modulus = subject.units.FromStored(elastic.youngsModulus, "modulus").value_or(0.0);
     const double shear = subject.units.FromStored(elastic.shearModulus, "modulus").value_or(0.0);
@@ -104,11 +104,11 @@ std::optional<ProofModel> ExpansionProof(const ProofSubject& subject) {
         model.bars.HoldAtOrigin(bar);
         model.bars.SetTemperature(bar, subject.Temperature(kelvin));
         const double ours = strain->values.front();
-        model.expected.push_back({{"thermal_expansion",
-                                   "free, " + subject.TemperatureText(reference) + " to " +
-                                       subject.TemperatureText(kelvin),
-                                   "strain", "-", ours, 0.0, ours, kExact},
-                                  model.FarDisplacement(bar, 0)});
+        model.expected.push_back(
+            {{"thermal_expansion",
+              "free, " + subject.TemperatureText(reference) + " to " + subject.TemperatureText(kelvin),
+              "strain", "-", ours, 0.0, ours, kExact},
+             model.FarDisplacement(bar, 0)});
     }
     model.bars.EndStep("*STEP\n*STATIC\n", "*NODE PRINT, NSET=N%, FREQUENCY=100000\nU\n");
     return model;
@@ -122,10 +122,10 @@ std::optional<ProofModel> DensityProof(const ProofSubject& subject) {
         const int bar = model.bars.Add(subject.Temperature(kelvin));
         model.bars.HoldAtOrigin(bar);
         const double ours = subject.units.FromStored(ValueAt(*table, kelvin), "density").value_or(0.0);
-        model.expected.push_back({{"density", "mass of a volume of 1, " + subject.TemperatureText(kelvin),
-                                   "density", subject.units.For("density").Spelling(), ours, 0.0, ours,
-                                   kExact},
-                                  {"mass", model.bars.ElementSet(bar), model.bars.Element(bar), 0}});
+        model.expected.push_back(
+            {{"density", "mass of a volume of 1, " + subject.TemperatureText(kelvin), "density",
+              subject.units.For("density").Spelling(), ours, 0.0, ours, kExact},
+             {"mass", model.bars.ElementSet(bar), model.bars.Element(bar), 0}});
     }
     model.bars.EndStep("*STEP\n*STATIC\n", "*EL PRINT, ELSET=E%, FREQUENCY=100000\nEMAS\n");
     return model;
@@ -143,11 +143,10 @@ std::optional<ProofModel> ConductionProof(const ProofSubject& subject) {
         model.bars.Prescribe(bar, BarModel::X0, 11, middle + kDifference / 2.0);
         model.bars.Prescribe(bar, BarModel::X1, 11, middle - kDifference / 2.0);
         const double ours = subject.units.FromStored(ValueAt(*table, kelvin), "conductivity").value_or(0.0);
-        model.expected.push_back({{"conductivity", "one-dimensional, " + subject.TemperatureText(kelvin),
-                                   "conductivity", subject.units.For("conductivity").Spelling(), ours, 0.0,
-                                   ours, kExact},
-                                  {"heat flux", model.bars.ElementSet(bar), model.bars.Element(bar), 1, 1.0,
-                                   2.0 / kDifference}});
+        model.expected.push_back(
+            {{"conductivity", "one-dimensional, " + subject.TemperatureText(kelvin), "conductivity",
+              subject.units.For("conductivity").Spelling(), ours, 0.0, ours, kExact},
+             {"heat flux", model.bars.ElementSet(bar), model.bars.Element(bar), 1, 1.0, 2.0 / kDifference}});
     }
     model.bars.EndStep("*STEP\n*HEAT TRANSFER, STEADY STATE\n",
                        "*EL PRINT, ELSET=E%, FREQUENCY=100000\nHFL\n");

@@ -158,7 +158,8 @@ std::vector<std::string> ErrorLines(const std::string& log) {
 std::optional<Finding> Verdict(const SolverProgram& solver, const std::optional<int>& status,
                                const SolverResults& results, const std::string& job) {
     if (!status) {
-        return Problem(job, solver.name + " did not end within " + std::to_string(solver.timeoutSeconds) + " s",
+        return Problem(job,
+                       solver.name + " did not end within " + std::to_string(solver.timeoutSeconds) + " s",
                        {"it was stopped", "--timeout gives it longer"});
     }
     if (WIFSIGNALED(*status)) {

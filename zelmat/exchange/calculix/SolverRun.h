@@ -25,8 +25,8 @@ struct SolverResults {
 };
 
 /// Runs the solver on a deck in a temporary folder of its own, in one thread and with no input, and removes
-/// the folder, whatever happens; a signal that ends this program ends the solver first. Nothing, and a finding
-/// about `job`, when it cannot be run, fails, crashes, takes too long, or prints no results.
+/// the folder, whatever happens; a signal that ends this program ends the solver first. Nothing, and a
+/// finding about `job`, when it cannot be run, fails, crashes, takes too long, or prints no results.
 std::optional<SolverResults> RunSolver(const SolverProgram& solver, const std::string& deck,
                                        const std::string& job, Findings& findings);
 
