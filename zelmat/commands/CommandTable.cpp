@@ -11,6 +11,7 @@ namespace zelmat {
     COMMAND(Check)               \
     COMMAND(Convert)             \
     COMMAND(Export)              \
+    COMMAND(Import)              \
     COMMAND(Prove)               \
     COMMAND(New)                 \
     COMMAND(Upgrade)             \

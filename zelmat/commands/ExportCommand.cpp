@@ -107,9 +107,17 @@ private:
         return name;
     }
 
+    /// Standard input can be read once: what comes from there is taken for materials.
+    static bool IsLayup(const std::string& path) {
+        if (path == "-") return false;
+        Findings ignored;
+        const auto text = ReadText(path, ignored);
+        return text && FormOfText(*text) == FileForm::LAYUP_CARD;
+    }
+
     void Read(const std::string& path, const std::string& wanted, DeckContent& content,
               CommandContext& context) {
-        if (path != "-" && FormOfFile(path) == FileForm::LAYUP_CARD) {
+        if (IsLayup(path)) {
             if (auto layup = LayupCardReader(context.findings).Read(path)) {
                 content.layups.push_back(std::move(*layup));
             }

@@ -4,7 +4,7 @@
 #include <array>
 #include <cmath>
 
-#include "zelmat/materials/InUnits.h"
+#include "zelmat/materials/QuantityOf.h"
 #include "zelmat/materials/TableKind.h"
 #include "zelmat/quantities/UnitConversion.h"
 

@@ -18,6 +18,8 @@ public:
 
     static DeckUnits Si() { return DeckUnits(UnitChoice::Si()); }
 
+    const Unit& For(const Quantity& quantity) const { return units_.For(quantity); }
+
     /// The unit of a quantity by its name: "stress".
     const Unit& For(const char* quantity) const;
 

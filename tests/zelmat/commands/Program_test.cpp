@@ -30,7 +30,8 @@ TEST(Program, NamesAnUnknownCommandWithTheNearest) {
     EXPECT_THAT(
         RunZelmat({"frobnicate"}).err,
         HasSubstr(
-            "there is no command \"frobnicate\" (known: show, summary, check, convert, new, upgrade, layup"));
+            "there is no command \"frobnicate\" (known: show, summary, check, convert, export, import, "
+            "prove, new, upgrade, layup"));
     EXPECT_EQ(RunZelmat({"help", "shwo"}).err, RunZelmat({"shwo"}).err);
 }
 

@@ -1,0 +1,217 @@
+#include "zelmat/exchange/calculix/ReadCalculix.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "tests/zelmat/exchange/SampleDeck.h"
+#include "tests/zelmat/properties/SampleCard.h"
+#include "tests/zelmat/support/CardFile.h"
+#include "tests/zelmat/support/Program.h"
+
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+using Lists = std::vector<std::vector<double>>;
+
+struct ReadDeck {
+    explicit ReadDeck(const std::string& text, const std::string& units = "si") {
+        const CardFile file(text);
+        zelmat::Findings found;
+        materials = zelmat::ReadCalculix(file.Path(), zelmat::DeckUnits::Read(units, found).value(), found);
+        for (const auto& finding : found.All())
+            findings.push_back(file.Shorten(zelmat::FindingLine(finding)));
+    }
+    const zelmat::Block& Block(const std::string& name, std::size_t material = 0) const {
+        return *materials.at(material).Find(name);
+    }
+    std::vector<zelmat::Material> materials;
+    std::vector<std::string> findings;  ///< of the file card.json
+};
+
+TEST(ReadCalculix, ReadsADeckOfOtherHands) {
+    const ReadDeck deck(
+        "*HEADING\r\nA bracket, by hand\r\n"
+        "*node, nset = Nall\r\n1, 0., 0., 0.\r\n 2, 1.,0.,0.\r\n"
+        "*NSET,NSET=Steel,GENERATE\r\n1,2\r\n"
+        "** the metal\r\n"
+        "*Material , Name = Mild Steel\r\n"
+        "* elastic,\r\n  type = iso\r\n"
+        "  210000. , .3 ,  20.\r\n"
+        "** softer when hot\r\n\r\n"
+        "  1.9D5, 3.0E-1, 200\r\n"
+        "*Density\r\n7.85e-9,\r\n"
+        "*expansion, zero=20.\r\n1.2e-5\r\n"
+        "*STEP\r\n*STATIC\r\n1.,1.\r\n*END STEP\r\n",
+        "mm-t-s");
+
+    ASSERT_EQ(deck.materials.size(), 1U);
+    EXPECT_EQ(deck.materials[0].name, "Mild Steel");
+    EXPECT_EQ(Rows(deck.Block("elastic").tables[0]), (Lists{{210e9, 0.3, 293.15}, {190e9, 0.3, 473.15}}));
+    EXPECT_TRUE(deck.Block("elastic").tables[0].temperatureDependent);
+    EXPECT_EQ(Rows(deck.Block("density").tables[0]), (Lists{{7850.0}}));
+    EXPECT_EQ(deck.Block("thermal_expansion").values.Get<double>("reference_temperature"), 293.15);
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre(
+            "card.json:23: note[skipped-keyword]: '*ENDSTEP' describes no material and is skipped (1 time)",
+            "card.json:1: note[skipped-keyword]: '*HEADING' describes no material and is skipped (1 time)",
+            "card.json:3: note[skipped-keyword]: '*NODE' describes no material and is skipped (1 time)",
+            "card.json:6: note[skipped-keyword]: '*NSET' describes no material and is skipped (1 time)",
+            "card.json:21: note[skipped-keyword]: '*STATIC' describes no material and is skipped (1 time)",
+            "card.json:20: note[skipped-keyword]: '*STEP' describes no material and is skipped (1 time)"));
+}
+
+TEST(ReadCalculix, KeepsTheNumbersOfTheDeckAsTheyStandThere) {
+    const ReadDeck deck("*MATERIAL,NAME=M\n*ELASTIC\n206843.5, .3\n", "mm-t-s");
+    const auto& column = deck.Block("elastic").tables[0].columns[0];
+    EXPECT_EQ(column.written->unit, "MPa");
+    EXPECT_THAT(column.written->numbers, ElementsAre(206843.5));
+    EXPECT_THAT(column.values, ElementsAre(206843.5e6));
+}
+
+TEST(ReadCalculix, ReadsSeveralMaterials) {
+    const ReadDeck deck("*MATERIAL,NAME=A\n*DENSITY\n1\n*MATERIAL,NAME=B\n*DENSITY\n2\n");
+    ASSERT_EQ(deck.materials.size(), 2U);
+    EXPECT_EQ(Rows(deck.Block("density", 1).tables[0]), (Lists{{2.0}}));
+}
+
+TEST(ReadCalculix, ReadsRowsOfMoreThanEightNumbers) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=R\n*HYPERELASTIC, OGDEN, "
+        "N=3\n1,2,3,4,5,6,7,8\n9,300\n10,20,30,40,50,60,70,80\n90,400\n");
+    const auto& fit = deck.materials.at(0).fits.at(0);
+    EXPECT_EQ(fit.values.Get<int>("order"), 3);
+    EXPECT_EQ(Rows(fit.tables[0]),
+              (Lists{{1, 2, 3, 4, 5, 6, 7, 8, 9, 300}, {10, 20, 30, 40, 50, 60, 70, 80, 90, 400}}));
+}
+
+TEST(ReadCalculix, TakesMissingCompressibilitiesForZero) {
+    const ReadDeck deck("*MATERIAL,NAME=R\n*HYPERELASTIC,MOONEY-RIVLIN\n5e5,1e5\n");
+    EXPECT_EQ(Rows(deck.materials.at(0).fits.at(0).tables[0]), (Lists{{5e5, 1e5, 0.0}}));
+}
+
+TEST(ReadCalculix, ReadsUserMaterialsWithTheirStateVariables) {
+    const ReadDeck deck("*MATERIAL,NAME=U\n*USER MATERIAL,CONSTANTS=9\n1,2,3,4,5,6,7,8\n9\n*DEPVAR\n12\n");
+    EXPECT_EQ(Rows(*deck.Block("user_material").Find("constants")),
+              (Lists{{1}, {2}, {3}, {4}, {5}, {6}, {7}, {8}, {9}}));
+    EXPECT_EQ(deck.Block("user_material").values.Get<int>("state_variables"), 12);
+}
+
+TEST(ReadCalculix, TellsWhatACardHasNoPlaceFor) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=M\n*DENSITY\n1\n*ELASTIC,TYPE=ORTHO\n1,2,3,4,5,6,7,8\n9,293.\n*CREEP\n1,2,3\n"
+        "*PLASTIC,HARDENING=JOHNSON COOK\n1,2,3,4,5,6\n*INCLUDE,INPUT=more.inp\n");
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre(
+            "card.json:4: warning[not-imported]: *ELASTIC: TYPE=ORTHO has directions",
+            "card.json:7: warning[not-imported]: *CREEP: a material has no place for it",
+            "card.json:9: warning[not-imported]: *PLASTIC: HARDENING=JOHNSONCOOK is neither isotropic "
+            "nor kinematic",
+            "card.json:11: warning[not-included]: *INCLUDE is not followed: import that file by itself"));
+    ASSERT_EQ(deck.materials.size(), 1U);
+    EXPECT_EQ(deck.materials[0].blocks.size(), 1U);
+}
+
+TEST(ReadCalculix, NamesLineAndReasonOfABadDeck) {
+    const auto first = [](const std::string& text) {
+        const ReadDeck deck(text);
+        EXPECT_THAT(deck.materials, IsEmpty()) << text;
+        return deck.findings.empty() ? "" : deck.findings.front();
+    };
+    EXPECT_THAT(first("*MATERIAL,NAME=M\n*ELASTIC\n2.1e11,abc\n"),
+                HasSubstr("card.json:3: error[no-number]: 'abc' is no number"));
+    EXPECT_THAT(first(std::string("*MATERIAL,NAME=M\n*ELASTIC\n2.1\0e11,.3\n", 38)),
+                HasSubstr("card.json:3: error[no-number]"));
+    EXPECT_THAT(first("*MATERIAL,NAME=M\n*DENSITY\n\xff\xfe\n"), HasSubstr("card.json:3: error[no-number]"));
+    EXPECT_EQ(first("*ELASTIC\n1,2\n"),
+              "card.json:1: error[no-material]: *ELASTIC stands before any *MATERIAL card");
+    EXPECT_EQ(first("*MATERIAL\n"), "card.json:1: error[no-name]: *MATERIAL has no NAME");
+    EXPECT_EQ(first("*MATERIAL,NAME=M\n*DENSITY\n*END STEP\n"),
+              "card.json:2: error[no-data]: *DENSITY has no data line");
+    EXPECT_EQ(first("*MATERIAL,NAME=M\n*DENSITY\n1,2,3\n"),
+              "card.json:3: error[wrong-row]: *DENSITY takes 1 number and a temperature on a line, not 3");
+    EXPECT_EQ(first("*MATERIAL,NAME=M\n*DENSITY\n1,300\n2\n"),
+              "card.json:4: error[no-temperature]: this row has no temperature, others of *DENSITY have");
+    EXPECT_EQ(first("*MATERIAL,NAME=M\n*HYPERELASTIC,OGDEN,N=7\n1,2,3\n"),
+              "card.json:2: error[wrong-order]: N='7' is none of 1, 2 and 3");
+    EXPECT_EQ(first("*MATERIAL,NAME=M\n*USER MATERIAL,CONSTANTS=5\n1,2\n"),
+              "card.json:2: error[wrong-count]: *USER MATERIAL has 2 constants, not 5");
+    EXPECT_EQ(first(""), "card.json: error[no-materials]: there is no *MATERIAL card in it");
+    EXPECT_THAT(first(std::string(70'000, 'x')),
+                HasSubstr("card.json:1: error[long-line]: a line has more than 65536"));
+}
+
+class EverySampleDeck : public testing::TestWithParam<const char*> {};
+
+TEST_P(EverySampleDeck, IsTheSameAfterImportAndExport) {
+    for (const char* units : {"si", "mm-t-s", "mm-kg-ms", "us"}) {
+        const auto deck = Exported("calculix", {SampleCard(GetParam())}, units);
+        const ReadDeck read(deck.text, units);
+        ASSERT_EQ(read.materials.size(), 1U) << units;
+        EXPECT_EQ(WithoutComments(Exported("calculix", read.materials, units).text),
+                  WithoutComments(deck.text))
+            << units;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(ReadCalculix, EverySampleDeck,
+                         testing::Values("aluminium_2024_t351", "aluminium_6061_t6",
+                                         "cfrp_t300_5208_quasi_isotropic", "concrete_c30_37", "copper_ofhc",
+                                         "foam_rohacell71", "gasket_fibre_illustrative",
+                                         "natural_rubber_treloar", "silicone_rtv141", "stainless_304",
+                                         "steel_4340", "steel_s235_kinematic", "steel_s355",
+                                         "titanium_ti6al4v", "user_routine_illustrative"));
+
+TEST(ReadCalculix, DoesNotHoldADeckOfAHundredMegabytes) {
+    const std::string path = testing::TempDir() + "zelmat-deck-" + std::to_string(getpid()) + ".inp";
+    {
+        std::ofstream file(path);
+        file << "*NODE\n";
+        const std::string line = "1234567, 0.123456789, 0.123456789, 0.123456789\n";
+        std::string lines;
+        while (lines.size() < 1'000'000) lines += line;
+        for (int i = 0; i < 100; ++i) file << lines;
+        file << "*MATERIAL, NAME=LAST\n*DENSITY\n7850\n";
+    }
+    struct rusage before {
+    }, after{};
+    ::getrusage(RUSAGE_SELF, &before);
+    zelmat::Findings findings;
+    const auto materials = zelmat::ReadCalculix(path, zelmat::DeckUnits::Si(), findings);
+    ::getrusage(RUSAGE_SELF, &after);
+    std::filesystem::remove(path);
+
+    ASSERT_EQ(materials.size(), 1U);
+    EXPECT_EQ(materials[0].name, "LAST");
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 10'000) << "kB";
+}
+
+TEST(ImportCommand, WritesACardThatTheProgramReads) {
+    const CardFile deck("*MATERIAL,NAME=M\n*ELASTIC\n206843.5, .3\n*DENSITY\n7.85e-9\n");
+    const std::string card = deck.Path() + ".card.json";
+    const ProgramRun run = RunZelmat({"import", deck.Path(), "--units", "mm-t-s", "--output", card});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_EQ(run.out, "\nwritten: " + card + "\n");
+    EXPECT_EQ(RunZelmat({"show", card}).exitCode, 0);
+}
+
+TEST(ImportCommand, NeedsTheUnits) {
+    const ProgramRun run = RunZelmat({"import", "deck.inp"});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(
+        run.err,
+        "--units: error[missing-option]: a deck names no units, so --units has to (as in --units mm-t-s)\n");
+    EXPECT_EQ(RunZelmat({"import", "no-such-deck.inp", "--units", "si"}).exitCode, 3);
+}
+
+}  // namespace

@@ -1,0 +1,122 @@
+#include "zelmat/exchange/calculix/DeckCards.h"
+
+#include <algorithm>
+#include <cctype>
+
+#include "zelmat/quantities/PlainUnitText.h"
+#include "zelmat/quantities/ReadNumber.h"
+#include "zelmat/text/QuotedText.h"
+
+namespace zelmat {
+
+namespace {
+
+std::string Upper(std::string_view text) {
+    std::string upper;
+    for (const char letter : text) {
+        const auto code = static_cast<unsigned char>(letter);
+        if (std::isspace(code) == 0) upper += static_cast<char>(std::toupper(code));
+    }
+    return upper;
+}
+
+std::vector<std::string_view> Words(std::string_view line) {
+    std::vector<std::string_view> words;
+    for (bool more = true; more;) {
+        const std::size_t comma = line.find(',');
+        words.push_back(WithoutBlanksAround(line.substr(0, comma)));
+        more = comma != std::string_view::npos;
+        if (more) line.remove_prefix(comma + 1);
+    }
+    return words;
+}
+
+/// Fortran's exponent letter becomes the common one.
+std::string CommonNumber(std::string_view word) {
+    std::string number(word);
+    std::replace(number.begin(), number.end(), 'D', 'e');
+    std::replace(number.begin(), number.end(), 'd', 'e');
+    return number;
+}
+
+}  // namespace
+
+const std::string* DeckKeyword::Find(const std::string& parameter) const {
+    const auto found = parameters.find(parameter);
+    return found == parameters.end() ? nullptr : &found->second;
+}
+
+bool DeckCards::NextLine() {
+    while (lines_.Next()) {
+        const std::string_view line = WithoutBlanksAround(lines_.Line());
+        if (line.empty() || line.starts_with("**")) continue;
+        held_ = line;
+        hasHeld_ = true;
+        return true;
+    }
+    hasHeld_ = false;
+    return false;
+}
+
+std::optional<DeckKeyword> DeckCards::NextKeyword() {
+    for (; hasHeld_ || NextLine(); hasHeld_ = false) {
+        if (held_.starts_with('*')) break;
+    }
+    if (!hasHeld_) return std::nullopt;
+    DeckKeyword keyword{.line = lines_.Number(), .keyword = {}, .parameters = {}, .name = {}};
+    std::string line = held_;
+    hasHeld_ = false;
+    while (line.ends_with(',') && line.size() < DeckLines::kLongest && NextLine()) {
+        if (held_.starts_with('*')) break;
+        line += held_;
+        hasHeld_ = false;
+    }
+    const auto words = Words(line);
+    keyword.keyword = Upper(words.front());
+    for (std::size_t at = 1; at < words.size(); ++at) {
+        const std::size_t equals = words[at].find('=');
+        const std::string name = Upper(words[at].substr(0, equals));
+        if (name.empty()) continue;
+        const auto value = equals == std::string_view::npos
+                               ? std::string_view()
+                               : WithoutBlanksAround(words[at].substr(equals + 1));
+        keyword.parameters[name] = Upper(value);
+        if (name == "NAME") keyword.name = value;
+    }
+    return keyword;
+}
+
+std::optional<DeckNumbers> DeckCards::NumbersOf(const std::string& line) {
+    DeckNumbers numbers{lines_.Number(), {}};
+    for (const std::string_view word : Words(line)) {
+        if (word.empty()) {
+            numbers.numbers.emplace_back();
+            continue;
+        }
+        const auto number = ReadNumber(CommonNumber(word));
+        if (!number) {
+            findings_.Add({FindingKind::ERROR,
+                           {path_, lines_.Number()},
+                           "no-number",
+                           QuotedText(word) + " is no number",
+                           {number.Error().text}});
+            return std::nullopt;
+        }
+        numbers.numbers.emplace_back(*number);
+    }
+    while (!numbers.numbers.empty() && !numbers.numbers.back()) numbers.numbers.pop_back();
+    return numbers;
+}
+
+std::optional<std::vector<DeckNumbers>> DeckCards::Numbers() {
+    std::vector<DeckNumbers> all;
+    while (hasHeld_ ? !held_.starts_with('*') : NextLine() && !held_.starts_with('*')) {
+        auto numbers = NumbersOf(held_);
+        hasHeld_ = false;
+        if (!numbers) return std::nullopt;
+        all.push_back(std::move(*numbers));
+    }
+    return all;
+}
+
+}  // namespace zelmat
