@@ -70,11 +70,10 @@ private:
             }
             const std::string property = PropertyName(key);
             const BlockKind* ofColumn = IsSingleValue(value) ? BlockOfProperty(property) : nullptr;
-            const BlockKind* named = FindBlockKind(BlockName(key));
             if (ofColumn) {
                 AddSingleValue(at / key, at / ofColumn->name, property, false);
-            } else if (named && value.is_structured()) {
-                MoveBlock(at, key, *named);
+            } else if (value.is_structured()) {
+                if (const BlockKind* named = FindBlockKind(BlockName(key))) MoveBlock(at, key, *named);
             }
         }
     }
@@ -105,6 +104,7 @@ private:
         if (!block.is_object() || kind.IsUnread()) return;
         const bool table = block.contains("columns") || block.contains("rows");
         for (const auto& [key, value] : block.items()) {
+            if (value.is_structured() || key == "temperature_dependent" || key == "source") continue;
             const std::string property = PropertyName(key);
             const bool setting = IsSetting(kind, key) || IsSetting(kind, property);
             if (setting && property != key && !IsSetting(kind, key)) {

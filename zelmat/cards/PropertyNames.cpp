@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <utility>
+#include <vector>
 
 #include "zelmat/materials/BlockKind.h"
 #include "zelmat/quantities/PlainUnitText.h"
@@ -134,8 +136,13 @@ std::string PropertyName(std::string_view name) {
 std::string BlockName(std::string_view name) {
     const std::string letters = Letters(name);
     if (const auto known = Find(kBlocks, letters); !known.empty()) return std::string(known);
-    for (const BlockKind& block : BlockKinds()) {
-        if (Letters(block.name) == letters) return block.name;
+    static const auto blocks = [] {
+        std::vector<std::pair<std::string, std::string>> known;
+        for (const BlockKind& block : BlockKinds()) known.emplace_back(Letters(block.name), block.name);
+        return known;
+    }();
+    for (const auto& [its, block] : blocks) {
+        if (its == letters) return block;
     }
     const std::string property = PropertyName(name);
     return FindBlockKind(property) ? property : std::string(name);
