@@ -129,6 +129,7 @@ void CsvCardReader::OpenTable(const std::vector<std::string>& headers) {
     list_ = table && table->list;
     if (list_) {
         rows_ = &(Material()[block_][table_] = Json::array());
+        linesOfRows_ = &rowLines_[Path()];
         return;
     }
     Json& section = Section();
@@ -141,6 +142,7 @@ void CsvCardReader::OpenTable(const std::vector<std::string>& headers) {
     section["columns"] = headers;
     Note(Path() + "/columns");
     rows_ = &(section["rows"] = Json::array());
+    linesOfRows_ = &rowLines_[Path() + "/rows"];
     Note(Path() + "/rows");
 }
 
@@ -216,7 +218,7 @@ void CsvCardReader::ReadRow(std::string_view line) {
         if (!number) return;
         row.push_back(*number);
     }
-    Note((list_ ? Path() : Path() + "/rows") + "/" + std::to_string(rows_->size()));
+    linesOfRows_->push_back(line_);
     rows_->push_back(list_ ? row.front() : std::move(row));
 }
 
@@ -294,7 +296,8 @@ std::shared_ptr<const PlacedJson> CsvCardReader::Tree() {
     for (Json& material : materials_) {
         if (!material.contains("name")) material["name"] = std::filesystem::path(name_).stem().string();
     }
-    return std::make_shared<const PlacedJson>(name_, std::move(materials_), std::move(lines_));
+    return std::make_shared<const PlacedJson>(name_, std::move(materials_), std::move(lines_),
+                                              std::move(rowLines_));
 }
 
 }  // namespace zelmat

@@ -58,6 +58,7 @@ private:
     Findings& findings_;
     Json materials_ = Json::array();
     PlacedJson::Lines lines_;
+    PlacedJson::ElementLines rowLines_;
     int line_ = 0;
     bool good_ = true;
 
@@ -66,7 +67,8 @@ private:
     std::string table_;                ///< inside the block; empty: the block itself
     const BlockKind* kind_ = nullptr;  ///< of the block; null for one that the program does not know
     Json* rows_ = nullptr;             ///< null: no header yet
-    bool lost_ = false;                ///< the rows are of a table that there is not
+    std::vector<int>* linesOfRows_ = nullptr;
+    bool lost_ = false;  ///< the rows are of a table that there is not
     std::size_t columns_ = 0;
     bool list_ = false;  ///< the table is a plain list of numbers
     char separator_ = ',';

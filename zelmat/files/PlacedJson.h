@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "platform/catalog/KORJsonFile.h"
 
@@ -18,13 +19,17 @@ public:
     /// it.
     using Lines = std::unordered_map<std::string, int>;
 
+    /// Lines of the elements of long lists, by the lists' JSON pointers: a text for each element would cost
+    /// more than the elements.
+    using ElementLines = std::unordered_map<std::string, std::vector<int>>;
+
     /// Where values of a tree stand in the one that it was made from, both as JSON pointers. What lies inside
     /// such a value lies there, too; what is not named stands at the same place.
     using Moves = std::unordered_map<std::string, std::string>;
 
     explicit PlacedJson(KORJsonFile file);
     PlacedJson(std::shared_ptr<const PlacedJson> original, nlohmann::json root, Moves moves);
-    PlacedJson(std::string name, nlohmann::json root, Lines lines);
+    PlacedJson(std::string name, nlohmann::json root, Lines lines, ElementLines elementLines = {});
 
     const std::string& Name() const { return name_; }  ///< what findings call the file
     const nlohmann::json& Root() const { return file_ ? file_->Root() : root_; }
@@ -39,6 +44,7 @@ private:
     std::optional<KORJsonFile> file_;
     nlohmann::json root_;  ///< when there is no JSON file
     Lines lines_;
+    ElementLines elementLines_;
     std::shared_ptr<const PlacedJson> original_;  ///< that knows the lines; null when this one does
     Moves moves_;
 };
