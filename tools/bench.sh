@@ -13,9 +13,10 @@ echo "== Building the benchmarks: preset release"
 cmake --preset release -DZEL_BENCH=ON >/dev/null
 cmake --build --preset release --target bench
 
+programs=(access tables documents disk materials cards fits start)
 tables=$(mktemp -d)
 trap 'rm -rf "$tables"' EXIT
-for program in access tables documents disk materials cards fits; do
+for program in "${programs[@]}"; do
     echo
     echo "== bench_$program"
     "build/release/bin/bench_$program" --markdown="$tables/$program.md" "$@"
@@ -35,14 +36,14 @@ ran side by side, its repetitions mixed. Machines differ, so only the ratios mea
 The benchmarks whose names begin with `Peer` do the same work over OCAF, the document framework of Open CASCADE:
 a feature is a label, its attributes lie there under GUIDs of their own, a step is a command (`bench/peer`). `PlainLoop`
 copies the same rows into three fresh columns and does nothing else: the least that a table can cost. A goal of
-"x faster" is a ratio of at least that, a goal in "x" one of at most that.
+"x faster" is a ratio of at least that, a goal in "x" one of at most that; the last column says whether it was met.
 
 TEXT
-    echo "- Processor: $(sed -n 's/^model name[^:]*: //p' /proc/cpuinfo | head -n 1), $(nproc) cores"
     echo "- Compiler: $("${CXX:-c++}" --version | head -n 1), preset \`release\`"
     echo "- OCAF: $(dpkg-query --show --showformat='${Version}' libocct-ocaf-dev)"
-    echo "- Load of the machine before the end of the run: $(cut -d ' ' -f 1 /proc/loadavg)"
-    for program in access tables documents disk materials cards fits; do
+    echo "- Load for each core at the end of the run:" \
+        "$(awk -v cores="$(nproc)" '{ printf "%.1f", $1 / cores }' /proc/loadavg) (a loaded machine blurs ratios)"
+    for program in "${programs[@]}"; do
         question=$(sed -n '1s|^// ||p; 2s|^// | |p' "bench/bench_$program.cpp" | tr -d '\n')
         printf '\n## bench_%s\n\n%s\n\n' "$program" "$question"
         cat "$tables/$program.md"
