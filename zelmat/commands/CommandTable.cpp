@@ -23,6 +23,7 @@ namespace zelmat {
     COMMAND(Laminate)            \
     COMMAND(Constants)           \
     COMMAND(Plot)                \
+    COMMAND(Report)              \
     COMMAND(Unit)                \
     COMMAND(Config)              \
     COMMAND(Catalog)

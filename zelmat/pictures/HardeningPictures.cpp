@@ -1,6 +1,6 @@
 #include "zelmat/pictures/HardeningPictures.h"
 
-#include <cmath>
+#include <algorithm>
 
 #include "zelmat/pictures/GnuplotText.h"
 #include "zelmat/pictures/PropertyPictures.h"
@@ -57,6 +57,24 @@ void KeepTwelve(Picture& picture) {
     for (std::size_t i = 0; i < picture.series.size(); ++i) picture.series[i].color = i;
 }
 
+/// A curve of one point, perfect plasticity, is seen by what follows from it.
+void DrawLevels(Picture& picture) {
+    constexpr double kUsualStrain = 0.1;
+    double greatest = 0.0;
+    for (const Series& series : picture.series) greatest = std::max(greatest, series.points.back().x);
+    std::vector<Series> levels;
+    for (const Series& series : picture.series) {
+        if (series.points.size() != 1) continue;
+        const PicturePoint point = series.points.front();
+        levels.push_back({.label = "",
+                          .style = SeriesStyle::DASHED,
+                          .color = series.color,
+                          .points = {point, {greatest > 0.0 ? greatest : kUsualStrain, point.y}}});
+    }
+    if (!levels.empty()) picture.notes.emplace_back("Dashed: constant beyond the only point.");
+    picture.series.insert(picture.series.end(), levels.begin(), levels.end());
+}
+
 std::vector<Series> Curves(const JohnsonCook& law, const Shown& shown) {
     constexpr double kGreatestStrain = 0.5;
     constexpr int kPoints = 60;
@@ -95,6 +113,7 @@ mechanics::Outcome<Picture> HardeningPicture(const Material& material, const Blo
         const auto& table = std::get<HardeningTable>(property->law);
         picture.series = Curves(table, property->temperatureDependent, shown);
         KeepTwelve(picture);
+        DrawLevels(picture);
         picture.notes.emplace_back(
             "Points: the rows of the table; lines: linear between them, constant beyond.");
     }

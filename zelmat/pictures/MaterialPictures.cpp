@@ -86,6 +86,7 @@ private:
             } else {
                 AddRefusal(fit, pictures.Why());
             }
+            if (wish_.oneFit) break;
         }
         if (used.size() > 1) AddWithBars(FitsPicture(material_, used, units_));
         if (wish_.ranking) AddWithBars(RankingPicture(material_));

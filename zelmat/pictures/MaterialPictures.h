@@ -14,6 +14,7 @@ namespace zelmat {
 struct PictureWish {
     std::string block = {};  ///< by its name on the card; empty: all
     bool ranking = false;    ///< of all potentials fitted to its tests, which takes seconds
+    bool oneFit = false;     ///< of several hyperelastic fits the first one's response alone
 };
 
 /// The pictures that a material has, in the order of its blocks, each with a name of its own. A block that

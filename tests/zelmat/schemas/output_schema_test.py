@@ -24,7 +24,7 @@ failures = []
 
 def zelmat(*arguments, home="/no-such-folder"):
     return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, text=True, check=False,
-                          env={"XDG_CONFIG_HOME": str(home), "LANG": "C.UTF-8", **LSAN})
+                          env={"XDG_CONFIG_HOME": str(home), "LANG": "C.UTF-8", "PATH": os.environ["PATH"], **LSAN})
 
 
 def closed(schema):
@@ -95,6 +95,9 @@ def runs(folder):
     yield ["laminate", "[0/90]s"]
     yield ["constants", "E=210GPa", "nu=0.3"]
     yield ["constants", "E=210GPa"]
+    yield ["report", cards[0], "--output", target.with_suffix(".html")]
+    yield ["report", "/no-such-card", "--output", target.with_suffix(".html")]
+    yield ["report"]
     yield ["unit", "210 GPa", "psi"]
     yield ["unit", "210 GPa", "kg"]
     yield ["unit", "--list", "all"]

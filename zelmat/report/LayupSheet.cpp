@@ -1,0 +1,113 @@
+#include "zelmat/report/LayupSheet.h"
+
+#include "zelmat/layups/Millimetres.h"
+#include "zelmat/mechanics/laminate/LaminateStiffness.h"
+#include "zelmat/pictures/GnuplotText.h"
+#include "zelmat/pictures/LayupPictures.h"
+#include "zelmat/properties/LaminateProperty.h"
+#include "zelmat/quantities/NumberText.h"
+#include "zelmat/quantities/ShownQuantity.h"
+#include "zelmat/report/SheetParts.h"
+
+namespace zelmat {
+
+namespace {
+
+constexpr int kDerivedDigits = 6;
+
+void WriteLayers(HtmlWriter& html, const StoredLayup& layup, const UnitChoice& units) {
+    const ShownQuantity length("length", units), angle("angle", units);
+    const std::vector<double> z = layup.Interfaces();
+    const auto text = [&](double metres) { return NumberText(length(WithoutNoiseOfSums(metres))); };
+    std::vector<std::vector<std::string>> rows;
+    for (std::size_t i = 0; i < layup.layers.size(); ++i) {
+        const StoredLayer& layer = layup.layers[i];
+        rows.push_back({std::to_string(i + 1), layer.material.value_or("–"), text(layer.thickness),
+                        NumberText(angle(layer.angle)), text(z[i]), text(z[i + 1])});
+    }
+    WriteRows(
+        html,
+        "Layers from the bottom up; z from the middle plane, upwards; angles from the x axis to the fibre, "
+        "counter-clockwise",
+        {"layer", "material", TitleWithUnit("thickness", length.Unit()), TitleWithUnit("angle", angle.Unit()),
+         TitleWithUnit("z bottom", length.Unit()), TitleWithUnit("z top", length.Unit())},
+        rows, true);
+}
+
+/// Moduli in the unit of moduli, densities in theirs, ratios as they are.
+std::string ConstantText(const std::string& name, double value, const UnitChoice& units) {
+    const std::string stored = PlyConstantUnit(name);
+    if (stored.empty() || stored == "-") return NumberText(value);
+    const Quantity* quantity = stored == "Pa" ? FindQuantity("modulus") : FindQuantityStoredIn(stored);
+    if (!quantity) return NumberText(value) + " " + stored;
+    const ShownQuantity shown(*quantity, units);
+    return NumberText(shown(value)) + " " + WrittenUnit(shown.Unit());
+}
+
+void WritePlies(HtmlWriter& html, const LayupCard& card, const UnitChoice& units) {
+    for (const PlyMaterial& ply : card.materials) {
+        if (ply.constants.empty()) continue;
+        html.Text("h3", "Ply material " + ply.name, {{"dir", "auto"}});
+        std::vector<Fact> facts;
+        for (const auto& [name, value] : ply.constants)
+            facts.push_back({name, ConstantText(name, value, units)});
+        if (!ply.source.empty()) facts.push_back({"Source", ply.source});
+        WriteFacts(html, facts);
+    }
+}
+
+void WriteStiffness(HtmlWriter& html, const LayupCard& card, const UnitChoice& units) {
+    const auto laminate = LaminateOf(card);
+    const auto stiffness = laminate.Ok()
+                               ? mechanics::StiffnessOf(*laminate)
+                               : mechanics::Outcome<mechanics::LaminateStiffness>(laminate.Refused());
+    if (!stiffness.Ok()) {
+        html.Text("p", "No stiffness of the laminate: " + stiffness.Why() + ".");
+        return;
+    }
+    const auto moduli = mechanics::ModuliOf(*stiffness);
+    const ShownQuantity modulus("modulus", units);
+    const auto row = [&](const char* name, const mechanics::PlateModuli& of) {
+        return std::vector<std::string>{
+            name, RoundedText(modulus(of.ex), kDerivedDigits), RoundedText(modulus(of.ey), kDerivedDigits),
+            RoundedText(modulus(of.gxy), kDerivedDigits), RoundedText(of.nuxy, kDerivedDigits)};
+    };
+    html.Text("h3", "Stiffness of the laminate");
+    WriteRows(html, "Derived by classical lamination theory, six digits",
+              {"as a homogeneous plate", TitleWithUnit("Ex", modulus.Unit()),
+               TitleWithUnit("Ey", modulus.Unit()), TitleWithUnit("Gxy", modulus.Unit()), "νxy"},
+              {row("in its plane", moduli.membrane), row("in bending", moduli.bending)}, true);
+    html.Text("p", moduli.coupled ? "B is not 0: stretching curves the laminate."
+                                  : "B is 0: stretching does not curve the laminate.");
+}
+
+}  // namespace
+
+void WriteLayupSheet(HtmlWriter& html, const ReportLayup& layup, const std::string& id,
+                     const UnitChoice& units) {
+    const LayupCard& card = layup.card;
+    const StoredLayup stack = LayupOf(card);
+    html.Open("section", {{"class", "sheet"}, {"id", id}, {"aria-labelledby", id + "-title"}});
+    html.Text("h2", card.name, {{"id", id + "-title"}, {"dir", "auto"}});
+    if (!card.description.empty()) html.Text("p", card.description, {{"dir", "auto"}});
+    const ShownQuantity length("length", units);
+    std::vector<Fact> facts = {{"File", card.file}};
+    for (const std::string& source : card.sources) facts.push_back({"Source", source});
+    facts.push_back({"Layers", stack.LayerCount()});
+    facts.push_back({"Thickness", length.Text(WithoutNoiseOfSums(stack.Thickness()), kDerivedDigits)});
+    if (!stack.layers.empty()) {
+        facts.push_back(
+            {stack.IsOfOnePly() ? "Stacking sequence" : "Stacking sequence, angles only", stack.Notation()});
+    }
+    WriteFacts(html, facts);
+    WritePicture(html, layup.stack, card.name + ": a section through the stack with every layer.",
+                 "The stack, a section seen along y");
+    if (!stack.layers.empty()) WriteLayers(html, stack, units);
+    WritePlies(html, card, units);
+    WriteStiffness(html, card, units);
+    for (const ReportPicture& picture : layup.pictures) WritePicture(html, picture);
+    WriteEnd(html, layup.findings);
+    html.Close("section");
+}
+
+}  // namespace zelmat

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+namespace zelmat {
+
+/// The style sheet of reports: light and dark as the reader's system is, light on A4 paper, where every data
+/// sheet begins a page and no picture is cut. Text stands out from its ground by at least 7 to 1.
+std::string_view ReportStyle();
+
+}  // namespace zelmat

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "zelmat/findings/Findings.h"
+#include "zelmat/materials/Table.h"
+#include "zelmat/quantities/UnitChoice.h"
+#include "zelmat/report/HtmlWriter.h"
+#include "zelmat/report/ReportContent.h"
+
+namespace zelmat {
+
+/// One line of a list of facts.
+struct Fact {
+    std::string name;
+    std::string value;
+};
+
+/// Nothing where there are none.
+void WriteFacts(HtmlWriter& html, const std::vector<Fact>& facts);
+
+/// A table of a material with a heading for every column, value for value as `show --json` has it in the same
+/// units: the shortest texts that read back as exactly the same numbers.
+void WriteTable(HtmlWriter& html, const Table& table, const std::string& block, const std::string& caption,
+                const UnitChoice& units);
+
+/// Texts in rows, each as long as the headings. `numbers`: of figures, which stand flush right.
+void WriteRows(HtmlWriter& html, const std::string& caption, const std::vector<std::string>& headings,
+               const std::vector<std::vector<std::string>>& rows, bool numbers);
+
+/// A picture within the page, with its size and its description.
+void WritePicture(HtmlWriter& html, const std::string& svg, const std::string& description,
+                  const std::string& caption);
+void WritePicture(HtmlWriter& html, const ReportPicture& picture);
+
+/// What was found, or that nothing was; where a reviewer signs, on paper only; and the way back to the
+/// contents.
+void WriteEnd(HtmlWriter& html, const Findings& findings);
+
+}  // namespace zelmat
