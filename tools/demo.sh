@@ -61,3 +61,9 @@ run check samples/faulty/steel_five_faults.json || echo "(exit code $?)"
 # A quasi-isotropic laminate: created in a document, checked, drawn.
 run layup "[0/45/-45/90]s" --material "T300/5208" --thickness 0.125mm
 run layup samples/layups/quasi_isotropic_t300_5208.json --section composite --svg build/quasi_isotropic.svg
+
+# Pictures and a report of all samples, to be opened in a browser.
+run plot samples/steel_s355.json --block plastic --output build/steel_s355_hardening.svg
+run report samples/*.json samples/layups/*.json --title "Samples" --output build/samples.html || echo "(exit code $?)"
+echo
+echo "The report of all samples: $root/build/samples.html"

@@ -2,7 +2,8 @@
 # Installs the Debian packages that building and testing need. Does nothing, and needs neither network nor
 # root, when all of them are there.
 #   tools/install-dependencies.sh [EXTRA...]     also what only some need: clang (the preset of that name), lint, peer
-#                                                (the document framework beside which tools/bench.sh measures)
+#                                                (the document framework beside which tools/bench.sh measures),
+#                                                browser (in which tests open reports)
 set -euo pipefail
 
 packages=(
@@ -28,7 +29,8 @@ for extra in "$@"; do
         clang) packages+=(clang) ;;
         lint) packages+=(clang-tidy) ;;
         peer) packages+=(libocct-ocaf-dev) ;;
-        *) echo "install-dependencies.sh: unknown extra $extra; known: clang lint peer" >&2; exit 2 ;;
+        browser) packages+=(chromium) ;;
+        *) echo "install-dependencies.sh: unknown extra $extra; known: clang lint peer browser" >&2; exit 2 ;;
     esac
 done
 

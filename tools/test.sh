@@ -16,8 +16,11 @@ if (($# == 0)); then
 fi
 for preset in "$@"; do
     extras=()
+    if [[ $testing == ON ]]; then
+        extras+=(browser)
+    fi
     if [[ "$preset" == clang ]]; then
-        extras=(clang)
+        extras+=(clang)
     fi
     tools/install-dependencies.sh "${extras[@]}"
     echo "== Building: $preset"

@@ -159,7 +159,7 @@ private:
         constexpr double kMargin = 20.0;
         double y = Height() - 26.0;
         for (const std::string& line : title_) {
-            Label(line, kMargin, y, "left font ':Bold,15' front");
+            Label(line, kMargin, y, "left font 'sans-serif:Bold,15' front");
             y -= kTitleLine;
         }
         for (const std::string& line : what_) {

@@ -5,19 +5,10 @@
 #include <utility>
 
 #include "zelmat/text/Printable.h"
+#include "zelmat/text/ReplaceAll.h"
 #include "zelmat/text/XmlText.h"
 
 namespace zelmat {
-
-namespace {
-
-void ReplaceAll(std::string& text, std::string_view what, std::string_view with) {
-    for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + with.size())) {
-        text.replace(at, what.size(), with);
-    }
-}
-
-}  // namespace
 
 std::string GnuplotText(std::string_view text) {
     std::string line(text);

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "zelmat/files/ChildProgram.h"
+#include "zelmat/text/ReplaceAll.h"
 #include "zelmat/text/XmlText.h"
 
 namespace zelmat {
@@ -23,6 +24,15 @@ void ReplaceBetween(std::string& text, std::string_view begin, std::string_view 
     text.replace(from, to + end.size() - from, with);
 }
 
+/// The group of a series comes with a number as its title, which would be read aloud.
+std::string WithoutTitle(std::string_view line) {
+    std::string kept(line);
+    if (line.find("<g id=\"gnuplot_plot_") != std::string_view::npos) {
+        ReplaceBetween(kept, "<title>", "</title>", "");
+    }
+    return kept;
+}
+
 /// gnuplot writes a group at every change of the pen, most of them with nothing in it.
 std::string WithoutEmptyGroups(std::string_view svg) {
     std::string kept;
@@ -32,7 +42,7 @@ std::string WithoutEmptyGroups(std::string_view svg) {
         const std::string_view line = svg.substr(at, end - at);
         const bool empty =
             line.starts_with("<g ") && line.ends_with(">\n") && svg.substr(end).starts_with("</g>\n");
-        if (!empty) kept += line;
+        if (!empty) kept += WithoutTitle(line);
         at = empty ? end + std::string_view("</g>\n").size() : end;
     }
     return kept;
@@ -46,7 +56,10 @@ std::string Cleaned(std::string svg, const PictureSheet& sheet) {
     }
     ReplaceBetween(svg, "<title>", "</title>", "<title>" + XmlText(description) + "</title>");
     ReplaceBetween(svg, "<desc>", "</desc>\n", "");
-    return WithoutEmptyGroups(svg);
+    svg = WithoutEmptyGroups(svg);
+    // gnuplot writes the weight of a font as part of its name.
+    ReplaceAll(svg, "font-family=\"sans-serif:Bold\"", "font-family=\"sans-serif\" font-weight=\"bold\"");
+    return svg;
 }
 
 bool Draw(const std::vector<PictureSheet>& sheets, PictureFormat format, std::vector<std::string>& drawn,

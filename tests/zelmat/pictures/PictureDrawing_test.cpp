@@ -79,6 +79,9 @@ TEST(PictureDrawing, DrawsTheSameBytesAgainAndSaysNothingOfTheRelease) {
     EXPECT_EQ(*first, *second);
     EXPECT_THAT(first->front(), Not(HasSubstr("patchlevel")));
     EXPECT_THAT(first->front(), HasSubstr("<title>a line: a line."));
+    EXPECT_THAT(first->front(),
+                HasSubstr("font-family=\"sans-serif\" font-weight=\"bold\" font-size=\"15.00\""));
+    EXPECT_EQ(first->front().find("<title>"), first->front().rfind("<title>")) << "the picture's own alone";
     EXPECT_EQ(XmlProblem(first->front()), "");
 }
 
