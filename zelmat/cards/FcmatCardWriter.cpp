@@ -77,7 +77,8 @@ public:
             models[name]["UUID"] = model.uuid;
             models[name].update(models_[name]);
         }
-        const ordered_json others = own_.value("Models", ordered_json::object());
+        ordered_json others = own_.value("Models", ordered_json::object());
+        if (!others.is_object()) others = ordered_json::object();
         for (const auto& [name, model] : others.items()) {
             models[models.contains(name) ? name + " (of the card)" : name] = model;
         }
@@ -92,6 +93,7 @@ private:
         }
         if (!own_.is_object()) own_ = ordered_json::object();
         ordered_json general = own_.value("General", ordered_json::object());
+        if (!general.is_object()) general = ordered_json::object();  // a card may hold anything there
         if (!general.contains("UUID")) general["UUID"] = Identifier(material_.name);
         general["Name"] = material_.name;
         if (!material_.description.empty()) general["Description"] = material_.description;
