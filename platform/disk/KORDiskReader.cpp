@@ -106,7 +106,7 @@ void KORDiskReader::MakeFeature(const KORSqliteStatement& row, const KORDiskCont
     if (!index_.names.Has(type)) return Damaged(Called(feature) + " is of no type");
     if (container > containers.Count())
         return Damaged(Called(feature) + " lies in a container that is not there");
-    const KORLayoutHandle layout = LayoutOf(type);
+    const KORLayoutHandle& layout = LayoutOf(type);
     document_.Features().SkipTo(feature - 1);
     const KORUnicodeString name = row.IsNull(3) ? layout->NameText() : KORUnicodeString(row.Bytes(3));
     const auto made =
@@ -144,7 +144,7 @@ void KORDiskReader::ReadAttributes(std::string_view packed, KORFeature& feature)
     }
 }
 
-KORLayoutHandle KORDiskReader::LayoutOf(std::uint64_t name) {
+const KORLayoutHandle& KORDiskReader::LayoutOf(std::uint64_t name) {
     KORLayoutHandle& layout = layouts_[name - 1];
     if (layout) return layout;
     const KORCatalogType* type =
@@ -155,27 +155,26 @@ KORLayoutHandle KORDiskReader::LayoutOf(std::uint64_t name) {
 
 void KORDiskReader::Resolve() {
     for (const Pending& pending : pending_) {
+        KORValue value = pending.list ? ResolveList(pending) : KORValue::OfComponent(Target(pending, 0));
         if (Failed()) return;
-        const std::uint32_t from = pending.feature->Number();
-        KORValue value = KORValue::EmptyList(KORAttributeKind::ListOfComponents);
-        for (std::size_t i = 0; i < pending.count; ++i) {
-            const std::uint32_t number = references_[pending.first + i];
-            KORFeature* target = number != 0 ? Target(number, from) : nullptr;
-            if (pending.list) {
-                value.Append(target);
-            } else {
-                value = KORValue::OfComponent(target);
-            }
-        }
         pending.feature->Swap(pending.slot, value);
     }
     pending_.clear();
     references_.clear();
 }
 
-KORFeature* KORDiskReader::Target(std::uint32_t number, std::uint32_t from) {
+KORValue KORDiskReader::ResolveList(const Pending& pending) {
+    KORValue list = KORValue::EmptyList(KORAttributeKind::ListOfComponents);
+    for (std::size_t entry = 0; entry < pending.count; ++entry) list.Append(Target(pending, entry));
+    return list;
+}
+
+KORFeature* KORDiskReader::Target(const Pending& pending, std::size_t entry) {
+    const std::uint32_t number = references_[pending.first + entry];
+    if (number == 0) return nullptr;
     KORFeature* found = document_.Features().Find(number);
-    if (!found) Damaged(Called(from) + " references " + Called(number) + ", which is not there");
+    if (!found)
+        Damaged(Called(pending.feature->Number()) + " references " + Called(number) + ", which is not there");
     return found;
 }
 

@@ -48,8 +48,9 @@ private:
     void MakeFeature(const KORSqliteStatement& row, const KORDiskContainers& containers);
     void ReadAttributes(std::string_view packed, KORFeature& feature);
     void Resolve();
-    KORFeature* Target(std::uint32_t number, std::uint32_t from);
-    KORLayoutHandle LayoutOf(std::uint64_t name);
+    KORValue ResolveList(const Pending& pending);
+    KORFeature* Target(const Pending& pending, std::size_t entry);  ///< null for an empty entry
+    const KORLayoutHandle& LayoutOf(std::uint64_t name);
     bool ReadEntries(std::string_view packed, const KORDiskContainers& containers, KORUndoStep& step);
 
     void Damaged(const std::string& what);  ///< only the first one counts

@@ -1,6 +1,7 @@
 #include <sqlite3.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "platform/disk/KORDoctor.h"
 #include "tests/platform/disk/KORDiskTest.h"
@@ -125,6 +126,27 @@ TEST_F(KORDiskFormatTest, TablesHoldWhatTheDescriptionSays) {
                         "26"
                         "0103" +
                         name("Flag") + "00"));
+}
+
+TEST_F(KORDiskFormatTest, TheStatementsOfTheDescriptionWork) {
+    auto made = Create();
+    Do(made->Document(), "Make", [&] { Material(made->Document(), "Steel")->SetAlias("S355"); });
+    Save(*made, {"ada", "zel new"});
+    made = nullptr;
+    std::ifstream page(ZEL_DOCUMENT_PAGE);
+    const std::string all{std::istreambuf_iterator<char>(page), std::istreambuf_iterator<char>()};
+    const std::size_t begin = all.find("```sql\n") + 7;
+    std::string block = all.substr(begin, all.find("```", begin) - begin);
+    std::vector<std::vector<std::string>> answers;
+    for (std::size_t end = 0; (end = block.find(";\n")) != std::string::npos; block.erase(0, end + 2)) {
+        answers.push_back(Rows(block.substr(0, end)));
+    }
+
+    ASSERT_EQ(5u, answers.size());
+    EXPECT_THAT(answers[0], ElementsAre(testing::StartsWith("1|KORDiskTestLT|S355|NULL|")));
+    EXPECT_THAT(answers[1], ElementsAre("KORDiskTestLT|1"));
+    EXPECT_THAT(answers[2], ElementsAre(testing::MatchesRegex("1\\|.*Z\\|ada\\|zel new\\|Make\\|<")));
+    EXPECT_EQ(8u, answers[4].size());
 }
 
 TEST_F(KORDiskFormatTest, ANewerFormatIsReadWithANoteAndNotChanged) {
