@@ -110,12 +110,11 @@ std::optional<Line> LineOf(const Ratio& row, const Medians& medians) {
     const bool faster = row.target.kind == Target::Kind::TimesFaster;
     Line line;
     line[kQuestion] = row.question;
-    line[kOurs] = row.ours.unit.empty() ? "none yet" : Show(*ours, row.ours.unit);
+    line[kOurs] = Show(*ours, row.ours.unit);
     line[kBeside] = Show(*beside, row.beside.unit);
     line[kLabel] = row.beside.benchmark.empty() ? "our bound" : row.beside.benchmark;
     if (row.target.bound != 0.0)
         line[kGoal] = Format(faster ? ">= %g x faster" : "<= %g x", row.target.bound);
-    if (row.ours.unit.empty()) return line;
     const double ratio = faster ? *beside / *ours : *ours / *beside;
     const char* better = row.ours.unit == "ns" ? "%.3g x faster" : "%.3g x less";
     line[kRatio] = Format(faster ? better : "%.3g x", ratio);

@@ -11,14 +11,13 @@ struct Figure {
     std::string benchmark;  ///< empty: no benchmark
     std::string counter;    ///< of that benchmark, in `unit`; empty: its time per iteration
     std::string unit;       ///< "ns" is printed with a fitting prefix, everything else as it is
-    double bound = 0.0;     ///< without a benchmark; 0: there is nothing to measure yet
+    double bound = 0.0;     ///< without a benchmark
 
     static Figure Time(std::string benchmark) { return {std::move(benchmark), "", "ns"}; }
     static Figure Counter(std::string benchmark, std::string counter, std::string unit) {
         return {std::move(benchmark), std::move(counter), std::move(unit)};
     }
     static Figure Bound(double value, std::string unit) { return {"", "", std::move(unit), value}; }
-    static Figure NoneYet() { return {}; }
 };
 
 /// What a ratio is to be. A bound of 0 asks for nothing: the ratio is only shown.
