@@ -15,11 +15,6 @@ using Json = nlohmann::ordered_json;
 
 constexpr std::size_t kMostLines = 50;  // of one part
 
-struct Line {
-    std::string name;
-    std::string value;
-};
-
 std::string ValueText(const Json& value) {
     if (value.is_string()) return value.get<std::string>();
     if (value.is_number_float()) return NumberText(value.get<double>());
@@ -35,7 +30,7 @@ bool IsPlainList(const Json& value) {
 
 /// Groups are taken apart ("ply.E1"), lists of plain values stand in one line. The recursion is as deep as
 /// the card, whose readers bound that.
-void AddLines(const std::string& name, const Json& value, std::vector<Line>& lines) {
+void AddLines(const std::string& name, const Json& value, std::vector<KeptLine>& lines) {
     if (name.empty() && value.empty()) return;
     if (value.is_object() && !value.empty()) {
         for (const auto& [key, inner] : value.items()) {
@@ -52,9 +47,9 @@ void AddLines(const std::string& name, const Json& value, std::vector<Line>& lin
     lines.push_back({name, text});
 }
 
-void PrintPart(std::ostream& out, const std::string& title, const std::vector<Line>& lines) {
-    if (lines.empty()) return;
-    out << '\n' << title << '\n';
+void PrintPart(std::ostream& out, const KeptPart& part) {
+    const std::vector<KeptLine>& lines = part.lines;
+    out << '\n' << part.title << '\n';
     for (std::size_t i = 0; i < lines.size() && i < kMostLines; ++i) {
         out << "  " << Printable(lines[i].name) << (lines[i].name.empty() ? "" : ": ")
             << Printable(lines[i].value) << '\n';
@@ -64,28 +59,33 @@ void PrintPart(std::ostream& out, const std::string& title, const std::vector<Li
     }
 }
 
-void AddKept(const std::string& group, const std::vector<KeptValue>& kept, std::vector<Line>& lines) {
+void AddKept(const std::string& group, const std::vector<KeptValue>& kept, std::vector<KeptLine>& lines) {
     for (const KeptValue& value : kept) AddLines(group + value.name, Json::parse(value.json), lines);
 }
 
 }  // namespace
 
-void PrintKept(std::ostream& out, const Material& material) {
+std::vector<KeptPart> KeptParts(const Material& material) {
+    std::vector<KeptPart> parts;
     for (const Block& block : material.information) {
-        std::vector<Line> lines;
+        parts.push_back({block.kind->title + ", for information", {}});
         if (block.kind->IsUnread()) {
-            AddLines("", Json::parse(block.kept.front().json), lines);
+            AddLines("", Json::parse(block.kept.front().json), parts.back().lines);
         } else {
-            AddKept("", block.kept, lines);
+            AddKept("", block.kept, parts.back().lines);
         }
-        PrintPart(out, block.kind->title + ", for information", lines);
     }
-    std::vector<Line> unknown;
+    parts.push_back({"Unknown, kept as it is and used by nothing", {}});
     for (const auto* blocks : {&material.blocks, &material.fits}) {
-        for (const Block& block : *blocks) AddKept(block.kind->name + ".", block.kept, unknown);
+        for (const Block& block : *blocks) AddKept(block.kind->name + ".", block.kept, parts.back().lines);
     }
-    AddKept("", material.kept, unknown);
-    PrintPart(out, "Unknown, kept as it is and used by nothing", unknown);
+    AddKept("", material.kept, parts.back().lines);
+    std::erase_if(parts, [](const KeptPart& part) { return part.lines.empty(); });
+    return parts;
+}
+
+void PrintKept(std::ostream& out, const Material& material) {
+    for (const KeptPart& part : KeptParts(material)) PrintPart(out, part);
 }
 
 }  // namespace zelmat

@@ -5,6 +5,7 @@
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/checks/Checks.h"
 #include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/KeptReport.h"
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/layups/LayupCardReader.h"
@@ -61,6 +62,12 @@ void ReportGathering::AddMaterial(Material material) {
     MaterialHost host(context_.options.catalogs);
     added.stored = StoreMaterial(host, added.given, fit ? std::vector{fit} : std::vector<const Block*>(),
                                  added.findings);
+    for (KeptPart& part : KeptParts(added.given)) {
+        ReportFacts& facts = added.further.emplace_back();
+        facts.title = std::move(part.title);
+        for (KeptLine& line : part.lines)
+            facts.facts.push_back({std::move(line.name), std::move(line.value)});
+    }
     Findings conversions;  // told by storing already
     added.pictures = PicturesOf(added.given, units_, conversions);
     for (const Finding& finding : conversions.All()) {

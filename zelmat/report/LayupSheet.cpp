@@ -48,7 +48,7 @@ void WritePlies(HtmlWriter& html, const LayupCard& card, const UnitChoice& units
     for (const PlyMaterial& ply : card.materials) {
         if (ply.constants.empty()) continue;
         html.Text("h3", "Ply material " + ply.name, {{"dir", "auto"}});
-        std::vector<Fact> facts;
+        std::vector<ReportFact> facts;
         for (const auto& [name, value] : ply.constants)
             facts.push_back({name, ConstantText(name, value, units)});
         if (!ply.source.empty()) facts.push_back({"Source", ply.source});
@@ -91,7 +91,7 @@ void WriteLayupSheet(HtmlWriter& html, const ReportLayup& layup, const std::stri
     html.Text("h2", card.name, {{"id", id + "-title"}, {"dir", "auto"}});
     if (!card.description.empty()) html.Text("p", card.description, {{"dir", "auto"}});
     const ShownQuantity length("length", units);
-    std::vector<Fact> facts = {{"File", card.file}};
+    std::vector<ReportFact> facts = {{"File", card.file}};
     for (const std::string& source : card.sources) facts.push_back({"Source", source});
     facts.push_back({"Layers", stack.LayerCount()});
     facts.push_back({"Thickness", length.Text(WithoutNoiseOfSums(stack.Thickness()), kDerivedDigits)});

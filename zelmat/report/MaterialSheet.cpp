@@ -50,7 +50,7 @@ private:
         if (given_.illustrative) {
             html_.Text("p", "Illustrative: the values are made up.", {{"class", "banner"}});
         }
-        std::vector<Fact> facts = {{"File", given_.file}};
+        std::vector<ReportFact> facts = {{"File", given_.file}};
         if (!given_.materialClass.empty()) facts.push_back({"Class", given_.materialClass});
         for (const std::string& source : given_.sources) facts.push_back({"Source", source});
         for (const std::string& note : given_.notes) facts.push_back({"Note", note});
@@ -86,8 +86,8 @@ private:
     }
 
     /// What is stored, what follows from it, and what the card says besides.
-    std::vector<Fact> Values(const StoredBlock& stored) const {
-        std::vector<Fact> facts;
+    std::vector<ReportFact> Values(const StoredBlock& stored) const {
+        std::vector<ReportFact> facts;
         const auto add = [&](const Block& block, bool isStored) {
             for (const Setting& setting : block.kind->settings) {
                 const Value* value = setting.stored == isStored ? block.values.Find(setting.name) : nullptr;
@@ -150,23 +150,17 @@ private:
     /// What no behavior uses.
     void Information() {
         for (const Block& block : given_.information) {
-            html_.Text("h3", block.kind->title + " (for information)");
+            if (block.tables.empty()) continue;
+            html_.Text("h3", block.kind->title + ", tables for information");
             for (const Table& table : block.tables) {
                 WriteTable(html_, table, block.kind->name, table.kind->title, units_);
             }
             Pictures(block.kind->name);
-            Kept(block.kept);
         }
-        if (given_.kept.empty()) return;
-        html_.Text("h3", "Further, kept as it is");
-        Kept(given_.kept);
-    }
-
-    void Kept(const std::vector<KeptValue>& kept) {
-        std::vector<Fact> facts;
-        facts.reserve(kept.size());
-        for (const KeptValue& value : kept) facts.push_back({value.name, value.json});
-        WriteFacts(html_, facts);
+        for (const ReportFacts& facts : material_.further) {
+            html_.Text("h3", facts.title);
+            WriteFacts(html_, facts.facts);
+        }
     }
 
     HtmlWriter& html_;

@@ -18,6 +18,18 @@ struct ReportPicture {
     std::string svg = {};  ///< as drawn
 };
 
+/// One of several facts that a sheet lists.
+struct ReportFact {
+    std::string name;
+    std::string value;
+};
+
+/// Facts under a heading.
+struct ReportFacts {
+    std::string title;
+    std::vector<ReportFact> facts;
+};
+
 /// A material of a report. `stored.given` points to `given`: it is neither copied nor moved.
 struct ReportMaterial {
     ReportMaterial() = default;
@@ -27,6 +39,7 @@ struct ReportMaterial {
     Material given;
     StoredMaterial stored;  ///< as a document holds it; without blocks where it could not be stored
     Findings findings;      ///< about it
+    std::vector<ReportFacts> further;  ///< what no behavior uses
     std::vector<ReportPicture> pictures;
 };
 

@@ -61,10 +61,10 @@ void WriteFindings(HtmlWriter& html, const Findings& findings) {
 
 }  // namespace
 
-void WriteFacts(HtmlWriter& html, const std::vector<Fact>& facts) {
+void WriteFacts(HtmlWriter& html, const std::vector<ReportFact>& facts) {
     if (facts.empty()) return;
     html.Open("dl");
-    for (const Fact& fact : facts) {
+    for (const ReportFact& fact : facts) {
         html.Text("dt", fact.name);
         html.Text("dd", fact.value, {{"dir", "auto"}});
     }

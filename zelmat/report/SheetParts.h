@@ -11,14 +11,8 @@
 
 namespace zelmat {
 
-/// One line of a list of facts.
-struct Fact {
-    std::string name;
-    std::string value;
-};
-
 /// Nothing where there are none.
-void WriteFacts(HtmlWriter& html, const std::vector<Fact>& facts);
+void WriteFacts(HtmlWriter& html, const std::vector<ReportFact>& facts);
 
 /// A table of a material with a heading for every column, value for value as `show --json` has it in the same
 /// units: the shortest texts that read back as exactly the same numbers.

@@ -87,6 +87,15 @@ TEST(ReportPage, ShowsFindingsWhereTheyBelong) {
                                 "<td>the density is odd (70, expected 7850)</td>\n<td>7</td>"));
 }
 
+TEST(ReportPage, ListsWhatNoBehaviorUses) {
+    ReportContent content{.title = "Sheets", .materials = {}, .layups = {}};
+    AddSteel(content, "Steel");
+    content.materials.front().further.push_back({"Strength, for information", {{"f_ck", "3e+07"}}});
+
+    EXPECT_THAT(Page(content), HasSubstr("<h3>Strength, for information</h3>\n<dl>\n<dt>f_ck</dt>\n"
+                                         "<dd dir=\"auto\">3e+07</dd>\n</dl>"));
+}
+
 TEST(ReportPage, TellsChangesSinceAStepWhereAsked) {
     ReportContent content{.title = "Sheets", .materials = {}, .layups = {}, .since = "since step 4"};
     AddSteel(content, "Steel");
