@@ -67,3 +67,10 @@ run plot samples/steel_s355.json --block plastic --output build/steel_s355_harde
 run report samples/*.json samples/layups/*.json --title "Samples" --output build/samples.html || echo "(exit code $?)"
 echo
 echo "The report of all samples: $root/build/samples.html"
+# Input for a solver, with what it has no place for, and the solver's own answers beside the formulas.
+deck=$(mktemp --suffix=.inp)
+trap 'rm -f "$converted" "$upgraded" "$deck"' EXIT
+for card in steel_s355 natural_rubber_treloar; do
+    run export "samples/$card.json" --to calculix --units mm-t-s --output "$deck"
+    run prove "samples/$card.json" --solver ccx --units mm-t-s
+done

@@ -62,4 +62,13 @@ const CarryRule* FindRule(const std::vector<CarryRule>& rules, const std::string
     return found == rules.end() ? nullptr : &*found;
 }
 
+std::vector<CarryRule> WithTheRestLost(const std::vector<CarryRule>& rules, const std::string& remark) {
+    std::vector<CarryRule> all;
+    for (const std::string& behavior : BehaviorNames()) {
+        const CarryRule* rule = FindRule(rules, behavior);
+        all.push_back(rule ? *rule : CarryRule{behavior, Carry::LOST, "", remark});
+    }
+    return all;
+}
+
 }  // namespace zelmat

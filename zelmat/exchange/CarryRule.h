@@ -36,4 +36,8 @@ std::string BehaviorOf(const Block& block);
 /// The line about a behavior; null when the table has none, which no form's table may do.
 const CarryRule* FindRule(const std::vector<CarryRule>& rules, const std::string& behavior);
 
+/// A form's whole table, in the order of BehaviorNames(): what it says, and that everything else is lost, by
+/// one remark.
+std::vector<CarryRule> WithTheRestLost(const std::vector<CarryRule>& rules, const std::string& remark);
+
 }  // namespace zelmat

@@ -6,9 +6,14 @@ namespace zelmat {
 
 // One line a form.
 DeckForm CalculixForm();
+DeckForm CodeAsterForm();
+DeckForm ElmerForm();
+DeckForm OpenRadiossForm();
+DeckForm MfrontForm();
 
 const std::vector<DeckForm>& DeckForms() {
-    static const std::vector<DeckForm> forms = {CalculixForm()};
+    static const std::vector<DeckForm> forms = {CalculixForm(), CodeAsterForm(), ElmerForm(),
+                                                OpenRadiossForm(), MfrontForm()};
     return forms;
 }
 

@@ -201,7 +201,7 @@ private:
         findings_.Add({FindingKind::ERROR,
                        {file, 0},
                        "nothing-carried",
-                       "a " + form_.title + " deck can hold nothing of " + QuotedText(name),
+                       "a deck of " + form_.title + " can hold nothing of " + QuotedText(name),
                        {"no deck is written"}});
     }
 

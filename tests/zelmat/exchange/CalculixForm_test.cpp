@@ -213,7 +213,7 @@ TEST(CalculixForm, WritesNoDeckWhenAMaterialHasNothingForIt) {
     EXPECT_THAT(deck.files, IsEmpty());
     EXPECT_TRUE(deck.errors);
     EXPECT_THAT(deck.findings,
-                Contains("error[nothing-carried]: a CalculiX deck can hold nothing of 'Stuff' (no deck "
+                Contains("error[nothing-carried]: a deck of CalculiX can hold nothing of 'Stuff' (no deck "
                          "is written)"));
 }
 

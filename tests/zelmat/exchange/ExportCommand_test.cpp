@@ -71,7 +71,7 @@ TEST_F(ExportCommand, WritesNothingWhenNothingIsCarried) {
     const ProgramRun run = RunZelmat({"export", card, "--to", "calculix", "--output", deck});
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_THAT(run.err, HasSubstr("error[nothing-carried]: a CalculiX deck can hold nothing of 'Gap'"));
+    EXPECT_THAT(run.err, HasSubstr("error[nothing-carried]: a deck of CalculiX can hold nothing of 'Gap'"));
     EXPECT_FALSE(std::filesystem::exists(deck));
 }
 
