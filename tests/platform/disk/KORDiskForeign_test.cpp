@@ -151,6 +151,18 @@ TEST_F(KORDiskForeignTest, AFolderAndNothingAreRefused) {
     EXPECT_THAT(error.Text(), HasSubstr("No such file"));
 }
 
+TEST_F(KORDiskForeignTest, APathThatIsTooLongForSqliteIsToldAndNothingIsMade) {
+    std::string folder = "f";
+    for (int depth = 0; depth < 4; ++depth) folder += "/" + std::string(150, 'f');
+    std::filesystem::create_directories(Path(folder));
+    KORFileError error;
+
+    EXPECT_EQ(nullptr, KORDiskDocument::Create(*platform, Path(folder + "/d.zeldoc"), error));
+
+    EXPECT_THAT(error.Text(), HasSubstr("d.zeldoc: cannot be opened"));
+    EXPECT_FALSE(std::filesystem::exists(Path(folder + "/d.zeldoc")));
+}
+
 TEST_F(KORDiskForeignTest, ARowThatMakesNoSenseIsRefusedAndNamed) {
     const std::pair<const char*, const char*> cases[] = {
         {"DELETE FROM document", "it has no counters"},
