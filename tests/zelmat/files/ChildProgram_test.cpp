@@ -1,0 +1,97 @@
+#include "zelmat/files/ChildProgram.h"
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+
+namespace {
+
+using zelmat::ChildProgram;
+using zelmat::Findings;
+using zelmat::RunChild;
+using zelmat::ScratchFolder;
+
+ChildProgram Shell(const std::string& script) {
+    return {.name = "sh", .arguments = {"-c", script}, .needed = "a test", .package = "dash"};
+}
+
+TEST(ChildProgram, RunsInTheFolderWithItsArgumentsAsTheyAre) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+    const ChildProgram program{
+        .name = "sh",
+        .arguments = {"-c", "printf '%s' \"$1\" > got", "sh", "`id` $(id) 'a' \"b\" *"},
+        .needed = "a test",
+        .package = "dash"};
+
+    EXPECT_TRUE(RunChild(program, folder, findings));
+
+    EXPECT_EQ(folder.Read("got", 100), "`id` $(id) 'a' \"b\" *");
+    EXPECT_TRUE(findings.All().empty());
+}
+
+TEST(ChildProgram, SaysHowItEndedAndWhatItSaid) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+
+    EXPECT_FALSE(RunChild(Shell("echo broken >&2; exit 4"), folder, findings));
+
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(FindingLine(findings.All()[0]), "sh: error[program-failed]: the program ended with 4 (broken)");
+}
+
+TEST(ChildProgram, IsNotReadFromTheTerminal) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+
+    EXPECT_TRUE(RunChild(Shell("! read line"), folder, findings)) << "nothing is on its standard input";
+}
+
+TEST(ChildProgram, IsKilledWhenThisProgramIsToEnd) {
+    Findings findings;
+    {
+        const ScratchFolder folder(findings);
+        ::kill(::getpid(), SIGTERM);  // waits: the folder holds it back
+
+        EXPECT_FALSE(RunChild(Shell("sleep 100"), folder, findings));
+
+        // Taken here, or it would end the test with the folder.
+        sigset_t taken;
+        sigemptyset(&taken);
+        sigaddset(&taken, SIGTERM);
+        int signal = 0;
+        sigwait(&taken, &signal);
+        EXPECT_EQ(signal, SIGTERM);
+    }
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(FindingLine(findings.All()[0]),
+              "sh: error[program-failed]: the program was ended by signal 9 (Killed)");
+}
+
+TEST(ScratchFolder, GoesWithAllThatIsInIt) {
+    Findings findings;
+    std::string path;
+    {
+        const ScratchFolder folder(findings);
+        path = folder.Path();
+        ASSERT_TRUE(folder.Write("a", "text", findings));
+        EXPECT_EQ(folder.Read("a", 2), "te");
+        EXPECT_EQ(folder.Read("none", 2), "");
+        std::filesystem::create_directory(path + "/b");
+    }
+    EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(ScratchFolder, SaysThatAFileCannotBeWritten) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+
+    EXPECT_FALSE(folder.Write("no/such/folder", "text", findings));
+
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(findings.All()[0].code, "not-written");
+}
+
+}  // namespace
