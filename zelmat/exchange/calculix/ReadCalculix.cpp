@@ -23,6 +23,9 @@ using NumberRows = std::vector<DeckNumbers>;
 /// Where hardening is for every temperature, and its table has the column all the same.
 constexpr double kRoomTemperature = 293.15;
 
+/// Decks have some dozens of different keywords; a file of other bytes may have any number.
+constexpr std::size_t kMostSkipped = 200;
+
 /// Words behind a material card that change what its columns are.
 bool IsIsotropic(const DeckKeyword& card) {
     const std::string* type = card.Find("TYPE");
@@ -114,8 +117,9 @@ private:
             Lost(card, "a material has no place for it");
         } else if (card.keyword == "*INCLUDE") {
             Warn(card, "not-included", "*INCLUDE is not followed: import that file by itself");
-        } else if (auto& [line, count] = skipped_[card.keyword]; count++ == 0) {
-            line = card.line;
+        } else if (skipped_.size() < kMostSkipped || skipped_.count(card.keyword) > 0) {
+            auto& [line, count] = skipped_[card.keyword];
+            if (count++ == 0) line = card.line;
         }
     }
 
