@@ -31,6 +31,7 @@ struct CommandContext {
     const UnitChoice& units;  ///< of the numbers shown, as options and configuration choose them
     Findings& findings;
     std::ostream& notes;  ///< standard error, for what is neither result nor finding
+    std::string commandLine = {};  ///< as it was given, for a shell
 };
 
 /// One run of a command. The frame declares its options, has it work, prints what it made, as text or as

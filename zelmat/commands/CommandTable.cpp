@@ -14,6 +14,11 @@ namespace zelmat {
     COMMAND(Import)              \
     COMMAND(Prove)               \
     COMMAND(New)                 \
+    COMMAND(Add)                 \
+    COMMAND(List)                \
+    COMMAND(Undo)                \
+    COMMAND(Redo)                \
+    COMMAND(Log)                 \
     COMMAND(Upgrade)             \
     COMMAND(Layup)               \
     COMMAND(At)                  \

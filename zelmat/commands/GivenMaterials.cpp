@@ -6,8 +6,8 @@
 
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/MaterialChoice.h"
-#include "zelmat/commands/TextDocumentMaterials.h"
 #include "zelmat/commands/WrongForm.h"
+#include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/WordList.h"
@@ -30,14 +30,27 @@ std::vector<std::string> NamesOf(const std::vector<Material>& materials) {
 
 }  // namespace
 
-std::vector<Material> ReadGivenMaterials(const std::string& path, const CommonOptions& options,
-                                         Findings& findings, const CardReading& how) {
+GivenFile OpenGiven(const std::string& path, const CommonOptions& options, Findings& findings) {
+    if (IsDocumentFile(path)) {
+        return {DocumentToRead::Open(path, options.catalogs, findings), std::nullopt};
+    }
     auto text = ReadText(path, findings);
-    if (!text) return {};
-    if (IsTextDocument(*text)) return ReadTextDocument(*text, ShownPath(path), options.catalogs, findings);
-    auto cards = ReadCardText(std::move(*text), ShownPath(path), findings, how);
+    if (!text || !IsTextDocument(*text)) return {nullptr, std::move(text)};
+    return {DocumentToRead::OpenText(*text, ShownPath(path), options.catalogs, findings), std::nullopt};
+}
+
+std::vector<Material> CardsOfText(std::string text, const std::string& path, Findings& findings,
+                                  const CardReading& how) {
+    auto cards = ReadCardText(std::move(text), ShownPath(path), findings, how);
     if (IsDoubtful(cards) && NameRightCommand(path, FileForm::MATERIAL_CARD, findings)) return {};
     return cards;
+}
+
+std::vector<Material> ReadGivenMaterials(const std::string& path, const CommonOptions& options,
+                                         Findings& findings, const CardReading& how) {
+    GivenFile given = OpenGiven(path, options, findings);
+    if (given.document) return given.document->Materials(findings);
+    return given.text ? CardsOfText(std::move(*given.text), path, findings, how) : std::vector<Material>();
 }
 
 void GivenMaterials::Declare(CLI::App& line) {
@@ -47,13 +60,17 @@ void GivenMaterials::Declare(CLI::App& line) {
     DeclareCardReading(line, how_);
 }
 
-std::vector<Material> GivenMaterials::ReadAll(CommandContext& context) const {
-    auto materials = ReadGivenMaterials(path_, context.options, context.findings, how_);
-    if (material_.empty() || context.findings.HasErrors()) return materials;
-    const auto chosen = ChooseMaterial(NamesOf(materials), material_, ShownPath(path_), context.findings);
+std::vector<Material> GivenMaterials::Chosen(std::vector<Material> materials, Findings& findings) const {
+    const auto chosen = ChooseMaterial(NamesOf(materials), material_, ShownPath(path_), findings);
     std::vector<Material> one;
     if (chosen) one.push_back(std::move(materials[*chosen]));
     return one;
+}
+
+std::vector<Material> GivenMaterials::ReadAll(CommandContext& context) const {
+    auto materials = ReadGivenMaterials(path_, context.options, context.findings, how_);
+    if (material_.empty() || context.findings.HasErrors()) return materials;
+    return Chosen(std::move(materials), context.findings);
 }
 
 std::optional<Material> GivenMaterials::ReadOne(CommandContext& context) const {

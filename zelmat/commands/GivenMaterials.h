@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
@@ -7,9 +8,22 @@
 
 #include "zelmat/cards/ReadCard.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/materials/Material.h"
 
 namespace zelmat {
+
+/// A file that a command was given, opened as what it is: a document, or else the text of a card. Neither,
+/// and findings, when it cannot be read.
+struct GivenFile {
+    std::unique_ptr<DocumentToRead> document;
+    std::optional<std::string> text;
+};
+GivenFile OpenGiven(const std::string& path, const CommonOptions& options, Findings& findings);
+
+/// The materials of a card's text; a finding, and none, when it is a card of another kind.
+std::vector<Material> CardsOfText(std::string text, const std::string& path, Findings& findings,
+                                  const CardReading& how = {});
 
 /// The materials in what a command was given: a card in any of its forms, a document, or "-" for a card or a
 /// document in its text form on standard input; told by the content. Of a card they are as the card gives
@@ -33,6 +47,12 @@ public:
     }
 
     const std::string& Path() const { return path_; }
+    const std::string& Wanted() const { return material_; }  ///< MATERIAL; empty: not said
+
+    const CardReading& How() const { return how_; }
+
+    /// The one of these that MATERIAL names; none, and a finding, when it is none alone.
+    std::vector<Material> Chosen(std::vector<Material> materials, Findings& findings) const;
 
     /// For a command whose line ends with an argument of its own: with MATERIAL left out, the parser has
     /// taken that argument for MATERIAL. Gives it back.

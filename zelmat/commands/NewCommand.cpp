@@ -4,56 +4,75 @@
 #include "zelmat/cards/CardSchema.h"
 #include "zelmat/cards/CardTemplate.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/HistoryOrigin.h"
 #include "zelmat/commands/WrittenReport.h"
+#include "zelmat/documents/DocumentToChange.h"
 #include "zelmat/files/JsonText.h"
 #include "zelmat/files/OutputFile.h"
+#include "zelmat/text/Printable.h"
 
 namespace zelmat {
 
 namespace {
 
-/// Writes a card to fill in, or the schema that all cards follow.
+/// Makes an empty document; or writes a card to fill in, or the schema that all cards follow.
 class New final : public Command {
 public:
     void Declare(CLI::App& line) override {
+        line.add_option("DOC", document_, "Path of a document to make");
         auto* card = line.add_option("--card", name_, "Name of the material; a card for it is written");
         line.add_flag("--schema", schema_, "Write the JSON Schema of cards instead")->excludes(card);
     }
 
     void Work(CommandContext& context) override {
-        if (!schema_ && name_.empty()) {
+        const bool card = schema_ || !name_.empty();
+        if (card == !document_.empty()) {
             context.findings.Add({FindingKind::USAGE,
                                   {"zelmat new", 0},
                                   "usage",
-                                  "--card is required, with a name",
+                                  "expected the path of a document, or --card with a name",
                                   {"see zelmat help new"}});
-            shown_ = false;
-            return;
+        } else if (card) {
+            MakeCard(context);
+        } else {
+            MakeDocument(context);
         }
-        card_ = schema_ ? CardSchema() : CardTemplate(name_);
-        const std::string& output = context.options.output;
-        if (output.empty()) return;
-        written_ = WriteOutputFile(output, JsonText(card_), {output}, context.findings);
-        shown_ = false;
     }
 
     void Print(std::ostream& out) const override {
         if (shown_) out << JsonText(card_);
         if (written_) PrintWritten(out, "written", *written_);
+        if (!made_.empty()) out << "made: " << Printable(made_) << '\n';
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{schema_ ? "schema" : "card", card_}, {"written", nullptr}};
         if (written_) AddWritten(json, "written", *written_);
+        if (!made_.empty()) json["written"] = made_;
         return json;
     }
 
 private:
+    void MakeDocument(CommandContext& context) {
+        const auto document = DocumentToChange::Create(document_, context.options.catalogs, context.findings);
+        if (document && document->Save(OriginOf(context), context.findings)) made_ = document_;
+    }
+
+    void MakeCard(CommandContext& context) {
+        card_ = schema_ ? CardSchema() : CardTemplate(name_);
+        const std::string& output = context.options.output;
+        shown_ = output.empty();
+        if (shown_) return;
+        written_ = WriteOutputFile(output, JsonText(card_), {output}, context.findings);
+    }
+
+    std::string document_;  // path; empty: a card is wanted
     std::string name_;
     bool schema_ = false;
     nlohmann::ordered_json card_;
     std::optional<WrittenFile> written_;
-    bool shown_ = true;
+    bool shown_ = false;
+    std::string made_;  // path of the document, once it is
 };
 
 }  // namespace
@@ -61,9 +80,11 @@ private:
 CommandKind NewCommand() {
     return {
         .name = "new",
-        .brief = "write a material card to fill in",
+        .brief = "make an empty document, or a material card to fill in",
         .text =
-            "Write a material card to fill in: null in the place of each number, and beside each block a\n"
+            "Make an empty document in a file that is not there yet.\n"
+            "With --card, write a material card to fill in: null in the place of each number, and beside "
+            "each block a\n"
             "key \"//\" that explains it. --schema writes the JSON Schema of cards. A file that is there\n"
             "already stays beside it as FILE.bak.",
         .output = "File for the card or the schema; without it, standard output",

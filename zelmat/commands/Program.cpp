@@ -16,6 +16,7 @@
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/Terminal.h"
 #include "zelmat/text/Printable.h"
+#include "zelmat/text/ShellWord.h"
 
 namespace zelmat {
 
@@ -75,6 +76,8 @@ ExitCode EndWithMistake(const CommandKind* command, const Finding& mistake, bool
 ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     const auto command = kind.make();
     const bool json = WantsJson(arguments);
+    std::string text = "zelmat " + kind.name;
+    for (const std::string& argument : arguments) text += " " + ShellWord(argument);
     const CommandLine line = ReadCommandLine(kind, *command, std::move(arguments));
     if (line.mistake) return EndWithMistake(&kind, *line.mistake, json);
     if (line.help) {
@@ -83,7 +86,7 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     }
     Findings findings;
     if (const auto units = kind.units ? ChosenUnits(line.options, findings) : UnitChoice::Si()) {
-        CommandContext context{line.options, *units, findings, std::cerr};
+        CommandContext context{line.options, *units, findings, std::cerr, std::move(text)};
         command->Work(context);
     }
     // Standard output belongs to the file that the command makes, when that goes there.

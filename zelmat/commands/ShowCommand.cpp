@@ -1,91 +1,150 @@
 #include <CLI/CLI.hpp>
+#include <deque>
 #include <optional>
+#include <utility>
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/commands/CallTrace.h"
-#include "zelmat/commands/CardInput.h"
+#include "zelmat/commands/ChangeReport.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/CsvReport.h"
+#include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/ShowReport.h"
 #include "zelmat/commands/WriteGate.h"
+#include "zelmat/materials/MaterialHost.h"
 
 namespace zelmat {
 
 namespace {
 
-/// Reads a card, writes it into a document in memory, reads it back from there and prints what the document
-/// holds. Keeps nothing on disk.
+/// A material as it was given, and what a document holds of it.
+struct ShownMaterial {
+    Material given;
+    StoredMaterial stored = {};
+};
+
+/// Prints what a document holds of a material. A card is written into a document in memory and read back
+/// from there. Nothing is kept on disk.
 class Show final : public Command {
 public:
     void Declare(CLI::App& line) override {
-        line.add_option("CARD.json", path_, "Material card, a JSON file")->required();
+        what_.Declare(line);
         auto* model = line.add_option("--model", fit_.model, "Hyperelastic fit of this model: OGDEN, ...");
         auto* variant =
             line.add_option("--variant", fit_.variant, "Hyperelastic fit with this text in its variant");
-        line.add_flag("--all-models", allFits_, "Store and show each hyperelastic fit in turn")
+        line.add_flag("--all-models", allFits_, "Store and show each hyperelastic fit of a card in turn")
             ->excludes(model)
             ->excludes(variant);
-        DeclareCardReading(line, how_);
         gate_.Declare(line);
         line.add_flag("--trace", trace_, "Print each call of a material interface on standard error");
     }
 
     void Work(CommandContext& context) override {
-        Findings& findings = context.findings;
         units_ = context.units;
         csv_ = context.options.csv;
         std::optional<CallTrace> calls;
         if (trace_) calls.emplace(context.notes);
-
-        card_ = ReadGivenCard(path_, findings, how_);
-        if (!card_) return;
-        const auto fits = FitsToShow(findings);
-        material_ = StoredMaterial{.given = &*card_};
-        if (findings.HasErrors() || !gate_.Passes(*card_, findings)) return;
-        Findings answers;  // apart from what the checks said
-        MaterialHost host(context.options.catalogs);
-        material_ = StoreMaterial(host, *card_, fits, answers);
-        stored_ = !answers.HasErrors();
-        findings.Add(answers);
+        GivenFile file = OpenGiven(what_.Path(), context.options, context.findings);
+        if (file.document) {
+            ShowDocument(*file.document, context.findings);
+        } else if (file.text) {
+            ShowCards(std::move(*file.text), context);
+        }
     }
 
     void Print(std::ostream& out) const override {
         if (!stored_) return;
-        if (csv_) {
-            PrintTablesAsCsv(out, *material_, units_);
-        } else {
-            PrintMaterial(out, *material_, units_);
+        const char* gap = "";
+        for (const ShownMaterial& material : materials_) {
+            out << std::exchange(gap, "\n");
+            if (csv_) {
+                PrintTablesAsCsv(out, material.stored, units_);
+            } else {
+                PrintMaterial(out, material.stored, units_);
+            }
         }
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"material", nullptr}};
-        if (material_) json["material"] = ToJson(*material_, units_);
+        if (materials_.size() == 1) json["material"] = ToJson(materials_.front().stored, units_);
+        if (materials_.size() < 2) return json;
+        for (const ShownMaterial& material : materials_) {
+            json["materials"].push_back(ToJson(material.stored, units_));
+        }
         return json;
     }
 
 private:
-    std::vector<const Block*> FitsToShow(Findings& findings) const {
+    void ShowCards(std::string text, CommandContext& context) {
+        Findings& findings = context.findings;
+        auto cards = CardsOfText(std::move(text), what_.Path(), findings, what_.How());
+        if (findings.HasErrors()) return;
+        if (!what_.Wanted().empty()) cards = what_.Chosen(std::move(cards), findings);
+        MaterialHost host(context.options.catalogs);
+        stored_ = !cards.empty();
+        for (Material& card : cards) ShowCard(host, std::move(card), findings);
+    }
+
+    void ShowCard(MaterialHost& host, Material card, Findings& findings) {
+        ShownMaterial& shown = materials_.emplace_back(ShownMaterial{std::move(card)});
+        shown.stored.given = &shown.given;
+        Findings own;
+        const auto fits = FitsToShow(shown.given, own);
+        const bool passes = !own.HasErrors() && gate_.Passes(shown.given, own);
+        Findings answers;  // apart from what the checks said
+        if (passes) shown.stored = StoreMaterial(host, shown.given, fits, answers);
+        if (!passes || answers.HasErrors()) stored_ = false;
+        findings.Add(own);
+        findings.Add(answers);
+    }
+
+    void ShowDocument(DocumentToRead& document, Findings& findings) {
+        if (fit_.IsMade() || allFits_) {
+            findings.Add({FindingKind::USAGE,
+                          {document.Name(), 0},
+                          "only-for-cards",
+                          "a document holds one hyperelastic fit, which is the one that is shown",
+                          {}});
+            return;
+        }
+        auto materials = MaterialsOf(document.Document());
+        if (!what_.Wanted().empty()) {
+            const auto chosen =
+                ChosenMaterial(document.Document(), what_.Wanted(), document.Name(), findings);
+            materials = chosen ? std::vector{*chosen} : std::vector<DocumentMaterial>();
+        }
+        Findings own;
+        for (const DocumentMaterial& material : materials) ShowHeld(document, material, own);
+        findings.Add(own);
+        stored_ = !own.HasErrors();
+    }
+
+    void ShowHeld(DocumentToRead& document, const DocumentMaterial& material, Findings& findings) {
+        Material held = ReadHeldMaterial(material, document.Name(), findings);
+        ShownMaterial& shown = materials_.emplace_back(ShownMaterial{InShapeOfACard(material, held)});
+        shown.stored = HeldMaterial(shown.given, std::move(held), FeaturesOf(material));
+    }
+
+    std::vector<const Block*> FitsToShow(const Material& card, Findings& findings) const {
         std::vector<const Block*> fits;
         if (allFits_) {
-            for (const Block& fit : card_->fits) fits.push_back(&fit);
-        } else if (const Block* fit = ChooseFit(*card_, fit_, findings)) {
+            for (const Block& fit : card.fits) fits.push_back(&fit);
+        } else if (const Block* fit = ChooseFit(card, fit_, findings)) {
             fits.push_back(fit);
         }
         return fits;
     }
 
-    std::string path_;
-    CardReading how_;
+    GivenMaterials what_;
     FitChoice fit_;         // of several hyperelastic fits
     bool allFits_ = false;  // show each in turn
     WriteGate gate_;
     bool trace_ = false;
     UnitChoice units_ = UnitChoice::Si();
     bool csv_ = false;
-    std::optional<Material> card_;
-    std::optional<StoredMaterial> material_;
+    std::deque<ShownMaterial> materials_;  // does not move its elements, which refer to themselves
     bool stored_ = false;
 };
 
@@ -94,12 +153,12 @@ private:
 CommandKind ShowCommand() {
     return {
         .name = "show",
-        .brief = "print the properties on a material card as a document holds them",
+        .brief = "print the properties of a material as a document holds them",
         .text =
-            "Print the properties on a material card as a document holds them.\n"
-            "The card is checked, written into a document in memory, read back from there and\n"
-            "printed behavior by behavior, each number with its unit. Nothing is kept on disk. A material\n"
-            "holds one hyperelastic fit: the one that is asked for, else the card's first. A card on\n"
+            "Print the properties of a material as a document holds them, behavior by behavior, each number\n"
+            "with its unit; of all materials where none is named. A card is checked, written into a\n"
+            "document in memory and read back from there. Nothing is kept on disk. A material holds one "
+            "hyperelastic fit: the one that is asked for, else the card's first. A card on\n"
             "which the checks find errors is not shown without --keep-going.",
         .units = true,
         .csv = true,

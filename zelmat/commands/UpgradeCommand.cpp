@@ -9,7 +9,6 @@
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/UnreadableFile.h"
-#include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/materials/HostPlatform.h"
 
 namespace zelmat {
@@ -81,10 +80,7 @@ public:
         }
         KORUnitsService& units = host.Document().Platform().Units();
         if (!TakePressureUnit(units, pressureUnit_, document_, findings)) return;
-        {
-            const DiagnosticLines diagnostics(findings, document_, "upgrade");
-            report_ = UpgradeMaterials(host.Document(), document_, findings);
-        }
+        report_ = UpgradeMaterials(host.Document(), document_, findings);
         ReportUpgrade(*report_, document_, findings);
         const std::string& output = context.options.output;
         const bool wanted = !output.empty() && !report_->run.refused;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "ZELMaterialModel/include/ZELMaterial.h"
 #include "zelmat/materials/StatusText.h"
 #include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/text/Printable.h"
@@ -12,9 +11,6 @@
 namespace zelmat {
 
 namespace {
-
-constexpr const char* kMaterialType = "ZELMaterialLT";
-constexpr const char* kPressure = "PRESSURE";
 
 /// A feature as the report names it: late type and number.
 std::string FeatureText(const UpgradeReport& report, std::uint32_t number) {
@@ -113,43 +109,6 @@ void PrintMaterial(std::ostream& out, const UpgradeReport& report, const KORUpgr
 }
 
 }  // namespace
-
-UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& file, Findings& findings) {
-    UpgradeReport report;
-    document.ForEachFeature(nullptr, [&](const KORFeature& feature) {
-        report.lastBefore = std::max(report.lastBefore, feature.Number());
-    });
-    KORUnitsService& units = document.Platform().Units();
-    CoefficientWatch watch(units, file, findings);
-    report.run = KORRunUpgrade(document, kMaterialType, ZELMaterial::GetApplicativeSpecName(), &watch);
-    if (report.run.refused) return report;
-    units.SetCurrentUnit(kPressure, KORFindUnitType(kPressure)->units.front().symbol);
-    report.converted = watch.Converted();
-    document.ForEachFeature(nullptr, [&](const KORFeature& feature) {
-        report.lateTypes.emplace(feature.Number(), feature.Layout().NameText().c_str());
-    });
-    return report;
-}
-
-void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings) {
-    for (const KORUpgradedFeature& material : report.run.upgraded) {
-        const std::string name = material.name.c_str();
-        if (FAILED(material.status)) {
-            findings.Add({FindingKind::ERROR,
-                          {file, 0},
-                          "upgrade-failed",
-                          "the upgrade of " + name + " failed",
-                          {StatusText(material.status), "what it did before stays done"}});
-        }
-        if (material.stillNeeded) {
-            findings.Add({FindingKind::WARNING,
-                          {file, 0},
-                          "upgrade-needed",
-                          name + " still needs an upgrade",
-                          {"run it again once the cause is away"}});
-        }
-    }
-}
 
 void PrintUpgrade(std::ostream& out, const UpgradeReport& report) {
     out << "materials: " << report.run.asked << ", upgraded: " << report.run.upgraded.size() << '\n';

@@ -2,32 +2,10 @@
 
 #include <nlohmann/json.hpp>
 #include <ostream>
-#include <string>
-#include <unordered_map>
 
-#include "platform/document/KORUpgradeRun.h"
-#include "zelmat/findings/Findings.h"
-#include "zelmat/materials/CoefficientWatch.h"
+#include "zelmat/documents/UpgradeMaterials.h"
 
 namespace zelmat {
-
-/// What an upgrade run did to a document, ready to be told.
-struct UpgradeReport {
-    KORUpgradeReport run;
-    std::uint32_t lastBefore = 0;  ///< the highest feature number there was before the run
-    /// Late types by feature number, of the features that lie in the document after the run.
-    std::unordered_map<std::uint32_t, std::string> lateTypes = {};
-    /// What the conversion of units did, by the number of the material that was upgraded.
-    std::map<std::uint32_t, ConvertedCoefficients> converted = {};
-};
-
-/// Runs the upgrade of the document's materials, unless it would have to guess: then the run is refused, and
-/// `findings` say why. Otherwise the platform's unit of pressure is the stored one afterwards, as all
-/// coefficients are in it. `file` is what findings call the document.
-UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& file, Findings& findings);
-
-/// A finding for each material whose upgrade failed or that needs one still.
-void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings);
 
 void PrintUpgrade(std::ostream& out, const UpgradeReport& report);
 nlohmann::ordered_json ToJson(const UpgradeReport& report);

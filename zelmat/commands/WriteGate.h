@@ -21,6 +21,8 @@ public:
     /// The same of a layup, without what its own validity is to say.
     bool Passes(const LayupCard& layup, Findings& findings) const;
 
+    bool KeepsGoing() const { return keepGoing_; }
+
 private:
     bool keepGoing_ = false;
 };

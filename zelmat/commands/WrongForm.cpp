@@ -17,7 +17,7 @@ struct KnownForm {
 };
 
 constexpr std::array<KnownForm, 2> kTold = {{
-    {FileForm::DOCUMENT, "a document", "zelmat upgrade", {"format", "features"}},
+    {FileForm::DOCUMENT, "a document", "zelmat list", {"format", "features"}},
     {FileForm::LAYUP_CARD, "a layup card", "zelmat layup", {"layers", nullptr}},
 }};
 constexpr KnownForm kMaterialCard = {

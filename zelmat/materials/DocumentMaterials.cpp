@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "interfaces/KORIAlias.h"
+#include "interfaces/KORICutAndPastable.h"
 #include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/materials/AnalysisData.h"
 #include "zelmat/materials/CardExtras.h"
@@ -44,11 +45,15 @@ std::vector<DocumentMaterial> MaterialsOf(KORMemoryDocument& document) {
     return materials;
 }
 
-Material ReadDocumentMaterial(const DocumentMaterial& material, const std::string& file, Findings& findings) {
+Material ReadHeldMaterial(const DocumentMaterial& material, const std::string& file, Findings& findings) {
     Findings own;
     Material read = ReadFeature(material, file, own);
     // The module says what an older material lacks; what lacks nothing that it needs was read all the same.
     if (own.HasErrors()) findings.Add(own);
+    return read;
+}
+
+Material InShapeOfACard(const DocumentMaterial& material, Material read) {
     for (Block& block : std::exchange(read.blocks, {})) {
         if (!block.enabled) continue;
         auto& list = block.kind->alternatives ? read.fits : read.blocks;
@@ -56,6 +61,19 @@ Material ReadDocumentMaterial(const DocumentMaterial& material, const std::strin
     }
     AddCardExtras(material.feature.Get(), read);
     return read;
+}
+
+Material ReadDocumentMaterial(const DocumentMaterial& material, const std::string& file, Findings& findings) {
+    return InShapeOfACard(material, ReadHeldMaterial(material, file, findings));
+}
+
+std::size_t FeaturesOf(const DocumentMaterial& material) {
+    KORListValKORISpecObject_var one;
+    KORListValKORISpecObject_var all;
+    one.Append(material.feature);
+    const auto container =
+        KORICutAndPastable_var(KORBaseUnknown_var::Adopt(material.feature->GetFeatContainer()));
+    return container && SUCCEEDED(container->Extract(one, all)) ? static_cast<std::size_t>(all.Size()) : 1;
 }
 
 }  // namespace zelmat

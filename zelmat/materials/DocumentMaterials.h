@@ -26,4 +26,14 @@ std::vector<DocumentMaterial> MaterialsOf(KORMemoryDocument& document);
 /// can create features in the document and upgrade it.
 Material ReadDocumentMaterial(const DocumentMaterial& material, const std::string& file, Findings& findings);
 
+/// The same from what ReadMaterial answered of it.
+Material InShapeOfACard(const DocumentMaterial& material, Material read);
+
+/// What ReadMaterial answers of it; a material of the platform without analysis data has nothing but its
+/// name.
+Material ReadHeldMaterial(const DocumentMaterial& material, const std::string& file, Findings& findings);
+
+/// How many features the material consists of: itself, its analysis data, what else hangs on it.
+std::size_t FeaturesOf(const DocumentMaterial& material);
+
 }  // namespace zelmat

@@ -16,6 +16,7 @@ public:
     HostPlatform(const HostPlatform&) = delete;
     HostPlatform& operator=(const HostPlatform&) = delete;
 
+    KORPlatform& Platform() { return platform_; }
     KORMemoryDocument& Document() { return *document_; }
     std::string CatalogPath() const;  ///< of the module's catalog
 

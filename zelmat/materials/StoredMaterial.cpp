@@ -56,6 +56,16 @@ std::vector<std::string> StoredMaterial::Names(bool switchedOn) const {
     return names;
 }
 
+StoredMaterial HeldMaterial(const Material& given, Material held, std::size_t features) {
+    StoredMaterial stored{.given = &given, .heatGeneration = held.heatGeneration, .features = features};
+    for (Block& block : held.blocks) {
+        const bool fit = block.kind->alternatives && block.enabled && !given.fits.empty();
+        const Block* as = fit ? &given.fits.front() : given.Find(block.kind->name);
+        stored.blocks.push_back({std::move(block), as});
+    }
+    return stored;
+}
+
 StoredMaterial StoreMaterial(MaterialHost& host, const Material& material, const Given& fits,
                              Findings& findings) {
     const std::size_t before = host.FeatureCount();

@@ -26,6 +26,10 @@ struct StoredMaterial {
     std::vector<std::string> Names(bool switchedOn) const;  ///< of the behaviors that are on, or off
 };
 
+/// What a document holds of a material that is there: `held` is what ReadMaterial answers, and `given` the
+/// same in the shape of a card, which outlives the answer.
+StoredMaterial HeldMaterial(const Material& given, Material held, std::size_t features);
+
 /// Makes a material in the host's document, gives it the data and reads everything back from there. Between
 /// the two no reference is held, so that reading starts from the document alone. With several fits each takes
 /// the place of the one before and is read back in turn.

@@ -118,6 +118,18 @@ def runs(folder):
     yield ["catalog"]
     yield ["catalog", "MRVHyperelasticityLT"]
     yield ["catalog", "OtherLT"]
+    document = pathlib.Path(folder) / "a.zeldoc"
+    yield ["new", document]
+    yield ["new", document]
+    yield ["add", document, *cards]
+    yield ["add", document, cards[0]]
+    yield ["list", document]
+    yield ["show", document]
+    yield ["show", document, "OFHC"]
+    yield ["log", document]
+    yield ["undo", document]
+    yield ["redo", document, "2"]
+    yield ["redo", document]
     yield ["no-such-command"]
     yield ["help", "no-such-command"]
 

@@ -1,0 +1,147 @@
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/zelmat/support/DocumentFolder.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// A document of three steps that add one material each.
+class UndoCommand : public DocumentFolder {
+protected:
+    UndoCommand() {
+        for (const char* name : {"A", "B", "C"}) {
+            Run({"add", document_, File(name, R"({"name": ")" + std::string(name) + "\"}")});
+        }
+    }
+
+    const std::string document_ = NewDocument();
+};
+
+TEST_F(UndoCommand, TakesBackTheLastStepAndRedoMakesItAgain) {
+    EXPECT_EQ(Run({"undo", document_}), "undone: step 3: Add C\n");
+    EXPECT_THAT(Names(document_), ElementsAre("A", "B"));
+    EXPECT_EQ(Run({"redo", document_}), "redone: step 3: Add C\n");
+    EXPECT_THAT(Names(document_), ElementsAre("A", "B", "C"));
+}
+
+TEST_F(UndoCommand, TakesBackSeveralStepsTheLastFirst) {
+    EXPECT_EQ(Run({"undo", document_, "2"}), "undone: step 3: Add C\nundone: step 2: Add B\n");
+    EXPECT_THAT(Names(document_), ElementsAre("A"));
+    EXPECT_EQ(Run({"redo", document_, "2"}), "redone: step 2: Add B\nredone: step 3: Add C\n");
+}
+
+TEST_F(UndoCommand, GoesAsFarAsItCanAndSaysSo) {
+    const ProgramRun run = RunZelmat({"undo", document_, "5"});
+
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.err,
+                HasSubstr("note[fewer-steps]: there were no more steps to undo (5 asked for, 3 undone)"));
+    EXPECT_THAT(Names(document_), IsEmpty());
+}
+
+TEST_F(UndoCommand, EndsWithOneWhenThereIsNothing) {
+    EXPECT_EQ(Refusal(1, {"redo", document_}),
+              "a.zeldoc: error[nothing-to-redo]: there is nothing to redo\n");
+    Run({"undo", document_, "3"});
+    const std::string before = Contents(document_);
+    EXPECT_EQ(Refusal(1, {"undo", document_}),
+              "a.zeldoc: error[nothing-to-undo]: there is nothing to undo\n");
+    EXPECT_EQ(Contents(document_), before);
+}
+
+TEST_F(UndoCommand, WantsANumberFromOneOn) {
+    EXPECT_THAT(Refusal(2, {"undo", document_, "0"}), HasSubstr("error[usage]"));
+    EXPECT_THAT(Refusal(2, {"undo", document_, "x"}), HasSubstr("error[usage]"));
+}
+
+TEST_F(UndoCommand, IsForgottenForRedoByANewStep) {
+    Run({"undo", document_});
+    Run({"add", document_, File("D", R"({"name": "D"})")});
+
+    EXPECT_THAT(Refusal(1, {"redo", document_}), HasSubstr("nothing-to-redo"));
+    EXPECT_THAT(Names(document_), ElementsAre("A", "B", "D"));
+}
+
+TEST_F(UndoCommand, TellsItsStepsAsJson) {
+    const auto json = nlohmann::json::parse(Run({"undo", document_, "--json"}));
+
+    EXPECT_EQ(json.at("undone").at(0).at("number"), 3);
+    EXPECT_EQ(json.at("undone").at(0).at("name"), "Add C");
+}
+
+TEST_F(UndoCommand, IsToldByTheLogWithTimeUserAndCommand) {
+    Run({"undo", document_});
+    const auto steps = nlohmann::json::parse(Run({"log", document_, "--json"})).at("steps");
+
+    ASSERT_EQ(steps.size(), 3u);
+    EXPECT_EQ(steps[1].at("name"), "Add B");
+    EXPECT_EQ(steps[1].at("done"), true);
+    EXPECT_EQ(steps[2].at("done"), false);
+    EXPECT_THAT(
+        steps[2].at("time").get<std::string>(),
+        testing::MatchesRegex("20[0-9][0-9]-[0-9][0-9]-[0-9][0-9]T[0-9][0-9]:[0-9][0-9]:[0-9][0-9]Z"));
+    EXPECT_EQ(steps[2].at("command"), "zelmat add a.zeldoc C");
+    EXPECT_NE(steps[2].at("user"), "");
+    EXPECT_THAT(Run({"log", document_}), HasSubstr("Add C  undone  zelmat add a.zeldoc C"));
+}
+
+TEST_F(UndoCommand, LeavesALookedAtDocumentAlone) {
+    const std::string before = Contents(document_);
+    Run({"log", document_});
+    Run({"list", document_});
+    Run({"show", document_, "A"});
+
+    EXPECT_EQ(Contents(document_), before);
+}
+
+using LogCommand = DocumentFolder;
+
+TEST_F(LogCommand, SaysWhenThereAreNoSteps) {
+    EXPECT_EQ(Run({"log", NewDocument()}), "no steps are kept\n");
+}
+
+TEST_F(LogCommand, RefusesWhatIsNoDocument) {
+    EXPECT_THAT(Refusal(3, {"log", Path("none.zeldoc")}), HasSubstr("none.zeldoc: error[unreadable]"));
+    EXPECT_THAT(Refusal(3, {"log", File("x.json", "{}")}), HasSubstr("x.json: error"));
+}
+
+using NewCommand = DocumentFolder;
+
+TEST_F(NewCommand, MakesAnEmptyDocument) {
+    EXPECT_EQ(Run({"new", Path("a.zeldoc")}), "made: a.zeldoc\n");
+    EXPECT_EQ(Run({"list", Path("a.zeldoc")}), "materials: 0\n");
+}
+
+TEST_F(NewCommand, RefusesAFileThatIsThere) {
+    const std::string document = DocumentOf({"copper_ofhc.json"});
+    const std::string before = Contents(document);
+
+    EXPECT_THAT(Refusal(3, {"new", document}), HasSubstr("a.zeldoc: error[not-made]"));
+    EXPECT_EQ(Contents(document), before);
+    EXPECT_THAT(Refusal(3, {"new", Path("none/a.zeldoc")}), HasSubstr("error[not-made]"));
+}
+
+TEST_F(NewCommand, WantsADocumentOrACardAndNotBoth) {
+    EXPECT_THAT(Refusal(2, {"new"}), HasSubstr("error[usage]"));
+    EXPECT_THAT(Refusal(2, {"new", Path("a.zeldoc"), "--card", "A"}), HasSubstr("error[usage]"));
+}
+
+using ListCommand = DocumentFolder;
+
+TEST_F(ListCommand, HasALineForEachMaterial) {
+    const std::string document = DocumentOf({"copper_ofhc.json", "natural_rubber_treloar.json"});
+    const std::string out = Run({"list", document});
+
+    EXPECT_THAT(out, HasSubstr("1  OFHC copper"));
+    EXPECT_THAT(out,
+                HasSubstr("density 1, thermal_expansion 1, conductivity 1, specific_heat 1, hyperelastic 1"));
+    EXPECT_THAT(out, HasSubstr("10 fits, test_data"));
+    EXPECT_THAT(out, HasSubstr("materials: 2"));
+}
+
+}  // namespace

@@ -1,0 +1,107 @@
+#include <CLI/CLI.hpp>
+
+#include "zelmat/commands/CardInput.h"
+#include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/text/CountText.h"
+#include "zelmat/text/TablePrinter.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+/// "elastic 12": the rows of its tables, added up per table: "gasket 8+12+12".
+std::string BlockText(const Block* block) {
+    std::string text = block->kind->name;
+    const char* separator = " ";
+    for (const Table& table : block->tables) {
+        text += separator + std::to_string(table.Rows());
+        separator = "+";
+    }
+    return text;
+}
+
+/// The behaviors' blocks; of several fits the one that is stored.
+std::vector<const Block*> StoredBlocks(const Material& material) {
+    std::vector<const Block*> blocks;
+    for (const Block& block : material.blocks) blocks.push_back(&block);
+    if (!material.fits.empty()) blocks.push_back(&material.fits.front());
+    return blocks;
+}
+
+std::vector<std::string> OtherData(const Material& material) {
+    std::vector<std::string> names;
+    if (material.illustrative) names.emplace_back("illustrative");
+    if (material.fits.size() > 1) names.push_back(CountText(material.fits.size(), "fit"));
+    for (const Block& block : material.information) names.push_back(block.kind->name);
+    return names;
+}
+
+/// One line for each material of a document.
+class List final : public Command {
+public:
+    void Declare(CLI::App& line) override {
+        line.add_option("CARD|DOC", path_, "Document, or material card; - is standard input")->required();
+        DeclareCardReading(line, how_);
+    }
+
+    void Work(CommandContext& context) override {
+        materials_ = ReadGivenMaterials(path_, context.options, context.findings, how_);
+        read_ = !context.findings.HasErrors();
+    }
+
+    void Print(std::ostream& out) const override {
+        if (!read_) return;
+        TablePrinter printer({"#", "material", "class", "switched on, with rows per table", "further data"});
+        for (const std::size_t words : {1u, 2u, 3u, 4u}) printer.SetLeft(words);
+        for (std::size_t at = 0; at < materials_.size(); ++at) {
+            const Material& material = materials_[at];
+            printer.AddRow({std::to_string(at + 1), material.name, material.materialClass,
+                            WordList(StoredBlocks(material), BlockText), WordList(OtherData(material))});
+        }
+        if (!materials_.empty()) {
+            printer.Print(out);
+            out << '\n';
+        }
+        out << "materials: " << materials_.size() << '\n';
+    }
+
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = {{"materials", nlohmann::ordered_json::array()}};
+        for (std::size_t at = 0; at < materials_.size(); ++at) {
+            const Material& material = materials_[at];
+            nlohmann::ordered_json behaviors = nlohmann::ordered_json::array();
+            for (const Block* block : StoredBlocks(material)) {
+                nlohmann::ordered_json rows = nlohmann::ordered_json::object();
+                for (const Table& table : block->tables) rows[table.kind->name] = table.Rows();
+                behaviors.push_back({{"name", block->kind->name}, {"rows", std::move(rows)}});
+            }
+            json["materials"].push_back({{"number", at + 1},
+                                         {"name", material.name},
+                                         {"class", material.materialClass},
+                                         {"switched_on", std::move(behaviors)},
+                                         {"further_data", OtherData(material)}});
+        }
+        return json;
+    }
+
+private:
+    std::string path_;
+    CardReading how_;
+    std::vector<Material> materials_;
+    bool read_ = false;
+};
+
+}  // namespace
+
+CommandKind ListCommand() {
+    return {.name = "list",
+            .brief = "list the materials of a document, a line for each",
+            .text =
+                "List the materials of a document, a line for each: its number, name and class, which\n"
+                "behaviors are switched on with how many rows, and what else the document keeps of it.",
+            .make = &MakeCommand<List>};
+}
+
+}  // namespace zelmat

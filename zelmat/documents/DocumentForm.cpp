@@ -1,0 +1,35 @@
+#include "zelmat/documents/DocumentForm.h"
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <string_view>
+
+namespace zelmat {
+
+namespace {
+
+/// Its closing zero is one of the bytes.
+constexpr std::string_view kBeginning("SQLite format 3", 16);
+
+}  // namespace
+
+bool IsDocumentFile(const std::string& path) {
+    std::error_code none;
+    // A pipe would lose what is read here.
+    if (!std::filesystem::is_regular_file(path, none)) return false;
+    std::array<char, kBeginning.size()> bytes{};
+    std::ifstream file(path, std::ios::binary);
+    file.read(bytes.data(), bytes.size());
+    return file && std::string_view(bytes.data(), bytes.size()) == kBeginning;
+}
+
+bool IsTextDocument(const std::string& text) {
+    // Most texts are told without reading them as JSON.
+    if (text.find("\"features\"") == std::string::npos) return false;
+    const auto json = nlohmann::json::parse(text, nullptr, false);
+    return json.is_object() && json.contains("format") && json.contains("features");
+}
+
+}  // namespace zelmat

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace zelmat {
+
+/// The two forms in which documents lie in files, told by their content.
+
+/// Whether it is a regular file that begins as a document's does, whatever its name. What follows may be
+/// broken, or a foreign program's.
+bool IsDocumentFile(const std::string& path);
+
+/// Whether a text has what a document in its text form cannot be without, and a card has not.
+bool IsTextDocument(const std::string& text);
+
+}  // namespace zelmat

@@ -1,0 +1,90 @@
+#include "zelmat/documents/DocumentToChange.h"
+
+#include <filesystem>
+
+#include "zelmat/documents/DocumentForm.h"
+#include "zelmat/files/ReadText.h"
+#include "zelmat/files/UnreadableFile.h"
+#include "zelmat/text/CountText.h"
+#include "zelmat/text/WordList.h"
+
+namespace zelmat {
+
+namespace {
+
+/// False, and a finding, for what is there and no document of the form that can be changed in place.
+bool CanBeChanged(const std::string& path, Findings& findings) {
+    std::error_code none;
+    if (IsDocumentFile(path) || !std::filesystem::is_regular_file(path, none)) return true;
+    Findings unread;  // told when it is opened
+    const auto text = ReadText(path, unread);
+    if (!text || text->empty() || !IsTextDocument(*text)) return true;
+    findings.Add({FindingKind::USAGE,
+                  {path, 0},
+                  "text-document",
+                  "a document in its text form is not changed in place",
+                  {"zelmat upgrade " + path + " --output NEW.zeldoc makes one that can be"}});
+    return false;
+}
+
+}  // namespace
+
+std::unique_ptr<DocumentToChange> DocumentToChange::Open(const std::string& path, const std::string& catalogs,
+                                                         Findings& findings, Older older) {
+    if (!CanBeChanged(path, findings)) return nullptr;
+    std::unique_ptr<DocumentToChange> opened(new DocumentToChange(path, catalogs));
+    if (!opened->host_.OpenCatalog(findings)) return nullptr;
+    KORFileError error;
+    opened->file_ = KORDiskDocument::OpenToChange(opened->host_.Platform(), path, error);
+    if (!opened->file_) {
+        findings.Add(UnreadableFile(path, error, "broken-document"));
+        return nullptr;
+    }
+    for (const std::string& note : opened->file_->Notes()) {
+        findings.Add({FindingKind::NOTE, {path, 0}, "document", note, {}});
+    }
+    if (older == Older::UPGRADED && !opened->BringUpToDate(findings)) return nullptr;
+    return opened;
+}
+
+std::unique_ptr<DocumentToChange> DocumentToChange::Create(const std::string& path,
+                                                           const std::string& catalogs, Findings& findings) {
+    std::unique_ptr<DocumentToChange> made(new DocumentToChange(path, catalogs));
+    if (!made->host_.OpenCatalog(findings)) return nullptr;
+    KORFileError error;
+    made->file_ = KORDiskDocument::Create(made->host_.Platform(), path, error);
+    if (!made->file_) {
+        findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-made", error.Sentence(), {}});
+        return nullptr;
+    }
+    SetStoredPressureUnit(made->Document());
+    return made;
+}
+
+bool DocumentToChange::BringUpToDate(Findings& findings) {
+    Findings own;
+    upgrade_ = UpgradeMaterials(Document(), path_, own);
+    ReportUpgrade(upgrade_, path_, own);
+    findings.Add(own);
+    if (upgrade_.run.refused || own.HasErrors()) return false;
+    const auto& upgraded = upgrade_.run.upgraded;
+    if (upgraded.empty()) return true;
+    findings.Add(
+        {FindingKind::NOTE,
+         {path_, 0},
+         "upgraded",
+         CountText(upgraded.size(), "material") + " of an older release " +
+             (upgraded.size() == 1 ? "is" : "are") + " brought up to date",
+         {WordList(upgraded, [](const auto& material) { return std::string(material.name.c_str()); }),
+          "a step of its own, which undo takes back"}});
+    return true;
+}
+
+bool DocumentToChange::Save(const KORHistoryOrigin& origin, Findings& findings) {
+    KORFileError error;
+    if (file_->Save(origin, error)) return true;
+    findings.Add({FindingKind::UNREADABLE, {path_, 0}, "not-saved", error.Sentence(), {}});
+    return false;
+}
+
+}  // namespace zelmat
