@@ -52,7 +52,40 @@ trap 'rm -f "$converted" "$upgraded"' EXIT
 run upgrade samples/older/copper_and_rubber.json --output "$upgraded"
 run upgrade "$upgraded"
 
-# All materials in one document.
+# A document in a file: all sample cards, a hardening curve from a CSV file with its units, one number; then back and forth
+# in its history. diff ends with 1 because there are differences.
+documents=$(mktemp -d)
+trap 'rm -rf "$converted" "$upgraded" "$documents"' EXIT
+document=$documents/lab.zeldoc
+run new "$document"
+run add "$document" samples/*.json
+cat >"$documents/curve.csv" <<'CSV'
+yield_stress [MPa],plastic_strain [%],temperature [degC]
+355,0,20
+420,5,20
+480,12,20
+CSV
+run set "$document" "Structural steel S235" plastic="$documents/curve.csv"
+run set "$document" "OFHC" density="8.94 g/cm^3"
+run list "$document"
+run find "$document" 'density<3000kg/m3 and elastic.youngs_modulus@20degC>60GPa'
+run diff "$document#1" "$document" || echo "(exit code $?)"
+run undo "$document" 2
+run redo "$document"
+run log "$document"
+
+# A program that is killed in the middle of its work: the document is the old or the new one, and opens again.
+for delay in 0.01 0.02 0.04 0.08; do
+    "$zelmat" add "$document" samples/forms/*.FCMat samples/forms/*.csv --keep-going >/dev/null 2>&1 &
+    killed=$!
+    sleep "$delay"
+    kill -KILL "$killed" 2>/dev/null || true
+    wait "$killed" 2>/dev/null || true
+done
+run doctor "$document"
+run log "$document"
+
+# All materials in one document in memory.
 run summary samples/*.json
 
 # What the checks find on a card with five faults; errors end the command with 1.

@@ -69,6 +69,13 @@ Tree TreeOf(CardFormKind form, std::string text, const std::string& path, const 
 
 }  // namespace
 
+std::shared_ptr<const PlacedJson> ReadCardTree(std::string text, const std::string& name, Findings& findings,
+                                               const CardReading& how) {
+    const CardFormKind form = CardFormOf(text);
+    Tree tree = TreeOf(form, std::move(text), name, how, findings);
+    return tree ? UnderHouseNames(std::move(tree), findings) : nullptr;
+}
+
 std::vector<Material> ReadCards(const std::string& path, Findings& findings, const CardReading& how) {
     auto text = ReadText(path, findings);
     return text ? ReadCardText(std::move(*text), ShownPath(path), findings, how) : std::vector<Material>();
@@ -77,8 +84,7 @@ std::vector<Material> ReadCards(const std::string& path, Findings& findings, con
 std::vector<Material> ReadCardText(std::string text, const std::string& name, Findings& findings,
                                    const CardReading& how) {
     const CardFormKind form = CardFormOf(text);
-    Tree tree = TreeOf(form, std::move(text), name, how, findings);
-    if (tree) tree = UnderHouseNames(std::move(tree), findings);
+    const Tree tree = ReadCardTree(std::move(text), name, findings, how);
     const auto units = form == CardFormKind::CSV ? BareColumns::REFUSED : BareColumns::SI;
     return tree ? JsonCardReader(tree, findings, units).Read() : std::vector<Material>();
 }

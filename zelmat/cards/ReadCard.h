@@ -1,9 +1,11 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "zelmat/files/PlacedJson.h"
 #include "zelmat/findings/Findings.h"
 #include "zelmat/materials/Material.h"
 
@@ -22,6 +24,11 @@ std::vector<Material> ReadCards(const std::string& path, Findings& findings, con
 /// The same of a text that was read already; `name` is what findings call its file.
 std::vector<Material> ReadCardText(std::string text, const std::string& name, Findings& findings,
                                    const CardReading& how = {});
+
+/// The tree of values that a card's text is, whatever its form, before anything is given a meaning. Null, and
+/// findings, when it is none.
+std::shared_ptr<const PlacedJson> ReadCardTree(std::string text, const std::string& name, Findings& findings,
+                                               const CardReading& how = {});
 
 /// The same where one material is wanted; a card with several is a finding.
 std::optional<Material> ReadCard(const std::string& path, Findings& findings, const CardReading& how = {});

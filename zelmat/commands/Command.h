@@ -50,6 +50,10 @@ public:
     /// goes to standard error then.
     virtual bool TakesStandardOutput() const { return false; }
 
+    /// The exit code that the result itself asks for, where there is nothing to find fault with: that what was
+    /// compared differs.
+    virtual ExitCode Outcome() const { return EXIT_CLEAN; }
+
     /// What the work came to, for a reader; nothing when it came to nothing.
     virtual void Print(std::ostream& out) const = 0;
 

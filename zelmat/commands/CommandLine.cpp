@@ -101,6 +101,14 @@ std::string CommandHelp(const CommandKind& kind) {
     return line.help();
 }
 
+std::vector<std::string> CommandOptions(const CommandKind& kind) {
+    CommonOptions options;
+    const auto command = kind.make();
+    CLI::App line(kind.text, "zelmat " + kind.name);
+    Declare(line, kind, options, *command);
+    return OptionNames(line);
+}
+
 std::string ProgramHelp() {
     std::size_t width = 0;
     for (const CommandKind& command : Commands()) width = std::max(width, command.name.size());

@@ -21,6 +21,9 @@ CommandLine ReadCommandLine(const CommandKind& kind, Command& command, std::vect
 /// What `zelmat help COMMAND` prints.
 std::string CommandHelp(const CommandKind& kind);
 
+/// The options of a command as they are typed: "--json".
+std::vector<std::string> CommandOptions(const CommandKind& kind);
+
 /// What `zelmat --help` prints.
 std::string ProgramHelp();
 

@@ -16,9 +16,18 @@ namespace zelmat {
     COMMAND(New)                 \
     COMMAND(Add)                 \
     COMMAND(List)                \
+    COMMAND(Find)                \
+    COMMAND(Set)                 \
+    COMMAND(Rename)              \
+    COMMAND(Copy)                \
+    COMMAND(Remove)              \
+    COMMAND(Extract)             \
+    COMMAND(Diff)                \
     COMMAND(Undo)                \
     COMMAND(Redo)                \
     COMMAND(Log)                 \
+    COMMAND(Compact)             \
+    COMMAND(Doctor)              \
     COMMAND(Upgrade)             \
     COMMAND(Layup)               \
     COMMAND(At)                  \
@@ -31,7 +40,8 @@ namespace zelmat {
     COMMAND(Report)              \
     COMMAND(Unit)                \
     COMMAND(Config)              \
-    COMMAND(Catalog)
+    COMMAND(Catalog)             \
+    COMMAND(Completion)
 
 #define ZELMAT_DECLARE(name) CommandKind name##Command();
 ZELMAT_COMMANDS(ZELMAT_DECLARE)

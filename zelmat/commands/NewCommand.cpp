@@ -55,7 +55,9 @@ public:
 private:
     void MakeDocument(CommandContext& context) {
         const auto document = DocumentToChange::Create(document_, context.options.catalogs, context.findings);
-        if (document && document->Save(OriginOf(context), context.findings)) made_ = document_;
+        if (!document) return;
+        SetStoredPressureUnit(document->Document());
+        if (document->Save(OriginOf(context), context.findings)) made_ = document_;
     }
 
     void MakeCard(CommandContext& context) {

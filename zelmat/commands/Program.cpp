@@ -14,6 +14,7 @@
 #include "zelmat/commands/CommandTable.h"
 #include "zelmat/commands/FindingPrinter.h"
 #include "zelmat/commands/JsonReport.h"
+#include "zelmat/commands/ManPage.h"
 #include "zelmat/commands/Terminal.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/ShellWord.h"
@@ -94,18 +95,24 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
     std::ostream& out = taken ? std::cerr : std::cout;
     if (line.options.json) {
         PrintJson(out, &kind, command->Json(), findings);
-        return FlushOutput(findings) ? findings.Exit(line.options.strict) : EndWith(findings, line.options);
+        const bool written = FlushOutput(findings);
+        const ExitCode code = written ? findings.Exit(line.options.strict) : EndWith(findings, line.options);
+        return std::max(code, command->Outcome());
     }
     command->Print(out);
     // Where both go to one terminal, the result stands before what was found.
     static_cast<void>(FlushOutput(findings));
-    return EndWith(findings, line.options);
+    return std::max(EndWith(findings, line.options), command->Outcome());
 }
 
 /// `zelmat help`, `zelmat help COMMAND`
 ExitCode Help(const Arguments& arguments) {
     if (arguments.empty()) {
         std::cout << ProgramHelp();
+        return EXIT_CLEAN;
+    }
+    if (arguments.front() == "--man") {
+        std::cout << ManPage();
         return EXIT_CLEAN;
     }
     const CommandKind* kind = FindCommand(arguments.front());

@@ -1,6 +1,7 @@
 #include "zelmat/commands/WriteGate.h"
 
 #include <CLI/CLI.hpp>
+#include <set>
 
 #include "zelmat/checks/Checks.h"
 
@@ -26,6 +27,24 @@ bool WriteGate::Passes(const LayupCard& layup, Findings& findings) const {
         findings.Add(finding);
     }
     return keepGoing_ || good;
+}
+
+bool WriteGate::PassesChange(const Material& before, const Material& now, Findings& findings) const {
+    std::multiset<std::string> known;
+    const Findings old = CheckMaterial(before);
+    for (const Finding& finding : old.All()) known.insert(FindingLine(finding));
+    const Findings found = CheckMaterial(now);
+    Findings fresh;
+    for (const Finding& finding : found.All()) {
+        const auto same = known.find(FindingLine(finding));
+        if (same == known.end()) {
+            fresh.Add(finding);
+        } else {
+            known.erase(same);
+        }
+    }
+    findings.Add(fresh);
+    return keepGoing_ || !fresh.HasErrors();
 }
 
 }  // namespace zelmat

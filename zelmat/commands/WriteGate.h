@@ -21,6 +21,10 @@ public:
     /// The same of a layup, without what its own validity is to say.
     bool Passes(const LayupCard& layup, Findings& findings) const;
 
+    /// The same for a material that was there before: what was wrong with it already is neither told again
+    /// nor stops the write.
+    bool PassesChange(const Material& before, const Material& now, Findings& findings) const;
+
     bool KeepsGoing() const { return keepGoing_; }
 
 private:

@@ -57,11 +57,11 @@ std::unique_ptr<DocumentToChange> DocumentToChange::Create(const std::string& pa
         findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-made", error.Sentence(), {}});
         return nullptr;
     }
-    SetStoredPressureUnit(made->Document());
     return made;
 }
 
 bool DocumentToChange::BringUpToDate(Findings& findings) {
+    const KeptPressureUnit kept(Document());
     Findings own;
     upgrade_ = UpgradeMaterials(Document(), path_, own);
     ReportUpgrade(upgrade_, path_, own);

@@ -23,7 +23,8 @@ public:
     static std::unique_ptr<DocumentToChange> Open(const std::string& path, const std::string& catalogs,
                                                   Findings& findings, Older older = Older::UPGRADED);
 
-    /// A new, empty document in a file that is not there yet. It is one with the first Save.
+    /// A new, empty document in a file that is not there yet. It is one with the first Save. It names no unit
+    /// of pressure: whoever fills it does.
     static std::unique_ptr<DocumentToChange> Create(const std::string& path, const std::string& catalogs,
                                                     Findings& findings);
 

@@ -54,6 +54,15 @@ void ReportUpgrade(const UpgradeReport& report, const std::string& file, Finding
     }
 }
 
+KeptPressureUnit::KeptPressureUnit(KORMemoryDocument& document) : units_(document.Platform().Units()) {
+    const KORUnitType& type = *KORFindUnitType(kPressure);
+    if (units_.IsChosen(type)) named_ = units_.CurrentUnit(type).symbol;
+}
+
+KeptPressureUnit::~KeptPressureUnit() {
+    if (!named_.empty()) units_.SetCurrentUnit(kPressure, named_);
+}
+
 void SetStoredPressureUnit(KORMemoryDocument& document) {
     document.Platform().Units().SetCurrentUnit(kPressure, KORFindUnitType(kPressure)->units.front().symbol);
 }

@@ -29,6 +29,20 @@ UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& f
 /// A finding for each material whose upgrade failed or that needs one still.
 void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings);
 
+/// Keeps the unit of pressure that a document names through an upgrade, at the end of its scope. With the
+/// upgrade undone the older coefficients are in it again; converted ones say so themselves.
+class KeptPressureUnit {
+public:
+    explicit KeptPressureUnit(KORMemoryDocument& document);
+    ~KeptPressureUnit();
+    KeptPressureUnit(const KeptPressureUnit&) = delete;
+    KeptPressureUnit& operator=(const KeptPressureUnit&) = delete;
+
+private:
+    KORUnitsService& units_;
+    std::string named_;  // symbol; empty: none
+};
+
 /// Coefficients in this document are in the stored unit of pressure.
 void SetStoredPressureUnit(KORMemoryDocument& document);
 

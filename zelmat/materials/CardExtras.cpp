@@ -70,11 +70,39 @@ void ReadHead(const FeatureValues& feature, Material& read) {
     read.kept = KeptOfText(feature.Text("Kept"));
 }
 
-/// The features of one card, the card's own last.
-void TakeAway(KORMemoryDocument& document, KORISpecObject* card) {
-    const FeatureValues values(card);
-    for (const auto& block : values.Features("Blocks")) RemoveExtraBlock(document, block.Get());
-    static_cast<void>(document.Remove(card));
+/// Whether a block stays though the card has no such: its behavior is, or was until now, switched off; or
+/// some other program made it.
+bool Stays(KORISpecObject* block, const Material& card) {
+    const auto extra = ReadExtraBlock(block);
+    if (!extra) return true;
+    if (extra->use == ExtraUse::INFORMATION) return false;
+    return extra->use == ExtraUse::BEHAVIOR ? !card.Find(extra->block.kind->name) : card.fits.empty();
+}
+
+/// Takes the blocks of a card away, but for those that stay; answers these.
+std::vector<KORISpecObject_var> TakeBlocksAway(KORMemoryDocument& document, const FeatureValues& feature,
+                                               const Material& card) {
+    std::vector<KORISpecObject_var> stay;
+    for (const auto& block : feature.Features("Blocks")) {
+        if (Stays(block.Get(), card)) {
+            stay.push_back(block);
+        } else {
+            RemoveExtraBlock(document, block.Get());
+        }
+    }
+    feature.Empty("Blocks");
+    return stay;
+}
+
+/// The feature that hangs on a material for its card, a new one if there is none; null when it cannot be
+/// made.
+KORISpecObject_var FeatureFor(KORMemoryDocument& document, KORISpecObject* material) {
+    const auto hangsOn = KORIMaterialFeature_var::Of(material);
+    if (!hangsOn) return nullptr;
+    if (auto before = HungOn(material)) return before;
+    KORISpecObject_var feature(document.NewPlatformFeature(kType, kType));
+    const bool hung = feature && SUCCEEDED(hangsOn->SetApplicativeFeature(kHung, feature.Get()));
+    return hung ? feature : KORISpecObject_var();
 }
 
 /// With the elastic block first: what a hardening curve means depends on it.
@@ -100,13 +128,12 @@ void MergeFits(std::vector<ExtraBlock>& extras, Material& read) {
 
 bool WriteCardExtras(KORMemoryDocument& document, KORISpecObject* material, const Material& card,
                      const Block* stored, const Material& held) {
-    const auto hangsOn = KORIMaterialFeature_var::Of(material);
-    if (!hangsOn) return false;
-    if (const auto before = HungOn(material)) TakeAway(document, before.Get());
-    const KORISpecObject_var feature(document.NewPlatformFeature(kType, kType));
-    if (!feature || FAILED(hangsOn->SetApplicativeFeature(kHung, feature.Get()))) return false;
+    const KORISpecObject_var feature = FeatureFor(document, material);
+    if (!feature) return false;
     const FeatureValues values(feature.Get());
     WriteHead(values, card);
+    const auto stay = TakeBlocksAway(document, values, card);
+    for (const auto& block : stay) values.Append("Blocks", block.Get());
     for (const ExtraBlock& extra : ExtrasOf(card, stored, held)) {
         if (SaysNothing(extra)) continue;
         const auto made = WriteExtraBlock(document, extra);

@@ -13,7 +13,8 @@ namespace zelmat {
 /// Hangs what `card` says on a material of the platform, in place of what hung there. `stored`: the fit of
 /// the card that the behavior was given; null when it was given none. `held`: what the document holds of the
 /// material by now, as ReadMaterial answers it; so that a value of it that the card left out can be told.
-/// False when the document does not know the features' late types, or the material is none of the platform.
+/// What hung there of a behavior that the card does not have, because it is switched off, stays. False when
+/// the document does not know the features' late types, or the material is none of the platform.
 [[nodiscard]] bool WriteCardExtras(KORMemoryDocument& document, KORISpecObject* material,
                                    const Material& card, const Block* stored, const Material& held);
 

@@ -33,8 +33,7 @@ TEST(WrongForm, NamesTheCommandThatReadsADocument) {
     for (const char* command : {"layup", "summary"}) {
         const ProgramRun run = RunZelmat({command, document});
         EXPECT_EQ(run.exitCode, 2) << command;
-        EXPECT_THAT(run.err,
-                    EndsWith(": error[wrong-command]: this is a document (zelmat list reads it)\n"));
+        EXPECT_THAT(run.err, EndsWith(": error[wrong-command]: this is a document (zelmat list reads it)\n"));
     }
 }
 

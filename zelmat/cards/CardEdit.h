@@ -1,0 +1,68 @@
+#pragma once
+
+#include <map>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+
+#include "zelmat/cards/ReadCard.h"
+#include "zelmat/findings/Findings.h"
+#include "zelmat/materials/Material.h"
+
+namespace zelmat {
+
+/// A material in the form of a card, to be changed value by value. A value is named as a card names it:
+///
+///     density                          the one number of a block with one column
+///     elastic.youngs_modulus           a column; of the table's only row
+///     thermal_expansion.reference_temperature   a value beside the tables
+///     gasket.loading.pressure          of one of several tables
+///     plastic, gasket.loading          a whole table, from a CSV file with a header line
+///     thermal_expansion.enabled        on, off
+///     description, class, source, notes, illustrative, heat_generation
+///
+/// Numbers have their unit with them, and keep it. What a change comes to is checked as a card is, by Read.
+class CardEdit {
+public:
+    /// `place`: what findings call the thing that is changed.
+    CardEdit(const Material& material, std::string place, CardReading how = {});
+
+    /// Makes one change: "elastic.youngs_modulus=205GPa". False, and a finding, for a key that there is not,
+    /// a value that is none for it, and one number for a table of several rows; then nothing has changed.
+    bool Set(const std::string& change, Findings& findings);
+
+    /// The material by now. Nothing, and findings, when a table lacks a column or a value is refused.
+    std::optional<Material> Read(Findings& findings) const;
+
+    /// The blocks that were switched on or off.
+    const std::map<const BlockKind*, bool>& Switched() const { return switched_; }
+
+private:
+    using Json = nlohmann::ordered_json;
+
+    bool SetHead(const std::string& key, const std::string& value, Findings& findings);
+    bool SetInBlock(const BlockKind& kind, const std::string& member, const std::string& value,
+                    Findings& findings);
+    bool SetSetting(const BlockKind& kind, const Setting& setting, const std::string& value,
+                    Findings& findings);
+    bool SetNumber(const BlockKind& kind, const TableKind& table, const std::string& column,
+                   const std::string& value, Findings& findings);
+    bool SetTable(const BlockKind& kind, const TableKind& table, const std::string& path, Findings& findings);
+    bool Switch(const BlockKind& kind, const std::string& value, Findings& findings);
+
+    const Json* Find(const BlockKind& kind) const;  ///< the block; null when the card has none
+    Json& Make(const BlockKind& kind);
+    /// Of the block's form by now; `withTemperature`: also where the table is not temperature dependent.
+    std::vector<ColumnKind> ColumnsOf(const BlockKind& kind, const TableKind& table,
+                                      bool withTemperature = false) const;
+    std::vector<std::string> KeysOf(const BlockKind& kind) const;
+    bool Refuse(Findings& findings, const char* code, std::string text,
+                std::vector<std::string> details = {}) const;
+
+    std::string place_;
+    CardReading how_;
+    Json card_;
+    std::map<const BlockKind*, bool> switched_;
+};
+
+}  // namespace zelmat
