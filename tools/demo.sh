@@ -67,6 +67,8 @@ yield_stress [MPa],plastic_strain [%],temperature [degC]
 CSV
 run set "$document" "Structural steel S235" plastic="$documents/curve.csv"
 run set "$document" "OFHC" density="8.94 g/cm^3"
+run layup "$document" add Skin "[0/45/-45/90]s" --material "CFRP" --thickness 0.125mm
+run layup "$document" list
 run list "$document"
 run find "$document" 'density<3000kg/m3 and elastic.youngs_modulus@20degC>60GPa'
 run diff "$document#1" "$document" || echo "(exit code $?)"

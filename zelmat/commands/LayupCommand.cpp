@@ -5,6 +5,7 @@
 
 #include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/LayupActions.h"
 #include "zelmat/commands/LayupReport.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
@@ -50,7 +51,9 @@ std::optional<double> ReadThickness(const std::string& text, Findings& findings)
 class Layup final : public Command {
 public:
     void Declare(CLI::App& line) override {
-        line.add_option("NOTATION|CARD.json", layup_, "Stacking notation, or layup card")->required();
+        line.add_option("NOTATION|CARD|DOC", layup_, "Stacking notation, layup card, or document")
+            ->required();
+        actions_.Declare(line);
         line.add_option("--material", material_, "Material of a notation's plies");
         line.add_option("--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
         line.add_option("--section", section_,
@@ -63,7 +66,12 @@ public:
     void Work(CommandContext& context) override {
         Findings& findings = context.findings;
         units_ = context.units;
-        card_ = Given(findings);
+        if (actions_.IsAsked()) {
+            actions_.Work(context, layup_,
+                          [this](const std::string& text, Findings& found) { return Given(text, found); });
+            return;
+        }
+        card_ = Given(layup_, findings);
         if (card_) stored_ = Store(context.options.catalogs, findings);
         if (!stored_) return;
         ReportValidity(*card_, *stored_, findings);
@@ -79,12 +87,14 @@ public:
     bool TakesStandardOutput() const override { return drawing_ == "-"; }
 
     void Print(std::ostream& out) const override {
+        if (actions_.IsAsked()) actions_.Print(out, units_);
         if (stored_) PrintLayup(out, *card_, *stored_, units_);
         if (drawn_) PrintWritten(out, "drawn", *drawn_);
     }
 
     nlohmann::ordered_json Json() const override {
         nlohmann::ordered_json json = {{"layup", nullptr}, {"drawing", nullptr}};
+        if (actions_.IsAsked()) json.update(actions_.Json(units_));
         if (stored_) json["layup"] = ToJson(*card_, *stored_, units_);
         if (drawn_) AddWritten(json, "drawing", *drawn_);
         return json;
@@ -93,31 +103,30 @@ public:
 private:
     /// A text that begins with a bracket, or one without any letter, is meant as a notation, unless it names
     /// a file; any other is the path of a card, also of one that is not there.
-    bool IsNotation() const {
-        const bool letters = std::any_of(layup_.begin(), layup_.end(), [](unsigned char character) {
-            return std::isalpha(character) != 0;
-        });
+    static bool IsNotation(const std::string& text) {
+        const bool letters = std::any_of(
+            text.begin(), text.end(), [](unsigned char character) { return std::isalpha(character) != 0; });
         std::error_code none;
-        return (layup_.starts_with('[') || !letters) && !std::filesystem::exists(layup_, none);
+        return (text.starts_with('[') || !letters) && !std::filesystem::exists(text, none);
     }
 
-    std::optional<LayupCard> Given(Findings& findings) const {
-        if (IsNotation()) return FromNotation(findings);
+    std::optional<LayupCard> Given(const std::string& text, Findings& findings) const {
+        if (IsNotation(text)) return FromNotation(text, findings);
         if (!material_.empty() || !thickness_.empty()) {
             ReportUsage(findings, "--material, --thickness", "not-for-a-card",
                         "a card gives material and thickness of each layer itself", {});
             return std::nullopt;
         }
-        auto card = LayupCardReader(findings).Read(layup_);
-        if (!card) NameRightCommand(layup_, FileForm::LAYUP_CARD, findings);
+        auto card = LayupCardReader(findings).Read(text);
+        if (!card) NameRightCommand(text, FileForm::LAYUP_CARD, findings);
         return card;
     }
 
-    std::optional<LayupCard> FromNotation(Findings& findings) const {
-        const auto read = ReadStackingNotation(layup_);
+    std::optional<LayupCard> FromNotation(const std::string& notation, Findings& findings) const {
+        const auto read = ReadStackingNotation(notation);
         if (const auto* mistake = std::get_if<NotationMistake>(&read)) {
             ReportUsage(findings, kNotation, "wrong-notation", mistake->text,
-                        {"position " + std::to_string(mistake->position) + " of " + layup_});
+                        {"position " + std::to_string(mistake->position) + " of " + notation});
         }
         if (material_.empty()) {
             ReportUsage(findings, "--material", "missing-option",
@@ -132,7 +141,7 @@ private:
 
         LayupCard card;
         card.file = kNotation;
-        card.name = layup_ + ", " + material_;
+        card.name = notation + ", " + material_;
         card.materials.push_back({material_, {}, {}});
         for (const double angle : std::get<StackingSequence>(read)) {
             card.layers.push_back({.material = material_, .thickness = *ply, .angle = angle});
@@ -157,7 +166,8 @@ private:
         return stored;
     }
 
-    std::string layup_;      // a stacking notation, or the path of a card
+    LayupActions actions_;
+    std::string layup_;      // a stacking notation, or the path of a card or document
     std::string material_;   // of a notation: the one that all plies are of
     std::string thickness_;  // of a notation: of each ply, with its unit
     std::string section_;    // "composite", "homogeneous": one that references the layup; empty: none
@@ -177,7 +187,10 @@ CommandKind LayupCommand() {
             .text =
                 "Make a composite layup from a stacking notation or a layup card in a document in memory,\n"
                 "read it back from there, check it and print its layers from the bottom up with the z of\n"
-                "their faces. Notation: [0/45/-45/90]s, [±45/0]2, [0_2/90]s, [0/90_bar]s.",
+                "their faces. Notation: [0/45/-45/90]s, [±45/0]2, [0_2/90]s, [0/90_bar]s.\n"
+                "With a document: DOC list, DOC show NAME, DOC add NAME STACK, DOC set NAME STACK and DOC\n"
+                "remove NAME work with the layups that it keeps. STACK is a notation or a layup card; its\n"
+                "materials are those of the document, to which the plies are linked.",
             .units = true,
             .make = &MakeCommand<Layup>};
 }

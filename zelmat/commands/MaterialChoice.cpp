@@ -47,8 +47,9 @@ std::optional<std::size_t> NumberOf(const std::string& wanted) {
     return error == std::errc() && rest == end ? std::optional(number) : std::nullopt;
 }
 
-std::vector<std::string> Hints(const std::vector<std::string>& names, const std::string& wanted) {
-    if (names.empty()) return {"there are no materials"};
+std::vector<std::string> Hints(const std::vector<std::string>& names, const std::string& wanted,
+                               const std::string& noun) {
+    if (names.empty()) return {"there are no " + noun + "s"};
     const auto nearest = NearestNames(wanted, names, kListed);
     if (nearest.empty()) return {"has " + Numbered(names, All(names.size()))};
     return {"did you mean " + WordList(nearest) + "?"};
@@ -57,26 +58,28 @@ std::vector<std::string> Hints(const std::vector<std::string>& names, const std:
 }  // namespace
 
 std::optional<std::size_t> ChooseMaterial(const std::vector<std::string>& names, const std::string& wanted,
-                                          const std::string& file, Findings& findings) {
-    const auto refuse = [&](const char* code, std::string text, std::vector<std::string> details) {
-        findings.Add({FindingKind::USAGE, {file, 0}, code, std::move(text), std::move(details)});
+                                          const std::string& file, Findings& findings,
+                                          const std::string& noun) {
+    const auto refuse = [&](std::string code, std::string text, std::vector<std::string> details) {
+        findings.Add({FindingKind::USAGE, {file, 0}, std::move(code), std::move(text), std::move(details)});
         return std::nullopt;
     };
     auto places = Where(names, [&](const std::string& name) { return name == wanted; });
     if (places.empty()) {
         if (const auto number = NumberOf(wanted)) {
             if (*number >= 1 && *number <= names.size()) return *number - 1;
-            return refuse("no-such-material", "there is no material " + wanted,
-                          {"it has " + CountText(names.size(), "material")});
+            return refuse("no-such-" + noun, "there is no " + noun + " " + wanted,
+                          {"it has " + CountText(names.size(), noun)});
         }
         places = Where(names,
                        [&](const std::string& name) { return !wanted.empty() && name.starts_with(wanted); });
     }
     if (places.size() == 1) return places.front();
     if (places.empty()) {
-        return refuse("no-such-material", "there is no material " + Quoted(wanted), Hints(names, wanted));
+        return refuse("no-such-" + noun, "there is no " + noun + " " + Quoted(wanted),
+                      Hints(names, wanted, noun));
     }
-    return refuse("several-materials", Quoted(wanted) + " can be " + CountText(places.size(), "material"),
+    return refuse("several-" + noun + "s", Quoted(wanted) + " can be " + CountText(places.size(), noun),
                   {Numbered(names, places)});
 }
 

@@ -159,8 +159,9 @@ TEST(NewCommand, WritesATemplateInWhichEveryNumberIsMissing) {
 
 TEST(NewCommand, WantsANameAndAPlaceToWriteTo) {
     EXPECT_EQ(RunZelmat({"new"}).exitCode, 2);
-    EXPECT_THAT(RunZelmat({"new"}).err,
-                HasSubstr("zelmat new: error[usage]: --card is required, with a name"));
+    EXPECT_THAT(
+        RunZelmat({"new"}).err,
+        HasSubstr("zelmat new: error[usage]: expected the path of a document, or --card with a name"));
     EXPECT_EQ(RunZelmat({"new", "--card", ""}).exitCode, 2);
     EXPECT_EQ(RunZelmat({"new", "--card", "M", "--schema"}).exitCode, 2);
     EXPECT_EQ(RunZelmat({"new", "--card", "M", "--output", "/dev/full"}).exitCode, 3);

@@ -27,10 +27,8 @@ TEST(Program, EndsWithTwoForAWrongCommandLine) {
 TEST(Program, NamesAnUnknownCommandWithTheNearest) {
     EXPECT_EQ(RunZelmat({"shwo", "two_tables.json"}).err,
               "zelmat: error[unknown-command]: there is no command \"shwo\" (did you mean show?)\n");
-    EXPECT_THAT(
-        RunZelmat({"frobnicate"}).err,
-        HasSubstr(
-            "there is no command \"frobnicate\" (known: show, summary, check, convert"));
+    EXPECT_THAT(RunZelmat({"frobnicate"}).err,
+                HasSubstr("there is no command \"frobnicate\" (known: show, summary, check, convert"));
     EXPECT_EQ(RunZelmat({"help", "shwo"}).err, RunZelmat({"shwo"}).err);
 }
 

@@ -110,14 +110,14 @@ TEST_F(LogCommand, RefusesWhatIsNoDocument) {
     EXPECT_THAT(Refusal(3, {"log", File("x.json", "{}")}), HasSubstr("x.json: error"));
 }
 
-using NewCommand = DocumentFolder;
+using NewOfDocument = DocumentFolder;
 
-TEST_F(NewCommand, MakesAnEmptyDocument) {
+TEST_F(NewOfDocument, MakesAnEmptyDocument) {
     EXPECT_EQ(Run({"new", Path("a.zeldoc")}), "made: a.zeldoc\n");
     EXPECT_EQ(Run({"list", Path("a.zeldoc")}), "materials: 0\n");
 }
 
-TEST_F(NewCommand, RefusesAFileThatIsThere) {
+TEST_F(NewOfDocument, RefusesAFileThatIsThere) {
     const std::string document = DocumentOf({"copper_ofhc.json"});
     const std::string before = Contents(document);
 
@@ -126,7 +126,7 @@ TEST_F(NewCommand, RefusesAFileThatIsThere) {
     EXPECT_THAT(Refusal(3, {"new", Path("none/a.zeldoc")}), HasSubstr("error[not-made]"));
 }
 
-TEST_F(NewCommand, WantsADocumentOrACardAndNotBoth) {
+TEST_F(NewOfDocument, WantsADocumentOrACardAndNotBoth) {
     EXPECT_THAT(Refusal(2, {"new"}), HasSubstr("error[usage]"));
     EXPECT_THAT(Refusal(2, {"new", Path("a.zeldoc"), "--card", "A"}), HasSubstr("error[usage]"));
 }
