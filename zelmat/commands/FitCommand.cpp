@@ -4,6 +4,7 @@
 #include "zelmat/commands/Calculation.h"
 #include "zelmat/commands/FitInput.h"
 #include "zelmat/commands/FitReport.h"
+#include "zelmat/commands/FitStore.h"
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/text/NearestName.h"
 #include "zelmat/text/QuotedText.h"
@@ -50,6 +51,7 @@ class Fit final : public Calculation {
 public:
     void Declare(CLI::App& line) override {
         input_.Declare(line);
+        store_.Declare(line);
         auto* model = line.add_option("--model", model_,
                                       "OGDEN, YEOH, ...; of metals ludwik, swift, voce or johnson-cook");
         line.add_option("--order", order_, "Number of terms of OGDEN, POLYNOMIAL or REDUCED_POLYNOMIAL");
@@ -63,9 +65,9 @@ public:
 protected:
     bool Compute(CommandContext& context, Result& result) override {
         Findings& findings = context.findings;
-        if (!ReadModel(findings) || !input_.Read(context)) return false;
+        if (!ReadModel(findings) || !ReadInput(context)) return false;
         result.Say("tests_of", "tests of", input_.Name());
-        return law_ ? FitLaw(findings, result) : all_ ? FitAll(findings, result) : FitModel(findings, result);
+        return law_ ? FitLaw(findings, result) : all_ ? FitAll(findings, result) : FitModel(context, result);
     }
 
 private:
@@ -102,14 +104,27 @@ private:
         return false;
     }
 
-    bool FitModel(Findings& findings, Result& result) const {
+    bool ReadInput(CommandContext& context) {
+        if (!store_.IsWanted()) return input_.Read(context);
+        if (!potential_) {
+            context.findings.Add(UsageFinding("--store", "not-to-be-stored",
+                                              "only one potential can be stored",
+                                              {"--model OGDEN, YEOH, ..."}));
+            return false;
+        }
+        auto material = store_.Open(input_.Path(), input_.Wanted(), context);
+        return material && input_.Read(context, std::move(material));
+    }
+
+    bool FitModel(CommandContext& context, Result& result) {
+        Findings& findings = context.findings;
         const auto curves = input_.Curves(findings);
         if (curves.empty()) return false;
         const auto fit = mechanics::FitHyperelastic(*potential_, order_.value_or(UsualOrder(*potential_)),
                                                     curves, Measure());
         if (!fit.Ok()) return Refuse(findings, fit.Why());
         TellFit(*fit, input_.Where(), findings, result);
-        return true;
+        return !store_.IsWanted() || store_.Store(*fit, context, result);
     }
 
     bool FitLaw(Findings& findings, Result& result) const {
@@ -148,6 +163,7 @@ private:
     }
 
     FitInput input_;
+    FitStore store_;
     std::string model_;  // empty: not said
     std::optional<int> order_;
     bool all_ = false;
@@ -167,7 +183,8 @@ CommandKind FitCommand() {
             "[MPa]), several modes together, or a hardening law of metals to YieldStress, PlasticStrain:\n"
             "coefficients with standard deviations, deviations by mode, where the fit becomes unstable.\n"
             "Without --order OGDEN and REDUCED_POLYNOMIAL have 3 terms, POLYNOMIAL has order 2.\n"
-            "--all-models ranks all of them. A CSV file may have columns Mode, Specimen and Weight.",
+            "--all-models ranks all of them. A CSV file may have columns Mode, Specimen and Weight.\n"
+            "--store puts the potential into the material of the document, in one step.",
         .units = true,
         .csv = true,
         .make = &MakeCommand<Fit>};

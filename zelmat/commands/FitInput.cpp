@@ -129,7 +129,7 @@ bool FitInput::ReadWeights(Findings& findings) {
     return true;
 }
 
-bool FitInput::Read(CommandContext& context) {
+bool FitInput::Read(CommandContext& context, std::optional<Material> material) {
     Findings& findings = context.findings;
     temperature_ = OptionNumberIfGiven("--temperature", temperatureText_, "temperature", findings);
     if (!ReadModes(findings) || !ReadLimits(findings) || !ReadWeights(findings) || findings.HasErrors()) {
@@ -137,6 +137,11 @@ bool FitInput::Read(CommandContext& context) {
     }
     const std::string& path = what_.front();
     place_ = {ShownPath(path), 0};
+    if (material) {
+        material_ = std::move(material);
+        name_ = material_->name;
+        return true;
+    }
     // Standard input can be read once, so it is a card or a document.
     const auto text = path == "-" ? std::optional<std::string>("") : ReadText(path, findings);
     if (!text) return false;

@@ -18,8 +18,13 @@ class FitInput {
 public:
     void Declare(CLI::App& line);
 
-    /// Takes the options apart and reads what was given. False, and findings, when something is wrong.
-    bool Read(CommandContext& context);
+    const std::string& Path() const { return what_.front(); }
+    /// Which of a document's materials; empty: not said.
+    std::string Wanted() const { return what_.size() > 1 ? what_[1] : std::string(); }
+
+    /// Takes the options apart and reads what was given; with a material, that one is what was given. False,
+    /// and findings, when something is wrong.
+    bool Read(CommandContext& context, std::optional<Material> material = std::nullopt);
 
     const std::string& Name() const { return name_; }  ///< of the material, or of the file
     const Place& Where() const { return place_; }
