@@ -33,6 +33,7 @@ TEST(FitStore, PutsAFitIntoTheMaterialAsOneStepThatUndoTakesBack) {
     const ProgramRun run = Store(path, {"Vulc", "--model", "YEOH"});
     EXPECT_EQ(run.exitCode, 0) << run.err;
     EXPECT_THAT(run.out, HasSubstr("stored: step "));
+    EXPECT_THAT(RunZelmat({"log", path}).out, HasSubstr("Store a fit in Vulcanised"));
 
     const ResultJson stored({"at", path, "Vulc", "hyperelastic"});
     EXPECT_EQ(stored["model"], "YEOH");
