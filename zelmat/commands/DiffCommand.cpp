@@ -5,6 +5,8 @@
 
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/layups/LayupDifferences.h"
+#include "zelmat/layups/WholeLayup.h"
 #include "zelmat/materials/Differences.h"
 #include "zelmat/text/Printable.h"
 
@@ -12,14 +14,20 @@ namespace zelmat {
 
 namespace {
 
-/// A material of both sides, or of one.
+/// A material or layup of both sides, or of one.
 struct DiffPair {
-    const Material* before = nullptr;
-    const Material* after = nullptr;
-    std::vector<Difference> differences = {};  // where there are both
+    std::string name;
+    bool inA = false;
+    bool inB = false;
+    std::vector<Difference> differences = {};  // where it is in both
 
-    bool IsSame() const { return before && after && differences.empty(); }
-    const std::string& Name() const { return (before ? before : after)->name; }
+    bool IsSame() const { return inA && inB && differences.empty(); }
+};
+
+/// What one side holds.
+struct DiffContent {
+    std::vector<Material> materials = {};
+    std::vector<LayupCard> layups = {};
 };
 
 /// "DOC#3": the document as it was after its step 3, unless there is a file of that name.
@@ -39,10 +47,25 @@ struct DiffSide {
         step = number;
     }
 
-    std::vector<Material> Read(const CommandContext& context) const {
-        if (!step) return ReadGivenMaterials(path, context.options, context.findings);
-        const auto document = DocumentToRead::Open(path, context.options.catalogs, context.findings, step);
-        return document ? document->Materials(context.findings) : std::vector<Material>();
+    DiffContent Read(const CommandContext& context) const {
+        Findings& findings = context.findings;
+        if (step) {
+            return Held(DocumentToRead::Open(path, context.options.catalogs, findings, step).get(), findings);
+        }
+        GivenFile given = OpenGiven(path, context.options, findings);
+        if (given.text) return {.materials = CardsOfText(std::move(*given.text), path, findings)};
+        return Held(given.document.get(), findings);
+    }
+
+private:
+    static DiffContent Held(DocumentToRead* document, Findings& findings) {
+        DiffContent content;
+        if (!document) return content;
+        content.materials = document->Materials(findings);
+        for (WholeLayup& layup : ReadWholeLayups(document->Document(), document->Name(), findings)) {
+            content.layups.push_back(std::move(layup.card));
+        }
+        return content;
     }
 };
 
@@ -58,7 +81,31 @@ nlohmann::ordered_json SideJson(const DifferenceSide& side) {
     return json;
 }
 
-/// Compares materials value for value.
+/// Pairs by name, of equal names the first with the first; two alone whatever their names. `compare` answers
+/// in what two differ.
+template <class Each, class Compare>
+std::vector<DiffPair> Pairs(const std::vector<Each>& a, const std::vector<Each>& b, Compare compare) {
+    if (a.size() == 1 && b.size() == 1) {
+        return {{a.front().name, true, true, compare(a.front(), b.front())}};
+    }
+    std::vector<DiffPair> pairs;
+    std::vector<bool> taken(b.size(), false);
+    for (const Each& before : a) {
+        DiffPair pair{before.name, true, false};
+        for (std::size_t at = 0; at < b.size() && !pair.inB; ++at) {
+            if (taken[at] || b[at].name != before.name) continue;
+            taken[at] = pair.inB = true;
+            pair.differences = compare(before, b[at]);
+        }
+        pairs.push_back(std::move(pair));
+    }
+    for (std::size_t at = 0; at < b.size(); ++at) {
+        if (!taken[at]) pairs.push_back({b[at].name, false, true});
+    }
+    return pairs;
+}
+
+/// Compares materials and layups value for value.
 class Diff final : public Command {
 public:
     void Declare(CLI::App& line) override {
@@ -67,102 +114,88 @@ public:
     }
 
     void Work(CommandContext& context) override {
-        a_ = DiffSide(before_).Read(context);
-        b_ = DiffSide(after_).Read(context);
+        const DiffContent a = DiffSide(before_).Read(context);
+        const DiffContent b = DiffSide(after_).Read(context);
         if (context.findings.HasErrors()) return;
-        Pair();
-        for (DiffPair& pair : pairs_) {
-            if (pair.before && pair.after) {
-                pair.differences = Differences(*pair.before, *pair.after, context.units);
-            }
-        }
+        materials_ = Pairs(a.materials, b.materials, [&](const Material& before, const Material& after) {
+            return Differences(before, after, context.units);
+        });
+        layups_ = Pairs(a.layups, b.layups, [&](const LayupCard& before, const LayupCard& after) {
+            return LayupDifferences(before, after, context.units);
+        });
         compared_ = true;
     }
 
     ExitCode Outcome() const override {
-        const bool same =
-            std::all_of(pairs_.begin(), pairs_.end(), [](const DiffPair& pair) { return pair.IsSame(); });
-        return !compared_ || same ? EXIT_CLEAN : EXIT_FINDINGS;
+        const auto same = [](const std::vector<DiffPair>& pairs) {
+            return std::all_of(pairs.begin(), pairs.end(),
+                               [](const DiffPair& pair) { return pair.IsSame(); });
+        };
+        return !compared_ || (same(materials_) && same(layups_)) ? EXIT_CLEAN : EXIT_FINDINGS;
     }
 
     void Print(std::ostream& out) const override {
-        for (const DiffPair& pair : pairs_) {
-            if (pair.IsSame()) continue;
-            out << Printable(pair.Name());
-            if (!pair.after) out << ": only in " << Printable(before_);
-            if (!pair.before) out << ": only in " << Printable(after_);
-            out << '\n';
-            for (const Difference& difference : pair.differences) {
-                out << "  " << Printable(difference.key);
-                if (difference.row > 0) out << " row " << difference.row;
-                out << ": " << SideText(difference.before) << " -> " << SideText(difference.after) << '\n';
-            }
-        }
+        for (const DiffPair& pair : materials_) PrintPair(out, "", pair);
+        for (const DiffPair& pair : layups_) PrintPair(out, "layup ", pair);
     }
 
     nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json = {{"same", nullptr}, {"materials", nlohmann::ordered_json::array()}};
-        if (!compared_) return json;
-        json["same"] = Outcome() == EXIT_CLEAN;
-        for (const DiffPair& pair : pairs_) {
+        nlohmann::ordered_json json = {
+            {"same", nullptr}, {"materials", PairsJson(materials_)}, {"layups", PairsJson(layups_)}};
+        if (compared_) json["same"] = Outcome() == EXIT_CLEAN;
+        return json;
+    }
+
+private:
+    void PrintPair(std::ostream& out, const char* noun, const DiffPair& pair) const {
+        if (pair.IsSame()) return;
+        out << noun << Printable(pair.name);
+        if (!pair.inB) out << ": only in " << Printable(before_);
+        if (!pair.inA) out << ": only in " << Printable(after_);
+        out << '\n';
+        for (const Difference& difference : pair.differences) {
+            out << "  " << Printable(difference.key);
+            if (difference.row > 0) out << " row " << difference.row;
+            out << ": " << SideText(difference.before) << " -> " << SideText(difference.after) << '\n';
+        }
+    }
+
+    static nlohmann::ordered_json PairsJson(const std::vector<DiffPair>& pairs) {
+        nlohmann::ordered_json json = nlohmann::ordered_json::array();
+        for (const DiffPair& pair : pairs) {
             if (pair.IsSame()) continue;
-            nlohmann::ordered_json one = {{"name", pair.Name()},
-                                          {"in_a", pair.before != nullptr},
-                                          {"in_b", pair.after != nullptr},
-                                          {"differences", nlohmann::ordered_json::array()}};
+            nlohmann::ordered_json& one = json.emplace_back(
+                nlohmann::ordered_json{{"name", pair.name}, {"in_a", pair.inA}, {"in_b", pair.inB}});
+            one["differences"] = nlohmann::ordered_json::array();
             for (const Difference& difference : pair.differences) {
                 one["differences"].push_back({{"key", difference.key},
                                               {"row", difference.row},
                                               {"a", SideJson(difference.before)},
                                               {"b", SideJson(difference.after)}});
             }
-            json["materials"].push_back(std::move(one));
         }
         return json;
     }
 
-private:
-    /// By name, of equal names the first with the first; two materials alone whatever their names.
-    void Pair() {
-        if (a_.size() == 1 && b_.size() == 1) {
-            pairs_.push_back({&a_.front(), &b_.front()});
-            return;
-        }
-        std::vector<bool> taken(b_.size(), false);
-        for (const Material& material : a_) {
-            DiffPair pair{&material, nullptr};
-            for (std::size_t at = 0; at < b_.size() && !pair.after; ++at) {
-                if (taken[at] || b_[at].name != material.name) continue;
-                taken[at] = true;
-                pair.after = &b_[at];
-            }
-            pairs_.push_back(std::move(pair));
-        }
-        for (std::size_t at = 0; at < b_.size(); ++at) {
-            if (!taken[at]) pairs_.push_back({nullptr, &b_[at]});
-        }
-    }
-
     std::string before_;
     std::string after_;
-    std::vector<Material> a_;
-    std::vector<Material> b_;
-    std::vector<DiffPair> pairs_;
+    std::vector<DiffPair> materials_;
+    std::vector<DiffPair> layups_;
     bool compared_ = false;
 };
 
 }  // namespace
 
 CommandKind DiffCommand() {
-    return {
-        .name = "diff",
-        .brief = "compare cards, documents or steps of a document, value for value",
-        .text =
-            "Compare the materials of two cards, documents or steps of a document (DOC#3 DOC#7; #0: before\n"
-            "the first that is kept), value for value, with units. Materials are compared by name, one\n"
-            "with one whatever their names. Exit code 0: they are the same, 1: they differ.",
-        .units = true,
-        .make = &MakeCommand<Diff>};
+    return {.name = "diff",
+            .brief = "compare cards, documents or steps of a document, value for value",
+            .text =
+                "Compare the materials and layups of two cards, documents or steps of a document (DOC#3 "
+                "DOC#7; #0: before\n"
+                "the first that is kept), value for value, with units. Materials are compared by name, one\n"
+                "with one whatever their names. Exit code 0: they are the same, 1: they differ.",
+            .units = true,
+            .make = &MakeCommand<Diff>};
 }
 
 }  // namespace zelmat

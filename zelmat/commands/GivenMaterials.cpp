@@ -74,17 +74,24 @@ std::vector<Material> GivenMaterials::ReadAll(CommandContext& context) const {
 }
 
 std::optional<Material> GivenMaterials::ReadOne(CommandContext& context) const {
-    auto materials = ReadAll(context);
-    if (context.findings.HasErrors()) return std::nullopt;
+    auto materials = ReadGivenMaterials(path_, context.options, context.findings, how_);
+    return context.findings.HasErrors() ? std::nullopt : OneOf(std::move(materials), context.findings);
+}
+
+std::optional<Material> GivenMaterials::OneOf(std::vector<Material> materials, Findings& findings) const {
+    if (!material_.empty()) {
+        materials = Chosen(std::move(materials), findings);
+        if (materials.empty()) return std::nullopt;
+    }
     if (materials.size() == 1) return std::move(materials.front());
     std::vector<std::string> details = {"name one of them"};
     if (!materials.empty()) details.push_back("has: " + WordList(NamesOf(materials)));
-    context.findings.Add({FindingKind::USAGE,
-                          {ShownPath(path_), 0},
-                          materials.empty() ? "no-materials" : "several-materials",
-                          materials.empty() ? "there are no materials in it"
-                                            : "it holds " + CountText(materials.size(), "material"),
-                          materials.empty() ? std::vector<std::string>() : std::move(details)});
+    findings.Add({FindingKind::USAGE,
+                  {ShownPath(path_), 0},
+                  materials.empty() ? "no-materials" : "several-materials",
+                  materials.empty() ? "there are no materials in it"
+                                    : "it holds " + CountText(materials.size(), "material"),
+                  materials.empty() ? std::vector<std::string>() : std::move(details)});
     return std::nullopt;
 }
 

@@ -54,6 +54,9 @@ public:
     /// The one of these that MATERIAL names; none, and a finding, when it is none alone.
     std::vector<Material> Chosen(std::vector<Material> materials, Findings& findings) const;
 
+    /// The same; with MATERIAL left out there has to be one alone.
+    std::optional<Material> OneOf(std::vector<Material> materials, Findings& findings) const;
+
     /// For a command whose line ends with an argument of its own: with MATERIAL left out, the parser has
     /// taken that argument for MATERIAL. Gives it back.
     std::string TakeMaterial() { return std::exchange(material_, {}); }

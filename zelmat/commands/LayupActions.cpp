@@ -1,6 +1,7 @@
 #include "zelmat/commands/LayupActions.h"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <map>
 
 #include "zelmat/commands/LayupReport.h"
@@ -8,20 +9,14 @@
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/layups/DocumentLayups.h"
+#include "zelmat/layups/KeptLayupCard.h"
 #include "zelmat/materials/StatusText.h"
 #include "zelmat/text/Printable.h"
-#include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
 
 namespace {
-
-LayupCard CardOf(const StoredLayup& stored) {
-    LayupCard card;
-    card.name = stored.name;
-    return card;
-}
 
 std::optional<DocumentLayup> Chosen(KORMemoryDocument& document, const std::string& wanted,
                                     const std::string& path, Findings& findings) {
@@ -32,21 +27,57 @@ std::optional<DocumentLayup> Chosen(KORMemoryDocument& document, const std::stri
     return chosen ? std::optional(std::move(layups[*chosen])) : std::nullopt;
 }
 
-/// The card's layers, of materials of the document; a finding for each material that it does not have.
-std::vector<NewLayer> LayersOf(KORMemoryDocument& document, const LayupCard& card, const std::string& path,
-                               Findings& findings) {
-    std::map<std::string, KORISpecObject_var> known;
+using LinkedMaterials = std::map<std::string, KORISpecObject_var>;
+
+/// What the card's layers are of, in the document; a finding for each material that it does not have.
+LinkedMaterials MaterialsOfLayers(KORMemoryDocument& document, const LayupCard& card, const std::string& path,
+                                  Findings& findings) {
+    LinkedMaterials linked;
+    for (const CardLayer& given : card.layers) {
+        if (!given.material || linked.contains(*given.material)) continue;
+        const auto material = ChosenMaterial(document, *given.material, path, findings);
+        linked[*given.material] = material ? material->feature : KORISpecObject_var();
+    }
+    return linked;
+}
+
+std::vector<NewLayer> LayersOf(const LayupCard& card, const LinkedMaterials& linked) {
     std::vector<NewLayer> layers;
     for (const CardLayer& given : card.layers) {
-        NewLayer layer{{}, given.thickness, given.angle};
-        if (given.material && !known.contains(*given.material)) {
-            const auto material = ChosenMaterial(document, *given.material, path, findings);
-            known[*given.material] = material ? material->feature : KORISpecObject_var();
-        }
-        if (given.material) layer.material = known[*given.material];
-        layers.push_back(layer);
+        layers.push_back({given.material ? linked.at(*given.material) : KORISpecObject_var(), given.thickness,
+                          given.angle});
     }
     return layers;
+}
+
+/// A layup's card with the layers of a notation: what was said of laminate and plies stays, what was found of
+/// the other layers goes.
+LayupCard WithLayersOf(LayupCard card, const LayupCard& notation) {
+    card.layers = notation.layers;
+    card.materials.insert(card.materials.end(), notation.materials.begin(), notation.materials.end());
+    std::erase_if(card.kept, [](const KeptValue& kept) {
+        return kept.name == "total_thickness" || kept.name == "published" || kept.name == "computed";
+    });
+    return card;
+}
+
+/// Gives a layup the card's layers and keeps what else the card says; the status of what fails.
+HRESULT Give(KORMemoryDocument& document, const DocumentLayup& layup, const LayupCard& card,
+             const LinkedMaterials& linked) {
+    LayupCard kept = card;
+    Findings none;  // a layup that cannot be read has nothing that could stay
+    if (card.layersLine == 0) {
+        const auto before = ReadWholeLayup(document, layup, {}, none);
+        if (before) kept = WithLayersOf(before->card, card);
+    }
+    const HRESULT status = SetLayers(document, layup.feature, LayersOf(card, linked));
+    if (FAILED(status)) return status;
+    return KeepLayupCard(document, layup.feature, kept, linked) ? S_OK : E_FAIL;
+}
+
+bool IsFile(const std::string& path) {
+    std::error_code none;
+    return std::filesystem::is_regular_file(path, none);
 }
 
 }  // namespace
@@ -54,25 +85,30 @@ std::vector<NewLayer> LayersOf(KORMemoryDocument& document, const LayupCard& car
 void LayupActions::Declare(CLI::App& line) {
     line.add_option("ACTION", action_, "With a document: list, show, add, set, remove")
         ->check(CLI::IsMember({"list", "show", "add", "set", "remove"}));
-    line.add_option("NAME", name_, "Of a layup of the document; a beginning, or #number");
+    line.add_option("NAME", name_,
+                    "Of a layup of the document; a beginning, or #number. add CARD: the card's");
     line.add_option("STACK", stack_, "To add or set: stacking notation, or layup card");
 }
 
 void LayupActions::Work(CommandContext& context, const std::string& path, const ReadStack& read) {
     Findings& findings = context.findings;
     const bool changes = action_ == "add" || action_ == "set";
-    if ((action_ != "list" && name_.empty()) || changes == stack_.empty()) {
+    const bool named = !(action_ == "add" && stack_.empty() && IsFile(name_));
+    if (!named) stack_ = std::exchange(name_, {});
+    if ((action_ != "list" && named && name_.empty()) || changes == stack_.empty()) {
         findings.Add(
             {FindingKind::USAGE,
              {"zelmat layup", 0},
              "usage",
-             "expected DOC list, DOC show NAME, DOC add NAME STACK, DOC set NAME STACK or DOC remove NAME",
+             "expected DOC list, DOC show NAME, DOC add NAME STACK, DOC add CARD, DOC set NAME STACK or DOC "
+             "remove NAME",
              {}});
         return;
     }
     if (action_ == "list" || action_ == "show") return List(context, path);
     const auto card = changes ? read(stack_, findings) : std::nullopt;
     if (changes && !card) return;
+    if (!named) name_ = card->name;
     Change(context, path, card);
 }
 
@@ -87,14 +123,12 @@ void LayupActions::List(CommandContext& context, const std::string& path) {
         layups = {*chosen};
     }
     for (const DocumentLayup& layup : layups) {
-        if (auto stored = ReadLayup(layup.feature)) {
-            layups_.push_back(std::move(*stored));
-            if (action_ == "show") ReportValidity(CardOf(layups_.back()), layups_.back(), findings);
-        } else {
-            findings.Add({FindingKind::ERROR, {path, 0}, "not-read", layup.name + " could not be read", {}});
-        }
+        auto whole = ReadWholeLayup(document->Document(), layup, path, findings);
+        if (!whole) continue;
+        if (action_ == "show") ReportValidity(whole->card, whole->stored, findings);
+        layups_.push_back(std::move(*whole));
     }
-    read_ = true;
+    read_ = action_ == "list" || !layups_.empty();
 }
 
 void LayupActions::Change(CommandContext& context, const std::string& path,
@@ -117,7 +151,7 @@ void LayupActions::Change(CommandContext& context, const std::string& path,
                      {}});
         }
     }
-    const auto layers = card ? LayersOf(document, *card, path, own) : std::vector<NewLayer>();
+    const auto linked = card ? MaterialsOfLayers(document, *card, path, own) : LinkedMaterials();
     findings.Add(own);
     if (own.HasErrors()) return;
     const std::string name = layup ? layup->name : name_;
@@ -132,7 +166,7 @@ void LayupActions::Change(CommandContext& context, const std::string& path,
             RemoveLayup(document, layup->feature);
         } else {
             const auto feature = layup ? layup->feature : NewLayup(document, name, status);
-            if (feature) status = SetLayers(document, feature, layers);
+            if (feature) status = Give(document, {feature, name}, *card, linked);
         }
     }
     if (FAILED(status)) {
@@ -151,25 +185,21 @@ void LayupActions::Print(std::ostream& out, const UnitChoice& units) const {
     if (change_) PrintChange(out, *change_);
     if (!read_) return;
     if (action_ == "show") {
-        PrintLayup(out, CardOf(layups_.front()), layups_.front(), units);
+        PrintLayup(out, layups_.front().card, layups_.front().stored, units);
         return;
     }
-    TablePrinter printer({"#", "layup", "layers", "notation"});
-    for (const std::size_t words : {1u, 3u}) printer.SetLeft(words);
-    for (std::size_t at = 0; at < layups_.size(); ++at) {
-        const StoredLayup& layup = layups_[at];
-        printer.AddRow(
-            {std::to_string(at + 1), layup.name, std::to_string(layup.layers.size()), layup.Notation()});
-    }
-    if (!layups_.empty()) printer.Print(out);
-    out << (layups_.empty() ? "" : "\n") << "layups: " << layups_.size() << '\n';
+    std::vector<StoredLayup> stored;
+    for (const WholeLayup& layup : layups_) stored.push_back(layup.stored);
+    PrintLayupList(out, stored);
 }
 
 nlohmann::ordered_json LayupActions::Json(const UnitChoice& units) const {
     nlohmann::ordered_json json;
     AddChange(json, change_);
     json["layups"] = nlohmann::ordered_json::array();
-    for (const StoredLayup& layup : layups_) json["layups"].push_back(ToJson(CardOf(layup), layup, units));
+    for (const WholeLayup& layup : layups_) {
+        json["layups"].push_back(ToJson(layup.card, layup.stored, units));
+    }
     return json;
 }
 

@@ -8,7 +8,7 @@
 #include "zelmat/commands/ChangeReport.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/layups/LayupCard.h"
-#include "zelmat/layups/StoredLayup.h"
+#include "zelmat/layups/WholeLayup.h"
 
 namespace zelmat {
 
@@ -36,7 +36,7 @@ private:
     std::string action_;
     std::string name_;
     std::string stack_;  // a notation, or the path of a card
-    std::vector<StoredLayup> layups_;
+    std::vector<WholeLayup> layups_;
     bool read_ = false;
     std::optional<SavedChange> change_;
 };

@@ -131,6 +131,18 @@ void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& sto
     PrintMaterials(out, card, units);
 }
 
+void PrintLayupList(std::ostream& out, const std::vector<StoredLayup>& layups) {
+    TablePrinter printer({"#", "layup", "layers", "notation"});
+    for (const std::size_t words : {1u, 3u}) printer.SetLeft(words);
+    for (std::size_t at = 0; at < layups.size(); ++at) {
+        const StoredLayup& layup = layups[at];
+        printer.AddRow(
+            {std::to_string(at + 1), layup.name, std::to_string(layup.layers.size()), layup.Notation()});
+    }
+    if (!layups.empty()) printer.Print(out);
+    out << (layups.empty() ? "" : "\n") << "layups: " << layups.size() << '\n';
+}
+
 ordered_json ToJson(const LayupCard& card, const StoredLayup& stored, const UnitChoice& units) {
     const Shown length(*FindQuantity("length"), units);
     std::vector<double> interfaces = stored.Interfaces();

@@ -17,7 +17,10 @@ void ReportValidity(const LayupCard& card, const StoredLayup& stored, Findings& 
 /// valid and used, and the constants of its materials. Numbers are in the units chosen.
 void PrintLayup(std::ostream& out, const LayupCard& card, const StoredLayup& stored, const UnitChoice& units);
 
-/// The same for programs, each number with its unit beside it.
+/// A line for each of several, and how many they are.
+void PrintLayupList(std::ostream& out, const std::vector<StoredLayup>& layups);
+
+/// The same as PrintLayup for programs, each number with its unit beside it.
 nlohmann::ordered_json ToJson(const LayupCard& card, const StoredLayup& stored, const UnitChoice& units);
 
 }  // namespace zelmat

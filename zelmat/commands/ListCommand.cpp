@@ -3,6 +3,8 @@
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/LayupReport.h"
+#include "zelmat/layups/WholeLayup.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"
@@ -38,7 +40,7 @@ std::vector<std::string> OtherData(const Material& material) {
     return names;
 }
 
-/// One line for each material of a document.
+/// One line for each material of a document, and one for each layup.
 class List final : public Command {
 public:
     void Declare(CLI::App& line) override {
@@ -47,7 +49,16 @@ public:
     }
 
     void Work(CommandContext& context) override {
-        materials_ = ReadGivenMaterials(path_, context.options, context.findings, how_);
+        Findings& findings = context.findings;
+        GivenFile given = OpenGiven(path_, context.options, findings);
+        if (given.document) {
+            materials_ = given.document->Materials(findings);
+            for (WholeLayup& layup : ReadWholeLayups(given.document->Document(), path_, findings)) {
+                layups_.push_back(std::move(layup.stored));
+            }
+        } else if (given.text) {
+            materials_ = CardsOfText(std::move(*given.text), path_, findings, how_);
+        }
         read_ = !context.findings.HasErrors();
     }
 
@@ -65,10 +76,14 @@ public:
             out << '\n';
         }
         out << "materials: " << materials_.size() << '\n';
+        if (layups_.empty()) return;
+        out << '\n';
+        PrintLayupList(out, layups_);
     }
 
     nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json = {{"materials", nlohmann::ordered_json::array()}};
+        nlohmann::ordered_json json = {{"materials", nlohmann::ordered_json::array()},
+                                       {"layups", nlohmann::ordered_json::array()}};
         for (std::size_t at = 0; at < materials_.size(); ++at) {
             const Material& material = materials_[at];
             nlohmann::ordered_json behaviors = nlohmann::ordered_json::array();
@@ -83,6 +98,12 @@ public:
                                          {"switched_on", std::move(behaviors)},
                                          {"further_data", OtherData(material)}});
         }
+        for (const StoredLayup& layup : layups_) {
+            json["layups"].push_back({{"number", json["layups"].size() + 1},
+                                      {"name", layup.name},
+                                      {"layers", layup.layers.size()},
+                                      {"notation", layup.Notation()}});
+        }
         return json;
     }
 
@@ -90,6 +111,7 @@ private:
     std::string path_;
     CardReading how_;
     std::vector<Material> materials_;
+    std::vector<StoredLayup> layups_;
     bool read_ = false;
 };
 
@@ -97,10 +119,11 @@ private:
 
 CommandKind ListCommand() {
     return {.name = "list",
-            .brief = "list the materials of a document, a line for each",
+            .brief = "list the materials and layups of a document, a line for each",
             .text =
                 "List the materials of a document, a line for each: its number, name and class, which\n"
-                "behaviors are switched on with how many rows, and what else the document keeps of it.",
+                "behaviors are switched on with how many rows, and what else the document keeps of it. Then\n"
+                "its layups, with number, layers and stacking notation.",
             .make = &MakeCommand<List>};
 }
 

@@ -6,6 +6,7 @@
 #include "framework/KORInstantiateComponent.h"
 #include "interfaces/KORIAlias.h"
 #include "interfaces/KORISamValidity.h"
+#include "zelmat/layups/KeptLayupCard.h"
 #include "zelmat/materials/FeatureValues.h"
 
 namespace zelmat {
@@ -17,11 +18,6 @@ constexpr const char* kLayup = "ZELLayupLT";
 constexpr const char* kPropertySet = "ZELZelmarPropertySetLT";
 constexpr const char* kMembers = "Children";
 
-std::string NameOf(const KORISpecObject_var& feature) {
-    const KORIAlias_var alias(feature);
-    return alias ? std::string(alias->GetAlias().View()) : std::string();
-}
-
 std::optional<StoredLayer> ReadLayer(const KORISpecObject_var& feature) {
     const ZELILayupLayer_var layer(feature);
     if (!layer) return std::nullopt;
@@ -31,7 +27,7 @@ std::optional<StoredLayer> ReadLayer(const KORISpecObject_var& feature) {
         FAILED(layer->GetOrientationAngle(stored.angle))) {
         return std::nullopt;
     }
-    if (material) stored.material = NameOf(material);
+    if (material) stored.material = VisibleName(material);
     return stored;
 }
 
@@ -59,11 +55,16 @@ void RemoveLayers(KORMemoryDocument& document, const KORISpecObject_var& layup) 
 
 }  // namespace
 
+std::string VisibleName(const KORISpecObject_var& feature) {
+    const KORIAlias_var alias(feature);
+    return alias ? std::string(alias->GetAlias().View()) : std::string();
+}
+
 std::vector<DocumentLayup> LayupsOf(KORMemoryDocument& document) {
     std::vector<DocumentLayup> layups;
     document.ForEachFeature(KORName::Intern(kLayup), [&](KORFeature& feature) {
         const KORISpecObject_var layup(&feature);
-        layups.push_back({layup, NameOf(layup)});
+        layups.push_back({layup, VisibleName(layup)});
     });
     return layups;
 }
@@ -74,7 +75,7 @@ std::optional<StoredLayup> ReadLayup(const KORISpecObject_var& feature) {
     KORListValKORISpecObject_var layers;
     if (!layup || !validity || FAILED(layup->GetLayers(layers))) return std::nullopt;
     StoredLayup stored;
-    stored.name = NameOf(feature);
+    stored.name = VisibleName(feature);
     for (int position = 1; position <= layers.Size(); ++position) {
         const auto layer = ReadLayer(layers[position]);
         if (!layer) return std::nullopt;
@@ -117,6 +118,7 @@ HRESULT SetLayers(KORMemoryDocument& document, const KORISpecObject_var& layup,
 }
 
 void RemoveLayup(KORMemoryDocument& document, const KORISpecObject_var& layup) {
+    RemoveKeptLayupCard(document, layup);
     RemoveLayers(document, layup);
     document.ForEachFeature(KORName::Intern(kPropertySet), [&](KORFeature& feature) {
         const KORISpecObject_var set(&feature);

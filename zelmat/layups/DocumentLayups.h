@@ -22,6 +22,9 @@ struct NewLayer {
     double angle = 0.0;           ///< deg
 };
 
+/// The visible name of a layup or of a material; empty when it has none.
+std::string VisibleName(const KORISpecObject_var& feature);
+
 /// The layups that lie in the document, in the order in which they were made.
 std::vector<DocumentLayup> LayupsOf(KORMemoryDocument& document);
 
@@ -36,7 +39,8 @@ KORISpecObject_var NewLayup(KORMemoryDocument& document, const std::string& name
 HRESULT SetLayers(KORMemoryDocument& document, const KORISpecObject_var& layup,
                   const std::vector<NewLayer>& layers);
 
-/// Takes a layup out of its set and out of the document, with its layers.
+/// Takes a layup out of its set and out of the document, with its layers and with what is
+/// kept of its card.
 void RemoveLayup(KORMemoryDocument& document, const KORISpecObject_var& layup);
 
 }  // namespace zelmat

@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "zelmat/materials/Material.h"
+
 namespace zelmat {
 
 /// A material that plies are made of, with its published constants. They are for reference: a layup keeps a
@@ -33,12 +35,14 @@ struct CardLayer {
 /// A layup card as it was read.
 struct LayupCard {
     std::string file;
-    int layersLine = 0;  ///< where the list of the layers stands
+    int layersLine = 0;  ///< where the list of the layers stands; 0 when it stands in no file
     std::string name;
     std::string description;
     std::vector<std::string> sources;
+    std::vector<std::string> notes;
     std::vector<PlyMaterial> materials;
     std::vector<CardLayer> layers;  ///< the bottom one first
+    std::vector<KeptValue> kept;    ///< units, convention and results, which the program does not work with
 };
 
 /// The unit of a ply material's constant; empty when there is no such constant.

@@ -29,9 +29,11 @@ constexpr std::array<std::pair<const char*, const char*>, 7> kQuantities = {{
 
 // "published" and "computed" hold stiffness matrices and moduli, for those who check an analysis against
 // them.
-const std::vector<std::string> kKeys = {"name",       "description",   "source", "units",
-                                        "convention", "ply_materials", "layers", "total_thickness",
-                                        "published",  "computed"};
+const std::vector<std::string> kKeys = {
+    "name",          "description", "source",          "notes",     "units",   "convention",
+    "ply_materials", "layers",      "total_thickness", "published", "computed"};
+constexpr std::array<const char*, 5> kKept = {"units", "convention", "total_thickness", "published",
+                                              "computed"};
 
 }  // namespace
 
@@ -66,10 +68,16 @@ void LayupCardReader::ReadCard(const JsonNode& root, LayupCard& card) const {
     if (root.Has("source")) {
         card.sources = root.At("source").OneOrMoreTexts().value_or(std::vector<std::string>());
     }
+    if (root.Has("notes")) {
+        card.notes = root.At("notes").OneOrMoreTexts().value_or(std::vector<std::string>());
+    }
     if (root.Has("units")) ReadUnits(root.At("units"));
     if (root.Has("ply_materials")) ReadMaterials(root.At("ply_materials"), card);
     if (const auto layers = root.Required("layers")) ReadLayers(*layers, card);
     if (root.Has("total_thickness")) CheckTotal(root.At("total_thickness"), card);
+    for (const char* key : kKept) {
+        if (root.Has(key)) card.kept.push_back({key, root.At(key).Json().dump()});
+    }
 }
 
 void LayupCardReader::ReadUnits(const JsonNode& units) const {

@@ -37,6 +37,12 @@ std::vector<KORISpecObject_var> FeatureValues::Features(const char* name) const 
     return features;
 }
 
+KORISpecObject_var FeatureValues::Feature(const char* name) const {
+    KORISpecAttrKey* const key = Key(name);
+    if (!key) return nullptr;
+    return KORISpecObject_var(KORBaseUnknown_var::Adopt(access_->GetComponent(key, 0)));
+}
+
 void FeatureValues::SetText(const char* name, std::string_view text) const {
     if (KORISpecAttrKey* const key = Key(name)) access_->SetString(key, KORUnicodeString(text), 0);
 }
@@ -51,6 +57,12 @@ void FeatureValues::SetNumbers(const char* name, const std::vector<double>& numb
     KORRawColldouble list;
     std::copy(numbers.begin(), numbers.end(), list.Extend(static_cast<int>(numbers.size())));
     access_->SetListOfDouble(key, list);
+}
+
+void FeatureValues::SetFeature(const char* name, KORISpecObject* feature) const {
+    if (KORISpecAttrKey* const key = Key(name)) {
+        access_->SetComponent(key, KORBaseUnknown_var::Of(feature).Get(), 0);
+    }
 }
 
 void FeatureValues::Append(const char* name, KORISpecObject* feature) const {

@@ -19,10 +19,12 @@ public:
     bool Flag(const char* name) const;
     std::optional<std::vector<double>> Numbers(const char* name) const;  ///< nothing: never valued
     std::vector<KORISpecObject_var> Features(const char* name) const;    ///< without empty entries
+    KORISpecObject_var Feature(const char* name) const;                  ///< null: none
 
     void SetText(const char* name, std::string_view text) const;
     void SetFlag(const char* name, bool flag) const;
     void SetNumbers(const char* name, const std::vector<double>& numbers) const;
+    void SetFeature(const char* name, KORISpecObject* feature) const;  ///< null: none
     void Append(const char* name, KORISpecObject* feature) const;
     void Empty(const char* name) const;  ///< a list
 

@@ -99,49 +99,4 @@ TEST_F(UndoCommand, LeavesALookedAtDocumentAlone) {
     EXPECT_TRUE(Contents(document_) == before);
 }
 
-using LogCommand = DocumentFolder;
-
-TEST_F(LogCommand, SaysWhenThereAreNoSteps) {
-    EXPECT_EQ(Run({"log", NewDocument()}), "no steps are kept\n");
-}
-
-TEST_F(LogCommand, RefusesWhatIsNoDocument) {
-    EXPECT_THAT(Refusal(3, {"log", Path("none.zeldoc")}), HasSubstr("none.zeldoc: error[unreadable]"));
-    EXPECT_THAT(Refusal(3, {"log", File("x.json", "{}")}), HasSubstr("x.json: error"));
-}
-
-using NewOfDocument = DocumentFolder;
-
-TEST_F(NewOfDocument, MakesAnEmptyDocument) {
-    EXPECT_EQ(Run({"new", Path("a.zeldoc")}), "made: a.zeldoc\n");
-    EXPECT_EQ(Run({"list", Path("a.zeldoc")}), "materials: 0\n");
-}
-
-TEST_F(NewOfDocument, RefusesAFileThatIsThere) {
-    const std::string document = DocumentOf({"copper_ofhc.json"});
-    const std::string before = Contents(document);
-
-    EXPECT_THAT(Refusal(3, {"new", document}), HasSubstr("a.zeldoc: error[not-made]"));
-    EXPECT_TRUE(Contents(document) == before);
-    EXPECT_THAT(Refusal(3, {"new", Path("none/a.zeldoc")}), HasSubstr("error[not-made]"));
-}
-
-TEST_F(NewOfDocument, WantsADocumentOrACardAndNotBoth) {
-    EXPECT_THAT(Refusal(2, {"new"}), HasSubstr("error[usage]"));
-    EXPECT_THAT(Refusal(2, {"new", Path("a.zeldoc"), "--card", "A"}), HasSubstr("error[usage]"));
-}
-
-using ListCommand = DocumentFolder;
-
-TEST_F(ListCommand, HasALineForEachMaterial) {
-    const std::string document = DocumentOf({"copper_ofhc.json", "natural_rubber_treloar.json"});
-    const std::string out = Run({"list", document});
-
-    EXPECT_THAT(out, HasSubstr("1  OFHC copper"));
-    EXPECT_THAT(out,
-                HasSubstr("density 1, thermal_expansion 1, conductivity 1, specific_heat 1, hyperelastic 1"));
-    EXPECT_THAT(out, HasSubstr("10 fits, test_data"));
-    EXPECT_THAT(out, HasSubstr("materials: 2"));
-}
-
 }  // namespace

@@ -1,0 +1,147 @@
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <filesystem>
+#include <functional>
+
+#include "tests/zelmat/support/DocumentFolder.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr uid_t kNobody = 65534;
+constexpr int kKilled = 128 + SIGXFSZ;  // as the shell tells it
+
+/// Does something in a process of its own; the process's number.
+pid_t Start(const std::function<int()>& work) {
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(work());
+    return child;
+}
+
+int ExitOf(pid_t child) {
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class DocumentsInTrouble : public DocumentFolder {
+protected:
+    std::string Card(const std::string& name) const {
+        return File(name + ".json", R"({"name": ")" + name + "\"}");
+    }
+
+    /// A card that makes a document grow by far more than a page.
+    std::string LargeCard() const {
+        return File("large.json", R"({"name": "Large", "description": ")" + std::string(200000, 'x') + "\"}");
+    }
+
+    /// Adds the large card where no file may become larger than the document is by now. Its save is cut
+    /// short: by a signal that kills, or, where that is ignored, by a write that fails.
+    int AddWithoutRoom(void (*onSignal)(int)) const {
+        const std::string card = LargeCard();
+        return ExitOf(Start([&] {
+            std::signal(SIGXFSZ, onSignal);
+            const rlim_t bytes = std::filesystem::file_size(document_);
+            const rlimit limit{bytes, bytes};
+            if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return -1;
+            return RunZelmat({"add", document_, card}).exitCode;
+        }));
+    }
+
+    /// Runs a command as a user who may write nothing here.
+    int RunAsNobody(const std::vector<std::string>& arguments) const {
+        return ExitOf(Start([&] {
+            if (::getuid() == 0 && (::setgid(kNobody) != 0 || ::setuid(kNobody) != 0)) return -1;
+            return RunZelmat(arguments).exitCode;
+        }));
+    }
+
+    std::size_t FilesThere() const {
+        const auto folder = std::filesystem::path(document_).parent_path();
+        return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(folder), {}));
+    }
+
+    const std::string document_ = NewDocument();
+};
+
+TEST_F(DocumentsInTrouble, KeepTheChangesOfAllWhoChangeThemAtOnce) {
+    const std::vector<std::string> names = {"A", "B", "C", "D", "E"};
+    std::vector<pid_t> running;
+    for (const std::string& name : names) {
+        running.push_back(Start([this, card = Card(name)] {
+            return RunZelmat({"add", document_, card}).exitCode;
+        }));
+    }
+    for (const pid_t child : running) EXPECT_EQ(ExitOf(child), 0);
+
+    EXPECT_THAT(Names(document_), testing::UnorderedElementsAreArray(names));
+    EXPECT_THAT(Run({"undo", document_, "5"}), HasSubstr("undone: step 1: Add "));
+}
+
+TEST_F(DocumentsInTrouble, AreTheOldOnesAfterACommandThatWasKilledInItsSave) {
+    Run({"add", document_, Card("A")});
+
+    EXPECT_EQ(AddWithoutRoom(SIG_DFL), kKilled);
+
+    EXPECT_THAT(Names(document_), ElementsAre("A"));
+    EXPECT_THAT(Run({"doctor", document_}), HasSubstr("sound"));
+    Run({"add", document_, LargeCard()});
+    EXPECT_THAT(Names(document_), ElementsAre("A", "Large"));
+}
+
+TEST_F(DocumentsInTrouble, AreTheOldOnesWhenTheDiskIsFull) {
+    Run({"add", document_, Card("A")});
+    const std::string before = Contents(document_);
+
+    EXPECT_EQ(AddWithoutRoom(SIG_IGN), 3);
+
+    EXPECT_THAT(Names(document_), ElementsAre("A"));
+    EXPECT_TRUE(Contents(document_) == before);
+    EXPECT_THAT(Run({"doctor", document_}), HasSubstr("sound"));
+}
+
+TEST_F(DocumentsInTrouble, CanBeLookedAtAndNotChangedWhereNothingMayBeWritten) {
+    Run({"add", document_, Card("A")});
+    const std::string card = Card("B");
+    const auto folder = std::filesystem::path(document_).parent_path();
+    using std::filesystem::perms;
+    const perms look = perms::owner_read | perms::group_read | perms::others_read;
+    const perms enter = perms::owner_exec | perms::group_exec | perms::others_exec;
+    std::filesystem::permissions(document_, look);
+    std::filesystem::permissions(folder, look | enter);
+    if (RunAsNobody({"help"}) != 0) {
+        std::filesystem::permissions(folder, perms::owner_all);
+        GTEST_SKIP() << "another user cannot run the program";
+    }
+    const std::string before = Contents(document_);
+
+    EXPECT_EQ(RunAsNobody({"list", document_}), 0);
+    EXPECT_EQ(RunAsNobody({"log", document_}), 0);
+    EXPECT_EQ(RunAsNobody({"doctor", document_}), 0);
+    EXPECT_EQ(RunAsNobody({"add", document_, card}), 3);
+    EXPECT_EQ(RunAsNobody({"undo", document_}), 3);
+
+    EXPECT_TRUE(Contents(document_) == before);
+    std::filesystem::permissions(folder, perms::owner_all);
+}
+
+TEST_F(DocumentsInTrouble, AreRefusedAndLeftAloneWhenTheirLastBytesAreGone) {
+    Run({"add", document_, Card("A"), Card("B")});
+    std::filesystem::resize_file(document_, std::filesystem::file_size(document_) - 100);
+    const std::string before = Contents(document_);
+    const std::size_t files = FilesThere();
+
+    EXPECT_THAT(Refusal(3, {"list", document_}), HasSubstr("a.zeldoc: error["));
+    EXPECT_THAT(Refusal(3, {"rename", document_, "A", "C"}), HasSubstr("a.zeldoc: error["));
+
+    EXPECT_TRUE(Contents(document_) == before);
+    EXPECT_EQ(FilesThere(), files);
+}
+
+}  // namespace
