@@ -77,8 +77,7 @@ public:
             models[name]["UUID"] = model.uuid;
             models[name].update(models_[name]);
         }
-        ordered_json others = own_.value("Models", ordered_json::object());
-        if (!others.is_object()) others = ordered_json::object();
+        const ordered_json others = OwnMap("Models");
         for (const auto& [name, model] : others.items()) {
             models[models.contains(name) ? name + " (of the card)" : name] = model;
         }
@@ -87,13 +86,21 @@ public:
     }
 
 private:
+    /// A part of what the card keeps of this form; empty, and told, where the card has something else there.
+    ordered_json OwnMap(const std::string& part) {
+        ordered_json map = own_.value(part, ordered_json::object());
+        if (map.is_object()) return map;
+        NotHeld("fcmat." + part, 0, {"a map is due"});
+        return ordered_json::object();
+    }
+
     void AddGeneral() {
         for (const Block& block : material_.information) {
             if (block.kind->name == "fcmat") own_ = ordered_json::parse(block.kept.front().json);
         }
+        if (!own_.is_object() && !own_.is_null()) NotHeld("fcmat", 0, {"a map of parts is due"});
         if (!own_.is_object()) own_ = ordered_json::object();
-        ordered_json general = own_.value("General", ordered_json::object());
-        if (!general.is_object()) general = ordered_json::object();  // a card may hold anything there
+        ordered_json general = OwnMap("General");
         if (!general.contains("UUID")) general["UUID"] = Identifier(material_.name);
         general["Name"] = material_.name;
         if (!material_.description.empty()) general["Description"] = material_.description;

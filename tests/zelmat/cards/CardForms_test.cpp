@@ -213,4 +213,21 @@ TEST(CardForms, FcmatHoldsOneNumberAPropertyAndListsTheRest) {
     EXPECT_THAT(text, HasSubstr("    ThermalExpansionReferenceTemperature: \"293.25 K\"\n"));
 }
 
+TEST(CardForms, FcmatListsPartsOfItsOwnThatAreNoMaps) {
+    const auto notHeld = [](const std::string& kept) {
+        zelmat::Findings findings;
+        const auto cards = Read(R"({"name": "a", "fcmat": )" + kept + "}");
+        const std::string text = zelmat::FindCardForm("fcmat")->write(cards, findings);
+        EXPECT_THAT(text, HasSubstr("General:\n  UUID: "));
+        EXPECT_THAT(text, HasSubstr("  Name: \"a\"\n"));
+        std::string lines;
+        for (const auto& finding : findings.All()) lines += finding.text + '\n';
+        return lines;
+    };
+    EXPECT_EQ(notHeld("{}"), "");
+    EXPECT_EQ(notHeld("3"), "the form fcmat has no place for fcmat\n");
+    EXPECT_EQ(notHeld(R"({"General": "x"})"), "the form fcmat has no place for fcmat.General\n");
+    EXPECT_EQ(notHeld(R"({"Models": [1]})"), "the form fcmat has no place for fcmat.Models\n");
+}
+
 }  // namespace
