@@ -9,7 +9,7 @@ mkdir -p "$folder"
 folder=$(realpath "$folder")
 cd "$root"
 # A user's own units would change the pictures.
-export XDG_CONFIG_HOME=/no-such-folder
+export XDG_CONFIG_HOME=/dev/null/none
 
 drawn=$(mktemp -d)
 trap 'rm -rf "$drawn"' EXIT

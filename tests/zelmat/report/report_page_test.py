@@ -39,7 +39,7 @@ def expect(condition, text):
 
 def zelmat(*arguments):
     return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, text=True, check=False,
-                          env={"XDG_CONFIG_HOME": "/no-such-folder", "LANG": "C.UTF-8", "PATH": os.environ["PATH"],
+                          env={"XDG_CONFIG_HOME": "/dev/null/none", "LANG": "C.UTF-8", "PATH": os.environ["PATH"],
                                **LSAN})
 
 

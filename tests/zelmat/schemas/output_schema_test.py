@@ -22,7 +22,7 @@ LSAN = {name: value for name, value in os.environ.items() if name == "LSAN_OPTIO
 failures = []
 
 
-def zelmat(*arguments, home="/no-such-folder"):
+def zelmat(*arguments, home="/dev/null/none"):
     return subprocess.run([PROGRAM, *map(str, arguments)], capture_output=True, text=True, check=False,
                           env={"XDG_CONFIG_HOME": str(home), "LANG": "C.UTF-8", "PATH": os.environ["PATH"], **LSAN})
 

@@ -28,7 +28,7 @@ constexpr const char* kTestData = ZELMAT_TEST_DATA;
 /// For the shell: the program with its arguments, in the folder of the test cards.
 std::string CommandOf(const std::vector<std::string>& arguments,
                       const std::vector<std::string>& environment) {
-    std::string command = "cd " + Quoted(kTestData) + " && env XDG_CONFIG_HOME=/no-such-folder";
+    std::string command = "cd " + Quoted(kTestData) + " && env XDG_CONFIG_HOME=/dev/null/none";
     for (const std::string& setting : environment) command += " " + Quoted(setting);
     command += " " + Quoted(ZELMAT_PROGRAM);
     for (const std::string& argument : arguments) command += " " + Quoted(argument);
