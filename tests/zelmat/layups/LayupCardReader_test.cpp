@@ -97,7 +97,7 @@ TEST(LayupCardReader, ReportsMissingAndUnknownKeys) {
                             "card.json:1: error[missing-key]: the card lacks the key \"layers\""));
     EXPECT_THAT(Mistakes(CardWith(",\n\"layer\": []", kLayer)),
                 ElementsAre("card.json:6: error[unknown-key]: the card has no key \"layer\" (known: name, "
-                            "description, source, units, convention, ply_materials, layers, "
+                            "description, source, notes, units, convention, ply_materials, layers, "
                             "total_thickness, published, computed)"));
     EXPECT_THAT(Mistakes(CardWith("", R"({"material": "M", "angle": 0})")),
                 ElementsAre("card.json:4: error[unknown-key]: layers[0] has no key \"angle\" (known: "
