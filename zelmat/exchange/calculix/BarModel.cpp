@@ -56,7 +56,7 @@ std::vector<int> BarModel::Nodes(int bar, Face face) const {
         for (int y = 0; y <= 1; ++y) {
             for (int z = 0; z <= 1; ++z) {
                 const std::array<bool, 6> on = {x == 0, x == one.cubes, y == 0, y == 1, z == 0, z == 1};
-                if (on[face]) nodes.push_back(Node(one, x, y, z));
+                if (on[static_cast<std::size_t>(face)]) nodes.push_back(Node(one, x, y, z));
             }
         }
     }
