@@ -5,6 +5,7 @@
 
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/MaterialPairs.h"
 #include "zelmat/layups/LayupDifferences.h"
 #include "zelmat/layups/WholeLayup.h"
 #include "zelmat/materials/Differences.h"
@@ -68,11 +69,6 @@ private:
         return content;
     }
 };
-
-std::string SideText(const DifferenceSide& side) {
-    if (side.text.empty()) return "-";
-    return Printable(side.unit.empty() ? side.text : side.text + " " + side.unit);
-}
 
 nlohmann::ordered_json SideJson(const DifferenceSide& side) {
     if (side.text.empty()) return nullptr;
@@ -154,9 +150,7 @@ private:
         if (!pair.inA) out << ": only in " << Printable(after_);
         out << '\n';
         for (const Difference& difference : pair.differences) {
-            out << "  " << Printable(difference.key);
-            if (difference.row > 0) out << " row " << difference.row;
-            out << ": " << SideText(difference.before) << " -> " << SideText(difference.after) << '\n';
+            out << "  " << Printable(DifferenceText(difference)) << '\n';
         }
     }
 

@@ -4,16 +4,14 @@
 #include <iterator>
 
 #include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/MaterialChoice.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
-#include "zelmat/commands/WrongForm.h"
 #include "zelmat/exchange/CarryPage.h"
 #include "zelmat/exchange/ExportDeck.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/files/ReadText.h"
-#include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -107,28 +105,18 @@ private:
         return name;
     }
 
-    /// Standard input can be read once: what comes from there is taken for materials.
-    static bool IsLayup(const std::string& path) {
-        if (path == "-") return false;
-        Findings ignored;
-        const auto text = ReadText(path, ignored);
-        return text && FormOfText(*text) == FileForm::LAYUP_CARD;
-    }
-
     void Read(const std::string& path, const std::string& wanted, DeckContent& content,
               CommandContext& context) {
-        if (IsLayup(path)) {
-            if (auto layup = LayupCardReader(context.findings).Read(path)) {
-                content.layups.push_back(std::move(*layup));
-            }
-            return;
-        }
-        auto materials = ReadGivenMaterials(path, context.options, context.findings);
+        GivenContent given = ReadGiven(path, context.options, context.findings);
         if (context.findings.HasErrors()) return;
-        if (!wanted.empty()) KeepOne(materials, wanted, path, context.findings);
-        for (Material& material : materials) {
+        if (!wanted.empty()) {
+            KeepOne(given.materials, wanted, path, context.findings);
+            given.layups.clear();
+        }
+        for (Material& material : given.materials) {
             if (gate_.Passes(material, context.findings)) content.materials.push_back(std::move(material));
         }
+        for (LayupCard& layup : given.layups) content.layups.push_back(std::move(layup));
     }
 
     static void KeepOne(std::vector<Material>& materials, const std::string& wanted, const std::string& path,

@@ -71,9 +71,10 @@ CommandKind LaminateCommand() {
         .name = "laminate",
         .brief = "stiffness, moduli, ply stresses and first ply failure of a laminate",
         .text =
-            "What a laminate is by classical lamination theory: A, B, D and their inverse, moduli of "
-            "membrane\n"
-            "and bending, lamination parameters, thermal expansion, mass. Under --N, --M and --dT also what\n"
+            "What a laminate is by classical lamination theory, from a notation, a layup card or a layup of\n"
+            "a document, whose materials keep the constants of its plies: A, B, D and their inverse, moduli\n"
+            "of membrane and bending, lamination parameters, thermal expansion, mass. Under --N, --M and "
+            "--dT also what\n"
             "every ply bears and, with strengths, where it first fails by maximum stress, Tsai-Hill and\n"
             "Tsai-Wu. z counts upwards, the first layer lies at the bottom. zelmat laminate\n"
             "\"[0/45/-45/90]s\" --ply E1=181GPa,E2=10.3GPa,nu12=0.28,G12=7.17GPa --thickness 0.125mm",

@@ -5,6 +5,7 @@
 #include <cctype>
 #include <filesystem>
 
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/commands/WrongForm.h"
@@ -53,7 +54,8 @@ mechanics::Vector3 ReadVector(const char* option, const std::string& text, const
 }  // namespace
 
 void LaminateInput::Declare(CLI::App& line) {
-    line.add_option("NOTATION|CARD", layup_, "Stacking notation, or layup card")->required();
+    line.add_option("NOTATION|CARD|DOC", layup_, "Stacking notation, layup card, or document")->required();
+    line.add_option("LAYUP", wanted_, "Which layup of a document: its name, a beginning of it, or #number");
     auto* material = line.add_option("--material", material_, "Material card of a notation's plies");
     line.add_option(
             "--ply", ply_,
@@ -68,15 +70,31 @@ std::optional<LayupCard> LaminateInput::Read(CommandContext& context) const {
                                      [](unsigned char character) { return std::isalpha(character) != 0; });
     std::error_code none;
     const bool notation = (layup_.starts_with('[') || !letters) && !std::filesystem::exists(layup_, none);
-    if (notation) return FromNotation(context);
-    if (!material_.empty() || !ply_.empty() || !thickness_.empty()) {
-        context.findings.Add(UsageFinding("--material, --ply, --thickness", "not-for-a-card",
-                                          "a card gives material and thickness of each layer itself"));
+    const bool document = !notation && IsDocument(layup_);
+    if (!document && !wanted_.empty()) {
+        context.findings.Add(UsageFinding("LAYUP", "not-of-a-document",
+                                          QuotedText(layup_) + " has no layups to choose from",
+                                          {"zelmat laminate DOC LAYUP"}));
         return std::nullopt;
     }
+    if (notation) return FromNotation(context);
+    if (!material_.empty() || !ply_.empty() || !thickness_.empty()) {
+        context.findings.Add(
+            UsageFinding("--material, --ply, --thickness", "not-for-a-card",
+                         "a card or a document gives material and thickness of each layer itself"));
+        return std::nullopt;
+    }
+    if (document) return FromDocument(context);
     auto card = LayupCardReader(context.findings).Read(layup_);
     if (!card) NameRightCommand(layup_, FileForm::LAYUP_CARD, context.findings);
     return card;
+}
+
+std::optional<LayupCard> LaminateInput::FromDocument(CommandContext& context) const {
+    const GivenFile given = OpenGiven(layup_, context.options, context.findings);
+    if (!given.document) return std::nullopt;
+    const auto layup = ChosenLayup(given.document->Document(), wanted_, layup_, context.findings);
+    return layup ? LayupCardOf(*given.document, *layup, context.findings) : std::nullopt;
 }
 
 std::optional<LayupCard> LaminateInput::FromNotation(CommandContext& context) const {

@@ -10,7 +10,8 @@
 
 namespace zelmat {
 
-/// The laminate that a command works with: `NOTATION|CARD`, and of a notation what its plies are.
+/// The laminate that a command works with: `NOTATION|CARD|DOC [LAYUP]`, and of a notation what its plies
+/// are.
 class LaminateInput {
 public:
     void Declare(CLI::App& line);
@@ -19,11 +20,13 @@ public:
     std::optional<LayupCard> Read(CommandContext& context) const;
 
 private:
+    std::optional<LayupCard> FromDocument(CommandContext& context) const;
     std::optional<LayupCard> FromNotation(CommandContext& context) const;
     std::optional<PlyMaterial> Ply(CommandContext& context) const;
     std::optional<PlyMaterial> PlyOfText(Findings& findings) const;
 
     std::string layup_;
+    std::string wanted_;     // which layup of a document; empty: not said
     std::string material_;   // the path of a card
     std::string ply_;        // constants by name
     std::string thickness_;  // of each ply, with its unit

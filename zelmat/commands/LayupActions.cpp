@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <map>
 
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/LayupReport.h"
-#include "zelmat/commands/MaterialChoice.h"
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/layups/DocumentLayups.h"
@@ -17,15 +17,6 @@
 namespace zelmat {
 
 namespace {
-
-std::optional<DocumentLayup> Chosen(KORMemoryDocument& document, const std::string& wanted,
-                                    const std::string& path, Findings& findings) {
-    auto layups = LayupsOf(document);
-    std::vector<std::string> names;
-    for (const DocumentLayup& layup : layups) names.push_back(layup.name);
-    const auto chosen = ChooseMaterial(names, wanted, path, findings, "layup");
-    return chosen ? std::optional(std::move(layups[*chosen])) : std::nullopt;
-}
 
 using LinkedMaterials = std::map<std::string, KORISpecObject_var>;
 
@@ -118,7 +109,7 @@ void LayupActions::List(CommandContext& context, const std::string& path) {
     if (!document) return;
     auto layups = LayupsOf(document->Document());
     if (action_ == "show") {
-        const auto chosen = Chosen(document->Document(), name_, path, findings);
+        const auto chosen = ChosenLayup(document->Document(), name_, path, findings);
         if (!chosen) return;
         layups = {*chosen};
     }
@@ -140,7 +131,7 @@ void LayupActions::Change(CommandContext& context, const std::string& path,
     Findings own;
     std::optional<DocumentLayup> layup;
     if (action_ != "add") {
-        layup = Chosen(document, name_, path, own);
+        layup = ChosenLayup(document, name_, path, own);
     } else {
         for (const DocumentLayup& each : LayupsOf(document)) {
             if (each.name != name_) continue;

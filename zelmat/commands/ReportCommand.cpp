@@ -4,8 +4,10 @@
 
 #include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/PagePrinting.h"
+#include "zelmat/commands/ReportChanges.h"
 #include "zelmat/commands/ReportGathering.h"
 #include "zelmat/commands/WrittenReport.h"
+#include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/report/ReportPage.h"
 #include "zelmat/text/CountText.h"
@@ -30,6 +32,8 @@ public:
     void Declare(CLI::App& line) override {
         line.add_option("CARD|DOC", paths_, "Material cards, layup cards, documents")->required();
         line.add_option("--title", title_, "Of the page; else what it is given");
+        line.add_option("--since", since_, "Also list what has changed in the document since its step N")
+            ->type_name("N");
         line.add_option("--pdf", pdf_, "The same as a PDF on A4, through chromium");
     }
 
@@ -48,6 +52,14 @@ public:
         }
         const auto units = DrawnUnits(context.options, findings);
         if (!units) return;
+        if (since_ && (paths_.size() > 1 || !IsDocumentFile(paths_.front()))) {
+            findings.Add({FindingKind::USAGE,
+                          {"--since", 0},
+                          "not-a-document",
+                          "changes are told of one document that keeps its steps",
+                          {"zelmat report DOC --since N"}});
+            return;
+        }
         ReportContent content;
         Progress progress(context.notes);
         ReportGathering gathering(context, *units, content);
@@ -55,7 +67,11 @@ public:
             gathering.Add(paths_[i]);
             progress.Tell("read", i + 1, paths_.size(), "files");
         }
-        if (content.materials.empty() && content.layups.empty()) {
+        if (since_) {
+            AddChangesSince(*since_, paths_.front(), context, *units, content);
+            if (content.since.empty()) return;
+        }
+        if (content.materials.empty() && content.layups.empty() && content.changes.empty()) {
             if (!findings.HasErrors()) {
                 findings.Add({FindingKind::ERROR,
                               {paths_.front(), 0},
@@ -99,7 +115,7 @@ public:
 private:
     std::string Title(const ReportContent& content) const {
         if (!title_.empty()) return title_;
-        if (content.materials.size() + content.layups.size() > 1) return "Material data sheets";
+        if (content.materials.size() + content.layups.size() != 1) return "Material data sheets";
         return content.materials.empty() ? content.layups.front().card.name
                                          : content.materials.front().given.name;
     }
@@ -118,6 +134,7 @@ private:
     std::vector<std::string> paths_;
     std::string title_;  // empty: not said
     std::string pdf_;    // empty: none
+    std::optional<std::uint32_t> since_;
     std::size_t materials_ = 0, layups_ = 0, pictures_ = 0, bytes_ = 0;
     std::optional<WrittenFile> page_, printed_;
 };
@@ -125,15 +142,18 @@ private:
 }  // namespace
 
 CommandKind ReportCommand() {
-    return {.name = "report",
-            .brief = "make one page of data sheets of materials and layups",
-            .text =
-                "Make one HTML page that needs nothing besides: contents, and for every material and layup\n"
-                "a data sheet with identity, sources, tables, pictures, derived values and findings. It\n"
-                "prints on A4. A material with errors has its sheet, too; the command ends with 1 then.",
-            .output = "The page: FILE.html",
-            .units = true,
-            .make = &MakeCommand<Report>};
+    return {
+        .name = "report",
+        .brief = "make one page of data sheets of materials and layups",
+        .text =
+            "Make one HTML page that needs nothing besides: contents, and for every material and layup\n"
+            "a data sheet with identity, sources, tables, pictures, derived values and findings. It\n"
+            "prints on A4. Of a document --since N also lists what has changed in it since its step N "
+            "(zelmat\n"
+            "log), value for value. A material with errors has its sheet, too; the command ends with 1 then.",
+        .output = "The page: FILE.html",
+        .units = true,
+        .make = &MakeCommand<Report>};
 }
 
 }  // namespace zelmat

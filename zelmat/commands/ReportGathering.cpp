@@ -4,11 +4,8 @@
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/checks/Checks.h"
-#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/KeptReport.h"
-#include "zelmat/commands/WrongForm.h"
-#include "zelmat/files/ReadText.h"
-#include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/pictures/MaterialPictures.h"
 #include "zelmat/pictures/PictureDrawing.h"
@@ -16,13 +13,6 @@
 namespace zelmat {
 
 namespace {
-
-/// Standard input can be read once: what comes from there is taken for materials.
-bool IsLayupCard(const std::string& path) {
-    Findings ignored;
-    const auto text = path == "-" ? std::nullopt : ReadText(path, ignored);
-    return text && FormOfText(*text) == FileForm::LAYUP_CARD;
-}
 
 /// The pictures of one block after the other, so that a data sheet can put them where they belong.
 std::vector<ReportPicture> PicturesOf(const Material& material, const UnitChoice& units, Findings& findings) {
@@ -44,13 +34,9 @@ bool HasFits(const Material& material) {
 }  // namespace
 
 void ReportGathering::Add(const std::string& path) {
-    if (IsLayupCard(path)) {
-        AddLayup(path);
-        return;
-    }
-    for (Material& material : ReadGivenMaterials(path, context_.options, context_.findings)) {
-        AddMaterial(std::move(material));
-    }
+    GivenContent given = ReadGiven(path, context_.options, context_.findings);
+    for (Material& material : given.materials) AddMaterial(std::move(material));
+    for (LayupCard& card : given.layups) AddLayup(std::move(card));
 }
 
 void ReportGathering::AddMaterial(Material material) {
@@ -81,11 +67,9 @@ void ReportGathering::AddMaterial(Material material) {
     context_.findings.Add(added.findings);
 }
 
-void ReportGathering::AddLayup(const std::string& path) {
-    auto card = LayupCardReader(context_.findings).Read(path);
-    if (!card) return;
+void ReportGathering::AddLayup(LayupCard card) {
     ReportLayup& added = content_.layups.emplace_back();
-    added.card = std::move(*card);
+    added.card = std::move(card);
     added.findings = CheckLayup(added.card);
     added.stack = LayupDrawing(LayupOf(added.card), StackPicture(added.card, units_));
     for (Picture& picture : LayupPictures(added.card, units_, added.findings)) {

@@ -26,7 +26,7 @@ public:
 
 private:
     void AddMaterial(Material material);
-    void AddLayup(const std::string& path);
+    void AddLayup(LayupCard card);
 
     CommandContext& context_;
     const UnitChoice& units_;

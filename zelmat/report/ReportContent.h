@@ -51,9 +51,9 @@ struct ReportLayup {
     std::vector<ReportPicture> pictures;
 };
 
-/// A change in a document, in words.
+/// What has changed in a document, in words.
 struct ReportChange {
-    std::string step;  ///< "7, 2026-11-21: change"
+    std::string title;  ///< "Steps", or what has changed: "Material Steel"
     std::vector<std::string> lines;
 };
 

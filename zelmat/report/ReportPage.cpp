@@ -73,7 +73,7 @@ void WriteChanges(HtmlWriter& html, const ReportContent& content) {
     html.Text("h2", "Changes " + content.since, {{"id", "changes-title"}});
     if (content.changes.empty()) html.Text("p", "No changes.");
     for (const ReportChange& change : content.changes) {
-        html.Text("h3", change.step);
+        html.Text("h3", change.title, {{"dir", "auto"}});
         html.Open("ul");
         for (const std::string& line : change.lines) html.Text("li", line);
         html.Close("ul");
