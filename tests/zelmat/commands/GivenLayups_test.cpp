@@ -81,7 +81,7 @@ TEST_F(GivenLayups, AreInTheReportOfTheDocument) {
 }
 
 TEST_F(GivenLayups, AreInTheDeckOfTheDocument) {
-    const std::string document = DocumentOf({"steel_s355.json"}, "steel.zeldoc");
+    const std::string document = DocumentOf({"foam_rohacell71.json"}, "foam.zeldoc");
     Run({"layup", document, "add", "Plate", "[0]", "--material", "#1", "--thickness", "1mm"});
     const ProgramRun run = RunZelmat({"export", document, "--to", "calculix"});
 
