@@ -103,7 +103,8 @@ TEST(ReportPage, TellsChangesSinceAStepWhereAsked) {
 
     content.changes.push_back({"step 5", {"Steel: density 7800 became 7850"}});
 
-    EXPECT_THAT(Page(content), HasSubstr("<h3>step 5</h3>\n<ul>\n<li>Steel: density 7800 became 7850</li>"));
+    EXPECT_THAT(Page(content),
+                HasSubstr("<h3 dir=\"auto\">step 5</h3>\n<ul>\n<li>Steel: density 7800 became 7850</li>"));
     EXPECT_THAT(Page(content), HasSubstr("<a href=\"#changes\">"));
 }
 
