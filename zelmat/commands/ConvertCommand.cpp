@@ -8,7 +8,6 @@
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
-#include "zelmat/files/OutputFile.h"
 #include "zelmat/files/ReadText.h"
 
 namespace zelmat {
@@ -50,26 +49,15 @@ public:
         if (!good || !IsRoomFor(form, all.size(), context.findings)) return;
         std::string text = form.write(all, context.findings);
         if (output.empty()) {
-            text_ = std::move(text);
+            made_.text = std::move(text);
         } else {
             Write(output, text, paths_, context.findings);
         }
     }
 
-    void Print(std::ostream& out) const override {
-        if (text_) out << *text_;
-        for (const WrittenFile& file : written_) PrintWritten(out, "written", file);
-    }
+    void Print(std::ostream& out) const override { made_.Print(out); }
 
-    nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json = {
-            {"form", form_}, {"text", nullptr}, {"written", nlohmann::ordered_json::array()}};
-        for (const WrittenFile& file : written_) {
-            AddWritten(json["written"].emplace_back(nlohmann::ordered_json::object()), "file", file);
-        }
-        if (text_) json["text"] = *text_;
-        return json;
-    }
+    nlohmann::ordered_json Json() const override { return made_.Json(form_); }
 
 private:
     static bool IsRoomFor(const CardForm& form, std::size_t materials, Findings& findings) {
@@ -117,7 +105,7 @@ private:
     /// Two cards of one name must not end in one file.
     void WriteNew(const std::string& target, const std::string& text, const std::string& input,
                   Findings& findings) {
-        const bool isNew = std::none_of(written_.begin(), written_.end(),
+        const bool isNew = std::none_of(made_.files.begin(), made_.files.end(),
                                         [&](const WrittenFile& file) { return file.path == target; });
         if (isNew) {
             Write(target, text, {input}, findings);
@@ -132,15 +120,15 @@ private:
 
     void Write(const std::string& path, const std::string& text, const std::vector<std::string>& inputs,
                Findings& findings) {
-        if (auto file = WriteOutputFile(path, text, inputs, findings)) written_.push_back(std::move(*file));
+        if (auto file = WriteOutputFile(path, text, inputs, findings))
+            made_.files.push_back(std::move(*file));
     }
 
     std::vector<std::string> paths_;
     std::string form_;
     CardReading how_;
     WriteGate gate_;
-    std::optional<std::string> text_;  // when it goes to no file
-    std::vector<WrittenFile> written_;
+    WrittenForm made_;
 };
 
 }  // namespace

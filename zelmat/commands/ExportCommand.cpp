@@ -10,7 +10,6 @@
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/exchange/CarryPage.h"
 #include "zelmat/exchange/ExportDeck.h"
-#include "zelmat/files/OutputFile.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/text/WordList.h"
 
@@ -41,7 +40,7 @@ public:
     void Work(CommandContext& context) override {
         Findings& findings = context.findings;
         if (page_) {
-            text_ = CarryPage();
+            made_.text = CarryPage();
             return;
         }
         if (paths_.empty() || form_.empty()) {
@@ -62,26 +61,15 @@ public:
         std::vector<DeckFile> files = ExportDeck(form, content, *units, findings);
         if (files.empty()) return;
         if (context.options.output.empty()) {
-            text_ = std::move(files.front().text);
+            made_.text = std::move(files.front().text);
             return;
         }
         Write(form, files, context.options.output, findings);
     }
 
-    void Print(std::ostream& out) const override {
-        if (text_) out << *text_;
-        for (const WrittenFile& file : written_) PrintWritten(out, "written", file);
-    }
+    void Print(std::ostream& out) const override { made_.Print(out); }
 
-    nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json = {
-            {"form", form_}, {"text", nullptr}, {"written", nlohmann::ordered_json::array()}};
-        for (const WrittenFile& file : written_) {
-            AddWritten(json["written"].emplace_back(nlohmann::ordered_json::object()), "file", file);
-        }
-        if (text_) json["text"] = *text_;
-        return json;
-    }
+    nlohmann::ordered_json Json() const override { return made_.Json(form_); }
 
 private:
     static bool IsRoomForMany(const DeckForm& form, const std::string& output, Findings& findings) {
@@ -148,7 +136,7 @@ private:
             const std::string path = form.folder ? output + "/" + file.name : output;
             auto written = WriteOutputFile(path, file.text, paths_, findings);
             if (!written) return;
-            written_.push_back(std::move(*written));
+            made_.files.push_back(std::move(*written));
         }
     }
 
@@ -157,8 +145,7 @@ private:
     std::string form_;
     FitChoice fit_;
     WriteGate gate_;
-    std::optional<std::string> text_;  // when it goes to no file
-    std::vector<WrittenFile> written_;
+    WrittenForm made_;
 };
 
 }  // namespace

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/text/Printable.h"
@@ -20,5 +22,26 @@ inline void AddWritten(nlohmann::ordered_json& json, const std::string& what, co
     json[what] = file.path;
     if (!file.backup.empty()) json["backup"] = file.backup;
 }
+
+/// What a command makes that writes materials in another form: the text when it goes to no file, else files.
+struct WrittenForm {
+    std::optional<std::string> text;
+    std::vector<WrittenFile> files;
+
+    void Print(std::ostream& out) const {
+        if (text) out << *text;
+        for (const WrittenFile& file : files) PrintWritten(out, "written", file);
+    }
+
+    nlohmann::ordered_json Json(const std::string& form) const {
+        nlohmann::ordered_json json = {
+            {"form", form}, {"text", nullptr}, {"written", nlohmann::ordered_json::array()}};
+        for (const WrittenFile& file : files) {
+            AddWritten(json["written"].emplace_back(nlohmann::ordered_json::object()), "file", file);
+        }
+        if (text) json["text"] = *text;
+        return json;
+    }
+};
 
 }  // namespace zelmat
