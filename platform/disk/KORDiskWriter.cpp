@@ -48,9 +48,10 @@ void KORDiskWriter::PackSteps(const KORHistoryOrigin& origin) {
             isKnown ? *known : KORHistoryStep{step.number, step.name, Now(), origin.user, origin.command};
         kept.done = at < log.Done();
         if (step.changed) {
-            if (!PackStep(step))
+            if (!PackStep(step)) {
                 Fail("step " + std::to_string(step.number) + ", \"" + step.name +
                      "\": references what is no feature of the document");
+            }
             kept.bytes = static_cast<std::int64_t>(packed_.Bytes().size());
             entries_.emplace(step.number, packed_.Bytes());
             for (const KORUndoEntry& entry : step.entries) kept.bytes += BytesBehind(entry);

@@ -167,9 +167,10 @@ bool CardEdit::SetSetting(const BlockKind& kind, const Setting& setting, const s
         if (written.is_discarded()) written = value;
     } else if (setting.kind == SettingKind::NUMBER) {
         const auto given = ReadGiven(setting.name, setting.unit, value);
-        if (!given)
+        if (!given) {
             return Refuse(findings, "wrong-value",
                           kind.name + "." + setting.name + ": " + given.Error().text);
+        }
         written = given->unit == "-" ? Json(given->number) : Json(value);
     }
     const auto dot = setting.name.find('.');

@@ -15,7 +15,7 @@ std::optional<UnitChoice> ConfiguredUnits(Findings& findings) {
 
 std::optional<UnitChoice> ChosenUnits(const CommonOptions& options, Findings& findings) {
     const bool forPrograms = options.json || options.csv;
-    const auto base = forPrograms ? UnitChoice::Si() : ConfiguredUnits(findings);
+    auto base = forPrograms ? UnitChoice::Si() : ConfiguredUnits(findings);
     if (!base || options.units.empty()) return base;
     const auto chosen = UnitChoice::Read(options.units, *base);
     if (chosen) return *chosen;

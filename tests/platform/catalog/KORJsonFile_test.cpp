@@ -98,7 +98,7 @@ TEST(KORJsonFile, RefusesValuesNestedDeeperThanTwoHundredWhereTheyBegin) {
 
     EXPECT_EQ("", ErrorOf(nested(200)));
     EXPECT_EQ("card.json:1:201: nested deeper than 200", ErrorOf(nested(201)));
-    EXPECT_EQ("card.json:1:201: nested deeper than 200", ErrorOf(std::string(10'000'000, '[')));
+    EXPECT_EQ("card.json:1:201: nested deeper than 200", ErrorOf(std::string(8'000'000, '[')));
     EXPECT_EQ("card.json:1:1001: nested deeper than 200", ErrorOf(objects));
 }
 

@@ -9,7 +9,7 @@ using testing::HasSubstr;
 
 /// A new document with Treloar's rubber in it.
 std::string RubberDocument() {
-    const std::string path = FileOf("rubber.zeldoc", "");
+    std::string path = FileOf("rubber.zeldoc", "");
     std::filesystem::remove(path);
     EXPECT_EQ(RunZelmat({"new", path}).exitCode, 0);
     EXPECT_EQ(RunZelmat({"add", path, Sample("natural_rubber_treloar.json")}).exitCode, 0);

@@ -50,9 +50,10 @@ private:
         return at_ < text_.size() ? text_[at_] : '\0';
     }
     void Expect(char character) {
-        if (Next() != character)
+        if (Next() != character) {
             throw std::runtime_error("expected " + std::string(1, character) + " before " +
                                      text_.substr(at_, 40));
+        }
         ++at_;
     }
     std::string Name() {
