@@ -66,7 +66,7 @@ void PrintTable(std::ostream& out, const Table& table) {
             const bool missing = std::isnan(table.columns[column].values[row]);
             cells.push_back(missing ? "-" : texts[column][row]);
         }
-        printer.AddRow(std::move(cells));
+        printer.AddRow(cells);
     }
     printer.Print(out);
 }

@@ -10,8 +10,7 @@ namespace zelmat {
 
 namespace {
 
-/// Its closing zero is one of the bytes.
-constexpr std::string_view kBeginning("SQLite format 3", 16);
+constexpr std::string_view kBeginning("SQLite format 3\0", 16);
 
 }  // namespace
 

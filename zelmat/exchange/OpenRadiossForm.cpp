@@ -110,9 +110,10 @@ private:
             notes_.Lost(std::string(name) + ": " + row.Why());
             return std::nullopt;
         }
-        if (table->Range())
+        if (table->Range()) {
             notes_.Lost(std::string(name) +
                         ": its dependence on temperature; the value at 20 degC is written");
+        }
         return units_.FromStored(row->values[column], quantity);
     }
 
