@@ -90,10 +90,11 @@ private:
         const bool drawnOnce = std::any_of(plan_.groups.begin(), plan_.groups.end(),
                                            [](const DrawnGroup& group) { return group.times > 1; });
         if (drawnOnce) facts += "; plies that repeat are drawn once";
-        if (IsAnyCutShort())
+        if (IsAnyCutShort()) {
             facts += "; not to scale, thick plies are cut short";
-        else if (plan_.toScale)
+        } else if (plan_.toScale) {
             facts += "; to scale through the thickness";
+        }
         return facts;
     }
     bool IsAnyCutShort() const {
@@ -128,10 +129,11 @@ private:
                       const LegendMaterial& material) const {
         std::string label = Numbers(group, ply.layer) + ": ";
         label += material.isotropic ? "isotropic" : NumberText(RoundedTo(layer.angle, kDigits)) + "°";
-        if (!material.name)
+        if (!material.name) {
             label += ", no material";
-        else if (legend_.Materials().size() > 1)
+        } else if (legend_.Materials().size() > 1) {
             label += ", " + material.mark;
+        }
         return label + ", " + Length(layer.thickness);
     }
 

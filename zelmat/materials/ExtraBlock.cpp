@@ -62,7 +62,7 @@ bool SaysNothing(const Table& table) {
 }
 
 KORISpecObject_var WriteColumn(KORMemoryDocument& document, const Column& column, bool whole) {
-    const KORISpecObject_var feature(document.NewPlatformFeature(kColumnType, kColumnType));
+    KORISpecObject_var feature(document.NewPlatformFeature(kColumnType, kColumnType));
     if (!feature) return nullptr;
     const FeatureValues values(feature.Get());
     values.SetText("Name", column.kind.name);
@@ -74,7 +74,7 @@ KORISpecObject_var WriteColumn(KORMemoryDocument& document, const Column& column
 }
 
 KORISpecObject_var WriteTable(KORMemoryDocument& document, const Table& table, bool whole) {
-    const KORISpecObject_var feature(document.NewPlatformFeature(kTableType, kTableType));
+    KORISpecObject_var feature(document.NewPlatformFeature(kTableType, kTableType));
     if (!feature) return nullptr;
     const FeatureValues values(feature.Get());
     values.SetText("Name", table.kind->name);
@@ -164,7 +164,7 @@ bool SaysNothing(const ExtraBlock& extra) {
 }
 
 KORISpecObject_var WriteExtraBlock(KORMemoryDocument& document, const ExtraBlock& extra) {
-    const KORISpecObject_var feature(document.NewPlatformFeature(kBlockType, kBlockType));
+    KORISpecObject_var feature(document.NewPlatformFeature(kBlockType, kBlockType));
     if (!feature) return nullptr;
     const Block& block = extra.block;
     const FeatureValues values(feature.Get());

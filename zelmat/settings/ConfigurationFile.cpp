@@ -23,7 +23,7 @@ fs::path FolderFrom(const char* variable) {
 }
 
 fs::path ConfigurationFolder() {
-    if (const fs::path folder = FolderFrom("XDG_CONFIG_HOME"); !folder.empty()) return folder;
+    if (fs::path folder = FolderFrom("XDG_CONFIG_HOME"); !folder.empty()) return folder;
     const fs::path home = FolderFrom("HOME");
     return home.empty() ? home : home / ".config";
 }

@@ -19,7 +19,7 @@ Outcome<GasketValue> ReadAt(const std::vector<GasketAtTemperature>& gaskets, dou
     std::vector<TemperatureTable::Row> rows;
     std::vector<std::string> notes;
     for (const GasketAtTemperature& gasket : gaskets) {
-        const auto value = reading(gasket.thickness);
+        auto value = reading(gasket.thickness);
         if (!value.Ok()) return value;
         rows.push_back({gasket.temperature,
                         {value->pressure, value->secantStiffness, value->tangentStiffnessBelow,
