@@ -19,6 +19,7 @@ packages=(
     libceres-dev
     locales
     gnuplot-nox
+    librsvg2-bin
     libxml2-utils
     python3-jsonschema
     calculix-ccx

@@ -30,12 +30,6 @@ std::optional<std::string> TextOf(const std::string& path) {
     return path == "-" ? std::nullopt : ReadText(path, ignored);
 }
 
-bool IsLayupCard(const std::string& path) {
-    if (IsDocumentFile(path)) return false;
-    const auto text = TextOf(path);
-    return text && FormOfText(*text) == FileForm::LAYUP_CARD;
-}
-
 /// A layer names its material; two of one name cannot be told apart.
 std::optional<PlyMaterial> PlyOf(DocumentToRead& document, const std::string& name, Findings& findings) {
     const auto materials = MaterialsOf(document.Document());
@@ -121,6 +115,12 @@ GivenContent ReadGiven(const std::string& path, const CommonOptions& options, Fi
         content.materials = CardsOfText(std::move(*given.text), path, findings);
     }
     return content;
+}
+
+bool IsLayupCard(const std::string& path) {
+    if (IsDocumentFile(path)) return false;
+    const auto text = TextOf(path);
+    return text && FormOfText(*text) == FileForm::LAYUP_CARD;
 }
 
 bool IsDocument(const std::string& path) {

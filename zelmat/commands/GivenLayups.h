@@ -17,8 +17,8 @@ std::optional<DocumentLayup> ChosenLayup(KORMemoryDocument& document, const std:
                                          const std::string& file, Findings& findings);
 
 /// A layup of a document in the shape of a card. A ply material has the constants that the layup keeps of its
-/// own card, else those of the document's material (PlyConstantsOf). Nothing, and a finding, when a layer cannot be
-/// read, or the name of its material is that of several.
+/// own card, else those of the document's material (PlyConstantsOf). Nothing, and a finding, when a layer
+/// cannot be read, or the name of its material is that of several.
 std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLayup& layup,
                                      Findings& findings);
 
@@ -34,6 +34,9 @@ struct GivenContent {
 /// The materials and layups in a document, the materials of a card, or the layup of a layup card, told by the
 /// content. Standard input can be read once: a layup card is not taken from there.
 GivenContent ReadGiven(const std::string& path, const CommonOptions& options, Findings& findings);
+
+/// Whether it is a layup card. Never standard input.
+bool IsLayupCard(const std::string& path);
 
 /// Whether it is a document in either form. Never standard input.
 bool IsDocument(const std::string& path);

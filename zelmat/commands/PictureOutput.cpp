@@ -5,6 +5,8 @@
 #include <filesystem>
 
 #include "zelmat/pictures/PictureDrawing.h"
+#include "zelmat/pictures/SvgColumn.h"
+#include "zelmat/pictures/SvgConversion.h"
 #include "zelmat/text/CountText.h"
 
 namespace zelmat {
@@ -36,19 +38,40 @@ constexpr std::size_t kMostOnASheet = 16;
 
 bool FitsAFile(const PicturesToWrite& pictures, const PictureOutput& output, Findings& findings) {
     const std::size_t count = pictures.drawn.size() + pictures.ready.size();
-    if (output.isFolder) return true;
-    const auto refuse = [&](const std::string& text, const char* hint) {
-        findings.Add({FindingKind::USAGE, {"--output", 0}, "too-many-pictures", text, {hint}});
-        return false;
-    };
-    if (count > kMostOnASheet) {
-        return refuse("one file does not hold " + CountText(count, "picture"), "name a folder, or a --block");
-    }
-    if (!pictures.ready.empty() && (count > 1 || output.format != PictureFormat::SVG)) {
-        return refuse("the picture of a stack is an SVG of its own", "name a folder, or a --block");
-    }
-    return true;
+    if (output.isFolder || count <= kMostOnASheet) return true;
+    findings.Add({FindingKind::USAGE,
+                  {"--output", 0},
+                  "too-many-pictures",
+                  "one file does not hold " + CountText(count, "picture"),
+                  {"name a folder, or a --block"}});
+    return false;
 }
+
+/// The files that gnuplot makes. Beside a picture that is there already they are SVGs, which are joined; each
+/// with one picture where each is a file or a page.
+std::vector<PictureSheet> SheetsOf(const PicturesToWrite& pictures, const PictureOutput& output,
+                                   PictureFormat format) {
+    std::vector<PictureSheet> sheets;
+    const bool joined = !output.isFolder && (format == output.format || output.format != PictureFormat::PDF);
+    for (const Picture& picture : pictures.drawn) {
+        if (sheets.empty() || !joined) sheets.push_back({.file = picture.name + Ending(format)});
+        sheets.back().pictures.push_back(&picture);
+    }
+    return sheets;
+}
+
+std::optional<std::string> Joined(std::vector<std::string> svgs, PictureFormat format, Findings& findings) {
+    if (format == PictureFormat::PDF) return ConvertedSvgs(svgs, format, findings);
+    std::string svg = svgs.size() == 1 ? std::move(svgs.front()) : SvgColumn(svgs);
+    if (format == PictureFormat::SVG) return svg;
+    return ConvertedSvgs({std::move(svg)}, format, findings);
+}
+
+/// A file to be written, by its path.
+struct NewFile {
+    std::string path;
+    std::string bytes;
+};
 
 }  // namespace
 
@@ -78,33 +101,38 @@ std::vector<WrittenFile> WritePictures(const PicturesToWrite& pictures, const Pi
                                        Findings& findings) {
     std::vector<WrittenFile> written;
     if (!FitsAFile(pictures, output, findings)) return written;
-    if (output.isFolder && !MakeFolder(output.path, findings)) return written;
-    std::vector<PictureSheet> sheets;
-    const std::string ending = Ending(output.format);
-    for (const Picture& picture : pictures.drawn) {
-        if (sheets.empty() || output.isFolder) sheets.push_back({.file = picture.name + ending});
-        sheets.back().pictures.push_back(&picture);
-    }
-    const auto bytes = DrawSheets(sheets, output.format, findings);
-    if (!bytes) return written;
-    const auto write = [&](const std::string& path, const std::string& text) {
-        auto file = WriteOutputFile(path, text, inputs, findings);
-        if (file) written.push_back(std::move(*file));
-        return file.has_value();
-    };
-    const auto pathOf = [&](const std::string& name) {
-        return output.isFolder ? (fs::path(output.path) / name).string() : output.path;
-    };
-    for (std::size_t i = 0; i < sheets.size(); ++i) {
-        if (!write(pathOf(sheets[i].file), (*bytes)[i])) return written;
-    }
-    for (const ReadyPicture& ready : pictures.ready) {
-        if (!write(pathOf(ready.name + ending), ready.svg)) return written;
+    const PictureFormat format = pictures.ready.empty() ? output.format : PictureFormat::SVG;
+    const auto sheets = SheetsOf(pictures, output, format);
+    auto drawn = DrawSheets(sheets, format, findings);
+    if (!drawn) return written;
+    const auto pathOf = [&](const std::string& name) { return (fs::path(output.path) / name).string(); };
+    std::vector<NewFile> files;
+    if (output.isFolder) {
+        for (std::size_t i = 0; i < sheets.size(); ++i)
+            files.push_back({pathOf(sheets[i].file), std::move((*drawn)[i])});
+        for (const ReadyPicture& ready : pictures.ready)
+            files.push_back({pathOf(ready.name + Ending(format)), ready.svg});
+    } else if (pictures.ready.empty()) {
+        files.push_back({output.path, std::move(drawn->front())});
+    } else {
+        std::vector<std::string> svgs;
+        for (const ReadyPicture& ready : pictures.ready) svgs.push_back(ready.svg);
+        svgs.insert(svgs.end(), drawn->begin(), drawn->end());
+        auto joined = Joined(std::move(svgs), output.format, findings);
+        if (!joined) return written;
+        files.push_back({output.path, std::move(*joined)});
     }
     if (keepScript && !sheets.empty()) {
-        const std::string script =
-            output.isFolder ? pathOf("pictures.gp") : fs::path(output.path).replace_extension(".gp").string();
-        static_cast<void>(write(script, GnuplotScript(sheets, output.format)));
+        files.push_back({output.isFolder ? pathOf("pictures.gp")
+                                         : fs::path(output.path).replace_extension(".gp").string(),
+                         GnuplotScript(sheets, format)});
+    }
+    // Made last: where nothing can be drawn, no folder is left.
+    if (output.isFolder && !MakeFolder(output.path, findings)) return written;
+    for (const NewFile& file : files) {
+        auto one = WriteOutputFile(file.path, file.bytes, inputs, findings);
+        if (!one) break;
+        written.push_back(std::move(*one));
     }
     return written;
 }

@@ -1,20 +1,16 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iterator>
-#include <set>
 
 #include "zelmat/commands/ChosenUnits.h"
-#include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/PictureOutput.h"
+#include "zelmat/commands/PlotInput.h"
 #include "zelmat/commands/WrittenReport.h"
-#include "zelmat/commands/WrongForm.h"
-#include "zelmat/files/ReadText.h"
-#include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/pictures/ComparedPictures.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/pictures/MaterialPictures.h"
+#include "zelmat/pictures/PictureNames.h"
 #include "zelmat/pictures/PropertyPictures.h"
-#include "zelmat/text/CountText.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -47,7 +43,7 @@ public:
         const auto output = PictureOutputOf(context.options.output, findings);
         const auto units = output ? DrawnUnits(context.options, findings) : std::nullopt;
         if (!units) return;
-        const PicturesToWrite pictures = IsLayup() ? OfLayup(*units, findings) : OfMaterials(context, *units);
+        const PicturesToWrite pictures = Draw(context, *units);
         if (findings.HasErrors()) return;
         if (pictures.drawn.empty() && pictures.ready.empty()) {
             findings.Add({FindingKind::ERROR,
@@ -64,7 +60,7 @@ public:
     }
 
     void Print(std::ostream& out) const override {
-        for (const WrittenFile& file : written_) PrintWritten(out, "drawn", file);
+        for (const WrittenFile& file : written_) PrintWrittenLine(out, "drawn", file);
     }
 
     nlohmann::ordered_json Json() const override {
@@ -78,66 +74,11 @@ public:
     }
 
 private:
-    /// Standard input can be read once: what comes from there is taken for materials.
-    bool IsLayup() const {
-        if (given_.Path() == "-") return false;
-        Findings ignored;
-        const auto text = ReadText(given_.Path(), ignored);
-        return text && FormOfText(*text) == FileForm::LAYUP_CARD;
-    }
-
-    PicturesToWrite OfLayup(const UnitChoice& units, Findings& findings) const {
-        PicturesToWrite pictures;
-        const auto card = LayupCardReader(findings).Read(given_.Path());
-        if (!card || !IsOneOf({kStack, kLaminate}, findings)) return pictures;
-        if (block_ != kLaminate) {
-            pictures.ready.push_back(
-                {"layup-stack", LayupDrawing(LayupOf(*card), StackPicture(*card, units))});
-        }
-        if (block_ != kStack) pictures.drawn = LayupPictures(*card, units, findings);
-        return pictures;
-    }
-
-    PicturesToWrite OfMaterials(CommandContext& context, const UnitChoice& units) const {
-        Findings& findings = context.findings;
-        PicturesToWrite pictures;
+    /// The blocks of materials, and those that pictures of layups count as.
+    bool IsABlock(Findings& findings) const {
         std::vector<std::string> blocks;
         for (const BlockKind& kind : BlockKinds()) blocks.push_back(kind.name);
-        if (!IsOneOf(blocks, findings)) return pictures;
-        std::vector<Material> materials = given_.ReadAll(context);
-        for (const std::string& other : others_) {
-            auto more = ReadGivenMaterials(other, context.options, findings);
-            materials.insert(materials.end(), std::make_move_iterator(more.begin()),
-                             std::make_move_iterator(more.end()));
-        }
-        if (findings.HasErrors()) return pictures;
-        if (compares_) {
-            pictures.drawn = ComparedPictures(materials, block_, units, findings);
-        } else {
-            pictures.drawn = OfEach(materials, units, findings);
-        }
-        return pictures;
-    }
-
-    std::vector<Picture> OfEach(const std::vector<Material>& materials, const UnitChoice& units,
-                                Findings& findings) const {
-        std::vector<Picture> all;
-        std::set<std::string> names;
-        for (const Material& material : materials) {
-            for (Picture& picture :
-                 MaterialPictures(material, {.block = block_, .ranking = true}, units, findings)) {
-                if (materials.size() > 1) picture.name = PlainName(material.name) + "-" + picture.name;
-                const std::string name = picture.name;
-                for (int number = 2; !names.insert(picture.name).second; ++number) {
-                    picture.name = name + "-" + std::to_string(number);
-                }
-                all.push_back(std::move(picture));
-            }
-        }
-        return all;
-    }
-
-    bool IsOneOf(const std::vector<std::string>& blocks, Findings& findings) const {
+        blocks.insert(blocks.end(), {kStack, kLaminate});
         if (block_.empty() || std::find(blocks.begin(), blocks.end(), block_) != blocks.end()) return true;
         findings.Add({FindingKind::USAGE,
                       {"--block", 0},
@@ -146,8 +87,54 @@ private:
                       {"has: " + WordList(blocks)}});
         return false;
     }
+    bool IsOfLayups() const { return block_ == kStack || block_ == kLaminate; }
 
-    GivenMaterials given_;
+    PicturesToWrite Draw(CommandContext& context, const UnitChoice& units) const {
+        Findings& findings = context.findings;
+        PicturesToWrite pictures;
+        if (!IsABlock(findings)) return pictures;
+        PlotContent content = given_.Read(
+            context, {.materials = !IsOfLayups(), .layups = !compares_ && (block_.empty() || IsOfLayups())});
+        if (!compares_) return OfEach(content, units, findings);
+        for (const std::string& other : others_) {
+            auto more = ReadGivenMaterials(other, context.options, findings);
+            content.materials.insert(content.materials.end(), std::make_move_iterator(more.begin()),
+                                     std::make_move_iterator(more.end()));
+        }
+        if (findings.HasErrors()) return pictures;
+        pictures.drawn = ComparedPictures(content.materials, block_, units, findings);
+        return pictures;
+    }
+
+    /// Of several materials and layups with their names in front.
+    PicturesToWrite OfEach(const PlotContent& content, const UnitChoice& units, Findings& findings) const {
+        PicturesToWrite pictures;
+        PictureNames names;
+        const bool several = content.materials.size() + content.layups.size() > 1;
+        const auto nameOf = [&](const std::string& whose, const std::string& name) {
+            return names.Take(several ? PlainName(whose) + "-" + name : name);
+        };
+        const auto add = [&](const std::string& whose, std::vector<Picture> drawn) {
+            for (Picture& picture : drawn) {
+                picture.name = nameOf(whose, picture.name);
+                pictures.drawn.push_back(std::move(picture));
+            }
+        };
+        for (const Material& material : content.materials) {
+            add(material.name,
+                MaterialPictures(material, {.block = block_, .ranking = true}, units, findings));
+        }
+        for (const LayupCard& card : content.layups) {
+            if (block_ != kLaminate) {
+                pictures.ready.push_back({nameOf(card.name, "layup-stack"),
+                                          LayupDrawing(LayupOf(card), StackPicture(card, units))});
+            }
+            if (block_ != kStack) add(card.name, LayupPictures(card, units, findings));
+        }
+        return pictures;
+    }
+
+    PlotInput given_;
     std::string block_;                // empty: all
     std::vector<std::string> others_;  // to compare with
     bool compares_ = false;
@@ -164,7 +151,7 @@ CommandKind PlotCommand() {
         .text =
             "Draw what a card or a document holds: properties over temperature, hardening curves, the\n"
             "response of rubber beside its tests with its stability limits, gaskets, several materials\n"
-            "in one picture; of a layup card the stack, the stresses of its plies and its stiffness by\n"
+            "in one picture; of a layup the stack, the stresses of its plies and its stiffness by\n"
             "direction. Needs gnuplot. One file (SVG, PDF or PNG by its ending) holds all pictures below\n"
             "each other, a folder gets an SVG of each.",
         .output = "The picture: FILE.svg, FILE.pdf, FILE.png, or a folder for SVGs",

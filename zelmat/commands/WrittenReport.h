@@ -11,10 +11,16 @@
 
 namespace zelmat {
 
+/// One of several files that were written, without a blank line before.
+inline void PrintWrittenLine(std::ostream& out, const std::string& what, const WrittenFile& file) {
+    out << what << ": " << (file.path == "-" ? "standard output" : Printable(file.path)) << '\n';
+    if (!file.backup.empty()) out << "what was there is kept as: " << Printable(file.backup) << '\n';
+}
+
 /// Says that a file was written, and where what stood there before is kept, if it is. `what`: "written".
 inline void PrintWritten(std::ostream& out, const std::string& what, const WrittenFile& file) {
-    out << '\n' << what << ": " << (file.path == "-" ? "standard output" : Printable(file.path)) << '\n';
-    if (!file.backup.empty()) out << "what was there is kept as: " << Printable(file.backup) << '\n';
+    out << '\n';
+    PrintWrittenLine(out, what, file);
 }
 
 /// The same as keys of an object: `what`, and "backup" where there is one.

@@ -20,7 +20,7 @@ std::optional<PlyNumbers> PlyNumbersOf(const PlyMaterial& ply, const DeckUnits& 
         return otherwise;
     };
     PlyNumbers numbers{};
-    numbers.isotropic = ply.IsIsotropic() || ply.Constant("E").has_value();
+    numbers.isotropic = ply.IsIsotropic();
     numbers.nu12 = elastic.nu12;
     numbers.nu13 = across("nu13", elastic.nu12);
     numbers.nu23 = across("nu23", elastic.nu12);

@@ -55,6 +55,7 @@ std::optional<double> PlyMaterial::Constant(const std::string& constant) const {
 
 bool PlyMaterial::IsIsotropic() const {
     const auto e1 = Constant("E1"), nu12 = Constant("nu12");
+    if (!e1 && Constant("E")) return true;
     if (!e1 || !nu12) return false;
     const auto agrees = [](std::optional<double> given, double isotropic) {
         constexpr double kRounding = 0.01;

@@ -19,8 +19,8 @@ struct PlyMaterial {
     /// The constant of that name; nothing when the card does not give it.
     std::optional<double> Constant(const std::string& constant) const;
 
-    /// Whether it has no direction: E1 and nu12 are given, and E2 and G12, if they are, agree with them (G =
-    /// E/(2(1+nu)), to one part in a hundred, as rounded values do).
+    /// Whether it has no direction: E is given in the place of E1; or E1 and nu12 are, and E2 and G12, if
+    /// they are, agree with them (G = E/(2(1+nu)), to one part in a hundred, as rounded values do).
     bool IsIsotropic() const;
 };
 

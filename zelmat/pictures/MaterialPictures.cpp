@@ -1,10 +1,9 @@
 #include "zelmat/pictures/MaterialPictures.h"
 
-#include <set>
-
 #include "zelmat/pictures/GasketPictures.h"
 #include "zelmat/pictures/HardeningPictures.h"
 #include "zelmat/pictures/HyperelasticPictures.h"
+#include "zelmat/pictures/PictureNames.h"
 #include "zelmat/pictures/PropertyPictures.h"
 #include "zelmat/properties/TestCurves.h"
 #include "zelmat/properties/UsedBlock.h"
@@ -37,10 +36,7 @@ private:
     }
 
     void Add(Picture picture) {
-        const std::string name = picture.name;
-        for (int number = 2; !names_.insert(picture.name).second; ++number) {
-            picture.name = name + "-" + std::to_string(number);
-        }
+        picture.name = names_.Take(picture.name);
         pictures_.push_back(std::move(picture));
     }
     void Add(std::vector<Picture> pictures) {
@@ -125,7 +121,7 @@ private:
     const UnitChoice& units_;
     Findings& findings_;
     std::vector<Picture> pictures_;
-    std::set<std::string> names_;
+    PictureNames names_;
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "zelmat/materials/InUnits.h"
 #include "zelmat/pictures/GnuplotText.h"
+#include "zelmat/pictures/SvgColumn.h"
 #include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/text/Base64.h"
 #include "zelmat/text/WordList.h"
@@ -14,14 +15,6 @@ namespace {
 
 std::string Trimmed(const std::string& text) {
     return text.substr(std::min(text.find_first_not_of(' '), text.size()));
-}
-
-/// The value of an attribute of a picture's first element: "860" for width.
-std::string SvgSize(const std::string& svg, const std::string& attribute) {
-    const std::string begin = attribute + "=\"";
-    const std::size_t from = svg.find(begin);
-    if (from == std::string::npos) return "1";
-    return svg.substr(from + begin.size(), svg.find('"', from + begin.size()) - from - begin.size());
 }
 
 void OpenTable(HtmlWriter& html, const HtmlWriter::Attributes& attributes, const std::string& caption) {
@@ -109,8 +102,8 @@ void WriteRows(HtmlWriter& html, const std::string& caption, const std::vector<s
 void WritePicture(HtmlWriter& html, const std::string& svg, const std::string& description,
                   const std::string& caption) {
     html.Open("figure");
-    html.Empty("img", {{"width", SvgSize(svg, "width")},
-                       {"height", SvgSize(svg, "height")},
+    html.Empty("img", {{"width", SvgAttribute(svg, "width")},
+                       {"height", SvgAttribute(svg, "height")},
                        {"alt", description},
                        {"src", "data:image/svg+xml;base64," + Base64(svg)}});
     html.Text("figcaption", caption, {{"dir", "auto"}});

@@ -20,6 +20,8 @@ TEST(PlyMaterial, IsIsotropicWhenItsConstantsAgree) {
         PlyMaterial{"Steel", {{"E1", 210e9}, {"E2", 210e9}, {"nu12", 0.3}, {"G12", 81e9}}, ""}.IsIsotropic()))
         << "80.77e9 when it is not rounded";
     EXPECT_TRUE((PlyMaterial{"Resin", {{"E1", 3e9}, {"nu12", 0.35}}, ""}.IsIsotropic()));
+    EXPECT_TRUE((PlyMaterial{"Core", {{"E", 105e6}, {"nu", 0.4}}, ""}.IsIsotropic()))
+        << "as a document's materials are";
 }
 
 TEST(PlyMaterial, IsNotIsotropicWithADirectionOrWhenNothingIsKnown) {
