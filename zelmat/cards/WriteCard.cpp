@@ -8,6 +8,8 @@
 
 namespace zelmat {
 
+namespace {
+
 const std::vector<CardForm>& CardForms() {
     static const std::vector<CardForm> forms = {
         {"json", ".json", true,
@@ -20,6 +22,14 @@ const std::vector<CardForm>& CardForms() {
          }},
     };
     return forms;
+}
+
+}  // namespace
+
+std::vector<std::string> CardFormNames() {
+    std::vector<std::string> names;
+    for (const CardForm& form : CardForms()) names.push_back(form.name);
+    return names;
 }
 
 const CardForm* FindCardForm(const std::string& name) {

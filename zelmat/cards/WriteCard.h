@@ -17,7 +17,7 @@ struct CardForm {
     std::string (*write)(const std::vector<Material>& materials, Findings& findings);
 };
 
-const std::vector<CardForm>& CardForms();
+std::vector<std::string> CardFormNames();  ///< of all that there are, as --to takes them
 
 /// Null when there is none of that name.
 const CardForm* FindCardForm(const std::string& name);

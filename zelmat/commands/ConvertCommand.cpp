@@ -14,19 +14,13 @@ namespace zelmat {
 
 namespace {
 
-std::vector<std::string> FormNames() {
-    std::vector<std::string> names;
-    for (const CardForm& form : CardForms()) names.push_back(form.name);
-    return names;
-}
-
 /// Brings cards into another form: all into one text, or each into a file of its own in a folder. A card with
 /// a mistake, of form or found by the checks, is not written; of several that go into one text then none.
 class Convert final : public Command {
 public:
     void Declare(CLI::App& line) override {
         line.add_option("CARD", paths_, "Material cards of any form; - is standard input")->required();
-        line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(FormNames()));
+        line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(CardFormNames()));
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }

@@ -13,19 +13,13 @@ namespace zelmat {
 
 namespace {
 
-std::vector<std::string> FormNames() {
-    std::vector<std::string> names;
-    for (const CardForm& form : CardForms()) names.push_back(form.name);
-    return names;
-}
-
 /// Writes a material or a layup of a document as a card.
 class Extract final : public Command {
 public:
     void Declare(CLI::App& line) override {
         what_.Declare(line);
         line.add_option("--to", form_, "Form of the card")
-            ->check(CLI::IsMember(FormNames()))
+            ->check(CLI::IsMember(CardFormNames()))
             ->capture_default_str();
     }
 
