@@ -10,6 +10,7 @@
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/exchange/CarryPage.h"
 #include "zelmat/exchange/ExportDeck.h"
+#include "zelmat/files/OutputFolder.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/text/WordList.h"
 
@@ -28,8 +29,10 @@ class Export final : public Command {
 public:
     void Declare(CLI::App& line) override {
         auto* page = line.add_flag("--carries", page_, "Print instead what each solver gets, as Markdown");
-        line.add_option("CARD|DOC", paths_,
-                        "Material cards, documents, layup cards; behind one alone, which of its materials")
+        line.add_option(
+                "CARD|DOC", paths_,
+                "Material cards, documents, layup cards; behind one alone, which of its materials or\n"
+                "layups")
             ->excludes(page);
         line.add_option("--to", form_, "Solver")->check(CLI::IsMember(FormNames()))->excludes(page);
         line.add_option("--model", fit_.model, "Hyperelastic model to carry");
@@ -58,6 +61,14 @@ public:
         const std::string material = TakeMaterialName();
         for (const std::string& path : paths_) Read(path, material, content, context);
         if (findings.HasErrors()) return;
+        if (content.materials.empty() && content.layups.empty()) {
+            findings.Add({FindingKind::ERROR,
+                          {ShownPath(paths_.front()), 0},
+                          "nothing-carried",
+                          "there is no material and no layup in it",
+                          {"no deck is written"}});
+            return;
+        }
         std::vector<DeckFile> files = ExportDeck(form, content, *units, findings);
         if (files.empty()) return;
         if (context.options.output.empty()) {
@@ -97,45 +108,34 @@ private:
               CommandContext& context) {
         GivenContent given = ReadGiven(path, context.options, context.findings);
         if (context.findings.HasErrors()) return;
-        if (!wanted.empty()) {
-            KeepOne(given.materials, wanted, path, context.findings);
-            given.layups.clear();
-        }
+        if (!wanted.empty()) KeepOne(given, wanted, path, context.findings);
         for (Material& material : given.materials) {
             if (gate_.Passes(material, context.findings)) content.materials.push_back(std::move(material));
         }
         for (LayupCard& layup : given.layups) content.layups.push_back(std::move(layup));
     }
 
-    static void KeepOne(std::vector<Material>& materials, const std::string& wanted, const std::string& path,
+    /// The material of that name; else the layup that has all of it for its name, with its plies.
+    static void KeepOne(GivenContent& given, const std::string& wanted, const std::string& path,
                         Findings& findings) {
+        std::erase_if(given.layups, [&](const LayupCard& layup) { return layup.name != wanted; });
         std::vector<std::string> names;
-        for (const Material& material : materials) names.push_back(material.name);
+        for (const Material& material : given.materials) names.push_back(material.name);
+        const bool isMaterial = std::find(names.begin(), names.end(), wanted) != names.end();
+        if (!given.layups.empty() && !isMaterial) return given.materials.clear();
+        given.layups.clear();
         const auto chosen = ChooseMaterial(names, wanted, ShownPath(path), findings);
-        if (!chosen) return materials.clear();
+        if (!chosen) return given.materials.clear();
         std::vector<Material> one;
-        one.push_back(std::move(materials[*chosen]));
-        materials = std::move(one);
+        one.push_back(std::move(given.materials[*chosen]));
+        given.materials = std::move(one);
     }
 
     void Write(const DeckForm& form, const std::vector<DeckFile>& files, const std::string& output,
                Findings& findings) {
         if (form.folder) {
-            std::error_code failed;
-            std::filesystem::create_directories(output, failed);
-            if (failed) {
-                findings.Add({FindingKind::UNREADABLE,
-                              {output, 0},
-                              "not-written",
-                              "the folder cannot be made: " + failed.message(),
-                              {}});
-                return;
-            }
-        }
-        for (const DeckFile& file : files) {
-            const std::string path = form.folder ? output + "/" + file.name : output;
-            auto written = WriteOutputFile(path, file.text, paths_, findings);
-            if (!written) return;
+            if (auto written = WriteOutputFolder(output, files, findings)) made_.files = std::move(*written);
+        } else if (auto written = WriteOutputFile(output, files.front().text, paths_, findings)) {
             made_.files.push_back(std::move(*written));
         }
     }

@@ -3,6 +3,8 @@
 
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/exchange/calculix/CalculixCardsOf.h"
 #include "zelmat/exchange/calculix/Proof.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/CountText.h"
@@ -27,6 +29,9 @@ public:
         line.add_option("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to prove");
         line.add_option("--timeout", timeout_, "Seconds that one run of the solver may take")
             ->check(CLI::Range(1, 86'400));
+        line.add_option("--deck", deck_,
+                        "Prove the material cards of this CalculiX deck, not those of export");
+        line.add_option("--keep-deck", keep_, "Folder in which the models that are run are kept");
     }
 
     void Work(CommandContext& context) override {
@@ -37,8 +42,17 @@ public:
         name_ = material->name;
         const auto solver = FindSolver(solver_, timeout_, findings);
         if (!solver) return;
-        proof_ = ProveWithCalculix({*material, fit_, *units}, *solver, findings);
+        ProofRequest request{*material, fit_, *units};
+        if (!deck_.empty()) {
+            request.deck = CalculixCardsOf(deck_, findings);
+            if (!request.deck) return;
+        }
+        std::vector<DeckFile> models;
+        request.decks = &models;
+        proof_ = ProveWithCalculix(request, *solver, findings);
         if (proof_) TellFailures(material->file, findings);
+        if (keep_.empty() || models.empty()) return;
+        if (auto kept = WriteOutputFolder(keep_, models, findings)) kept_ = std::move(*kept);
     }
 
     void Print(std::ostream& out) const override {
@@ -57,6 +71,7 @@ public:
         out << CountText(proof_->lines.size(), "number") << " compared in "
             << CountText(static_cast<std::size_t>(proof_->runs), "run") << ", " << Failures()
             << " beyond the bound\n";
+        for (const WrittenFile& file : kept_) PrintWrittenLine(out, "kept", file);
     }
 
     nlohmann::ordered_json Json() const override {
@@ -75,6 +90,8 @@ public:
         }
         json["not_proven"] = proof_->notProven;
         json["runs"] = proof_->runs;
+        json["kept"] = nlohmann::ordered_json::array();
+        for (const WrittenFile& file : kept_) json["kept"].push_back(file.path);
         return json;
     }
 
@@ -102,6 +119,9 @@ private:
     std::string solver_;
     FitChoice fit_;
     int timeout_ = 60;
+    std::string deck_;  // empty: that of export
+    std::string keep_;  // empty: the models go with the run
+    std::vector<WrittenFile> kept_;
     std::string name_;
     std::optional<Proof> proof_;
 };
@@ -114,8 +134,9 @@ CommandKind ProveCommand() {
         .brief = "run a solver on a material's deck and compare with the formulas",
         .text =
             "Write the material's deck, run CalculiX on models of one element in a temporary folder, and\n"
-            "hold stresses, expansion, mass and conduction against the formulas. Ends with 1 when a\n"
-            "difference is beyond its bound.",
+            "hold stresses, expansion, mass, conduction and heating against the formulas. Ends with 1 when\n"
+            "a difference is beyond its bound. --keep-deck keeps the models; --deck proves a deck that\n"
+            "somebody has changed or written against the card.",
         .units = true,
         .make = &MakeCommand<Prove>};
 }

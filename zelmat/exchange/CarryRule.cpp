@@ -27,6 +27,7 @@ std::vector<std::string> MakeNames() {
             for (const std::string& choice : setting.choices) names.push_back(kind.name + " " + choice);
         }
     }
+    names.emplace_back(kPlyConstants);
     names.emplace_back("layup");
     return names;
 }

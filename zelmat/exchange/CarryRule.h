@@ -26,8 +26,11 @@ struct CarryRule {
     std::string remark;  ///< what changes, or why it is lost; may be empty where it is carried
 };
 
+/// Elastic constants with directions (E1, E2, nu12, G12, ...), which a material keeps beside its behaviors.
+inline constexpr const char* kPlyConstants = "ply constants";
+
 /// Every behavior that a deck may be asked to carry: the blocks of a material, told apart where solvers do
-/// ("plastic johnson-cook", "hyperelastic OGDEN", "user_material THERMAL"), and "layup".
+/// ("plastic johnson-cook", "hyperelastic OGDEN", "user_material THERMAL"), "ply constants" and "layup".
 const std::vector<std::string>& BehaviorNames();
 
 /// The behavior that a block is.

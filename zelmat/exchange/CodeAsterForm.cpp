@@ -1,10 +1,9 @@
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <set>
 
 #include "zelmat/exchange/DeckForm.h"
 #include "zelmat/exchange/HardeningRows.h"
+#include "zelmat/exchange/HigherCompressibility.h"
 #include "zelmat/exchange/PlyNumbers.h"
 #include "zelmat/materials/OverTemperature.h"
 #include "zelmat/properties/ElasticProperty.h"
@@ -18,6 +17,15 @@ namespace {
 
 /// K0 over the shear modulus at rest of what stands for an incompressible material.
 constexpr double kIncompressible = 2e4;
+
+/// To the base of 36, so that a short name tells many apart.
+std::string Digits36(int number, int width) {
+    std::string digits(static_cast<std::size_t>(width), '0');
+    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, number /= 36) {
+        *digit = "0123456789abcdefghijklmnopqrstuvwxyz"[number % 36];
+    }
+    return digits;
+}
 
 std::string Numbers(const std::vector<double>& numbers) {
     std::string text;
@@ -36,6 +44,8 @@ public:
         Plastic();
         Thermal();
         Hyperelastic();
+        if (material_.Find("density") && !densityWritten_)
+            notes_.LostBehavior("density", "it needs an elastic behavior beside it");
         if (factors_.empty()) return {};
         std::string text = functions_ + material_.name + " = DEFI_MATERIAU(\n";
         for (const std::string& factor : factors_) text += "    " + factor + ",\n";
@@ -50,17 +60,16 @@ private:
         auto table = DeckTableOf(*block, units_, why);
         const auto readable = OverTemperature(block->tables.front());
         if (table && readable.Ok()) return table;
-        notes_.Lost(BehaviorOf(*block) + ": " + (table ? readable.Why() : why));
+        notes_.LostBehavior(BehaviorOf(*block), (table ? readable.Why() : why));
         return std::nullopt;
     }
 
-    /// A function's name has 8 characters, a material's at most 7, so that they never meet.
+    /// "f", four digits of the material's number and three of a count: eight characters, where a material's
+    /// name has at most seven, so that they never meet.
     std::string NewFunction(const std::string& command) {
-        std::array<char, 16> name{};
-        std::snprintf(name.data(), name.size(), "f%03d_%03d", material_.number % 1000,
-                      ++functionCount_ % 1000);
-        functions_ += std::string(name.data()) + " = " + command + "\n";
-        return name.data();
+        const std::string name = "f" + Digits36(material_.number, 4) + Digits36(++functionCount_, 3);
+        functions_ += name + " = " + command + "\n";
+        return name;
     }
 
     std::string Function(const std::vector<double>& x, const std::vector<double>& y, const char* parameter) {
@@ -75,23 +84,20 @@ private:
         return NewFunction("DEFI_CONSTANTE(VALE=" + RealDeckNumber(table.columns[column].front()) + ")");
     }
 
-    /// A number that code_aster wants constant.
-    std::optional<double> Constant(const DeckTable& table, const char* what) {
-        if (table.Rows() > 1) {
+    /// The density, which code_aster wants constant.
+    double Constant(const DeckTable& density, const char* what) {
+        densityWritten_ = true;
+        if (density.Rows() > 1) {
             notes_.Changed(std::string(what) + ": code_aster takes one number, that of the first row");
         }
-        return table.columns[0].front();
+        return density.columns[0].front();
     }
 
     void Elastic() {
         const auto elastic = TableOf("elastic"), expansion = MeanExpansion(), density = TableOf("density");
         if (!elastic) {
             if (material_.Find("thermal_expansion"))
-                notes_.Lost("thermal_expansion: it needs an elastic behavior beside it");
-            if (material_.Find("density") && !material_.Find("specific_heat") &&
-                !material_.Find("hyperelastic")) {
-                notes_.Lost("density: it needs an elastic behavior beside it");
-            }
+                notes_.LostBehavior("thermal_expansion", "it needs an elastic behavior beside it");
             return;
         }
         const bool functions =
@@ -112,7 +118,7 @@ private:
                 "thermal_expansion: the reference temperature is given again in AFFE_MATERIAU (VALE_REF=" +
                 DeckNumber(reference_) + ")");
         }
-        if (density) text += "RHO=" + RealDeckNumber(*Constant(*density, "density")) + ", ";
+        if (density) text += "RHO=" + RealDeckNumber(Constant(*density, "density")) + ", ";
         factors_.push_back(std::string(functions ? "ELAS_FO" : "ELAS") + "=_F(" + text + ")");
     }
 
@@ -122,7 +128,8 @@ private:
         const auto stored = block->values.Get<double>("reference_temperature");
         const auto zero = stored ? units_.FromStored(*stored, "temperature") : std::nullopt;
         if (IsInstantaneous(*block) || !zero) {
-            notes_.Lost("thermal_expansion: it needs mean coefficients with a reference temperature");
+            notes_.LostBehavior("thermal_expansion",
+                                "it needs mean coefficients with a reference temperature");
             return std::nullopt;
         }
         reference_ = *zero;
@@ -133,7 +140,8 @@ private:
         const Block* plastic = material_.Find("plastic");
         const Block* elastic = material_.Find("elastic");
         if (!plastic) return;
-        if (!elastic) return notes_.Lost(BehaviorOf(*plastic) + ": it needs an elastic behavior beside it");
+        if (!elastic)
+            return notes_.LostBehavior(BehaviorOf(*plastic), "it needs an elastic behavior beside it");
         const auto rows = HardeningRowsOf(*plastic, units_, notes_);
         if (!rows) return;
         if (BehaviorOf(*plastic) == "plastic kinematic") return Kinematic(*rows, *elastic);
@@ -145,7 +153,8 @@ private:
             const double temperature = rows->temperatures.empty() ? 0.0 : rows->temperatures[row];
             const auto young = YoungsModulus(
                 *elastic, rows->temperatures.empty() ? std::nullopt : std::optional(temperature));
-            if (!young) return notes_.Lost(BehaviorOf(*plastic) + ": no Young's modulus at its temperatures");
+            if (!young)
+                return notes_.LostBehavior(BehaviorOf(*plastic), "no Young's modulus at its temperatures");
             std::vector<double> strains, stresses;
             for (; row < end; ++row) {
                 strains.push_back(RoundedTo(rows->plasticStrain[row] + rows->stress[row] / *young, 12));
@@ -172,12 +181,13 @@ private:
     void Kinematic(const HardeningRows& rows, const Block& elastic) {
         const auto young = YoungsModulus(elastic, std::nullopt);
         if (!young || rows.stress.size() != 2 || !rows.temperatures.empty()) {
-            return notes_.Lost("plastic kinematic: ECRO_LINE is one straight line for all temperatures");
+            return notes_.LostBehavior("plastic kinematic",
+                                       "ECRO_LINE is one straight line for all temperatures");
         }
         const double plastic = (rows.stress[1] - rows.stress[0]) / rows.plasticStrain[1];
-        factors_.push_back(
-            "ECRO_LINE=_F(D_SIGM_EPSI=" + RealDeckNumber(RoundedTo(*young * plastic / (*young + plastic), 12)) +
-            ", SY=" + RealDeckNumber(rows.stress[0]) + ")");
+        factors_.push_back("ECRO_LINE=_F(D_SIGM_EPSI=" +
+                           RealDeckNumber(RoundedTo(*young * plastic / (*young + plastic), 12)) +
+                           ", SY=" + RealDeckNumber(rows.stress[0]) + ")");
     }
 
     std::optional<double> YoungsModulus(const Block& elastic, std::optional<double> temperature) const {
@@ -191,15 +201,14 @@ private:
         const auto conductivity = TableOf("conductivity");
         auto heat = TableOf("specific_heat");
         const auto density = TableOf("density");
-        if (heat && !density) notes_.Lost("specific_heat: RHO_CP needs a density beside it");
+        if (heat && !density) notes_.LostBehavior("specific_heat", "RHO_CP needs a density beside it");
         if (!density) heat.reset();
         if (!conductivity) {
-            if (heat) notes_.Lost("specific_heat: THER needs a conductivity beside it");
+            if (heat) notes_.LostBehavior("specific_heat", "THER needs a conductivity beside it");
             return;
         }
         if (heat) {
-            for (double& number : heat->columns[0]) number *= *Constant(*density, "density in RHO_CP");
-            notes_.Changed("specific_heat: RHO_CP is the density times the specific heat");
+            for (double& number : heat->columns[0]) number *= Constant(*density, "density in RHO_CP");
         }
         const bool functions = !conductivity->temperatures.empty() || (heat && !heat->temperatures.empty());
         std::string text;
@@ -221,14 +230,16 @@ private:
         const auto material = property.Ok()
                                   ? property->At(std::nullopt, mechanics::OutsidePolicy::CONSTANT)
                                   : mechanics::Outcome<HyperelasticAt>(mechanics::Refusal{property.Why()});
-        if (!material.Ok()) return notes_.Lost(BehaviorOf(*block) + ": " + material.Why());
+        if (!material.Ok()) return notes_.LostBehavior(BehaviorOf(*block), material.Why());
+        TellHigherD(*property, notes_);
         std::string text;
         for (std::size_t at = 0; at < material->coefficients.size(); ++at) {
             const std::string name = CoefficientNames(property->Model(), property->Order())[at];
             const auto number = units_.FromStored(material->coefficients[at], "stress");
             const bool known = name == "C10" || name == "C01" || name == "C20";
             if (!number || !known)
-                return notes_.Lost(BehaviorOf(*block) + ": ELAS_HYPER has C10, C01 and C20, not " + name);
+                return notes_.LostBehavior(BehaviorOf(*block),
+                                           "ELAS_HYPER has C10, C01 and C20, not " + name);
             text += name + "=" + RealDeckNumber(*number) + ", ";
         }
         if (text.find("C01") == std::string::npos) text += "C01=0., ";
@@ -237,7 +248,7 @@ private:
         if (!bulk.Ok()) notes_.Changed("hyperelastic: incompressible is written as K = 2e4 mu0");
         text += "K=" + RealDeckNumber(units_.FromStored(stored, "stress").value_or(0.0)) + ", ";
         if (const auto density = TableOf("density"))
-            text += "RHO=" + RealDeckNumber(*Constant(*density, "density")) + ", ";
+            text += "RHO=" + RealDeckNumber(Constant(*density, "density")) + ", ";
         factors_.push_back("ELAS_HYPER=_F(" + text + ")");
     }
 
@@ -246,6 +257,7 @@ private:
     DeckNotes& notes_;
     double reference_ = 0.0;
     int functionCount_ = 0;
+    bool densityWritten_ = false;
     std::string functions_;
     std::vector<std::string> factors_;
 };
@@ -256,14 +268,27 @@ std::vector<DeckFile> Write(const DeckMaterial& material, const DeckUnits& units
     return {{"", text}};
 }
 
+/// Of the constants across the ply those that are given; plates of the classical theory need none.
 std::string PlyText(const std::string& name, const PlyNumbers& ply) {
-    const auto number = [](const char* keyword, double value) {
-        return std::string(keyword) + "=" + RealDeckNumber(value) + ", ";
+    std::string text;
+    const auto add = [&](const char* keyword, double value) {
+        text += std::string(keyword) + "=" + RealDeckNumber(value) + ", ";
     };
-    std::string text =
-        number("E_L", ply.e1) + number("E_T", ply.e2) + number("NU_LT", ply.nu12) + number("G_LT", ply.g12);
-    if (ply.density) text += number("RHO", *ply.density);
-    if (ply.alpha1) text += number("ALPHA_L", *ply.alpha1) + number("ALPHA_T", *ply.alpha2);
+    const auto addGiven = [&](const char* keyword, const char* constant, double value) {
+        if (!ply.isotropic && ply.IsGiven(constant)) add(keyword, value);
+    };
+    add("E_L", ply.e1);
+    add("E_T", ply.e2);
+    addGiven("E_N", "E3", ply.e3);
+    add("NU_LT", ply.nu12);
+    addGiven("NU_LN", "nu13", ply.nu13);
+    addGiven("NU_TN", "nu23", ply.nu23);
+    add("G_LT", ply.g12);
+    addGiven("G_LN", "G13", ply.g13);
+    addGiven("G_TN", "G23", ply.g23);
+    if (ply.density) add("RHO", *ply.density);
+    if (ply.alpha1) add("ALPHA_L", *ply.alpha1);
+    if (ply.alpha1) add("ALPHA_T", *ply.alpha2);
     return name + " = DEFI_MATERIAU(\n    ELAS_ORTH=_F(" + text + "),\n)\n";
 }
 
@@ -280,7 +305,7 @@ std::vector<DeckFile> WriteLayup(const DeckLayup& layup, const DeckUnits& units,
             notes.Lost("layer " + std::to_string(at + 1) + " has no material");
             return {};
         }
-        const std::string& name = layup.plies[static_cast<std::size_t>(ply - materials.begin())];
+        const std::string& name = layup.plies[static_cast<std::size_t>(ply - materials.begin())].name;
         if (written.insert(name).second) {
             const auto numbers = PlyNumbersOf(*ply, units, notes);
             if (!numbers) return {};
@@ -306,9 +331,10 @@ std::vector<CarryRule> Rules() {
          {"specific_heat", Carry::CONVERTED, "RHO_CP", "multiplied by the density"},
          {"hyperelastic NEO_HOOKE", Carry::CARRIED, "ELAS_HYPER", "D = 0 is written as K = 2e4 mu0"},
          {"hyperelastic MOONEY_RIVLIN", Carry::CARRIED, "ELAS_HYPER", "D = 0 is written as K = 2e4 mu0"},
-         {"hyperelastic REDUCED_POLYNOMIAL", Carry::CARRIED, "ELAS_HYPER", "to order 2; D2 is not written"},
+         {"hyperelastic REDUCED_POLYNOMIAL", Carry::CARRIED, "ELAS_HYPER", "to order 2; no D2"},
          {"hyperelastic POLYNOMIAL", Carry::CARRIED, "ELAS_HYPER", "order 1"},
-         {"layup", Carry::CONVERTED, "ELAS_ORTH, DEFI_COMPOSITE", "the plane constants of its plies"}},
+         {"layup", Carry::CONVERTED, "ELAS_ORTH, DEFI_COMPOSITE",
+          "every ply orthotropic; of the constants across it those that are given"}},
         "DEFI_MATERIAU has no keyword for it that this program writes");
 }
 
@@ -319,6 +345,11 @@ DeckForm CodeAsterForm() {
             .title = "code_aster",
             .comment = "# ",
             .names = {7, "", true, "MAT"},
+            .reserved = {"AND",    "AS",      "ASSERT", "ASYNC",   "AWAIT", "BREAK",  "CALCUL", "CLASS",
+                         "COPIER", "DEBUT",   "DEF",    "DEL",     "ELIF",  "ELSE",   "EXCEPT", "FALSE",
+                         "FIN",    "FINALLY", "FOR",    "FORMULE", "FROM",  "GLOBAL", "IF",     "IMPORT",
+                         "IN",     "INCLUDE", "IS",     "LAMBDA",  "NONE",  "NOT",    "OR",     "PASS",
+                         "RAISE",  "RETURN",  "TRUE",   "TRY",     "WHILE", "WITH",   "YIELD"},
             .outside = "the nearest row's value",
             .rules = Rules(),
             .write = &Write,

@@ -8,6 +8,7 @@
 #include "zelmat/exchange/DeckNotes.h"
 #include "zelmat/exchange/DeckText.h"
 #include "zelmat/exchange/DeckUnits.h"
+#include "zelmat/files/OutputFolder.h"
 #include "zelmat/layups/LayupCard.h"
 #include "zelmat/materials/Material.h"
 
@@ -20,23 +21,28 @@ struct DeckMaterial {
     std::string name;  ///< in the deck
     int number;        ///< in the deck, from 1
     std::vector<Block> blocks;
+    std::optional<PlyMaterial> ply = std::nullopt;  ///< constants with directions, where it has no other law
 
     const Block* Find(const std::string& block) const;  ///< null when it is not carried
+};
+
+/// What a deck calls a ply material.
+struct DeckPly {
+    std::string name;  ///< for cards of its own, which no other material of the deck has
+    /// The deck's material that is the same one, with a stiffness: it needs no cards of its own.
+    std::optional<std::string> material;
 };
 
 /// A layup as a writer gets it.
 struct DeckLayup {
     const LayupCard& layup;
     std::string name;                     ///< in the deck
-    std::vector<std::string> plies;       ///< names of its materials in the deck, in the order of the card's
+    std::vector<DeckPly> plies;           ///< its materials, in the order of the card's
     std::vector<std::string> angleNames;  ///< one a layer: names that no other angle of the deck has
 };
 
 /// A file of a deck. Its name counts only where a deck is a folder.
-struct DeckFile {
-    std::string name;
-    std::string text;
-};
+using DeckFile = NamedText;
 
 /// All that tells one form of deck from the next. A new form is one file, and one line in DeckForm.cpp.
 struct DeckForm {
@@ -45,7 +51,8 @@ struct DeckForm {
     bool folder = false;
     std::string comment;  ///< what begins a line of comment
     DeckNameRule names;
-    std::string_view outside;  ///< what the solver does outside a table over temperature
+    std::vector<std::string> reserved = {};  ///< names that mean something to the solver, in capital letters
+    std::string_view outside;                ///< what the solver does outside a table over temperature
     std::vector<CarryRule> rules;
 
     /// The deck's text for one material, without comments that come before it. What cannot be carried all the

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -18,7 +19,13 @@ public:
         std::string text;
     };
 
-    /// A behavior, or a part of one, that is not in the deck.
+    /// A behavior that is not in the deck, and why.
+    void LostBehavior(const std::string& behavior, const std::string& why) {
+        Lost(behavior + ": " + why);
+        lost_.insert(behavior);
+    }
+
+    /// A part of a behavior, or something else of the material, that is not in the deck.
     void Lost(std::string text) { Add({FindingKind::WARNING, "not-carried", std::move(text)}); }
 
     /// Numbers or a form that differ from the material's own, by rule.
@@ -28,6 +35,9 @@ public:
     void Caution(std::string text) { Add({FindingKind::WARNING, "solver-limit", std::move(text)}); }
 
     const std::vector<Note>& All() const { return all_; }
+
+    /// Whether LostBehavior was said of it.
+    bool HasLost(const std::string& behavior) const { return lost_.count(behavior) > 0; }
 
     /// `subject`: the material or layup.
     void Report(const Place& place, const std::string& subject, Findings& findings) const {
@@ -46,6 +56,7 @@ private:
     }
 
     std::vector<Note> all_;
+    std::set<std::string> lost_;
 };
 
 }  // namespace zelmat

@@ -108,7 +108,9 @@ std::string CommentLines(std::string_view lead, std::string_view text) {
             const std::size_t blank = rest.rfind(' ', kLineLength);
             length = blank == std::string::npos || blank == 0 ? kLineLength : blank;
         }
-        lines += std::string(lead) + rest.substr(0, length) + "\n";
+        std::string line = rest.substr(0, length);
+        if (line.ends_with('\\')) line.back() = '/';  // some would take the next line for comment, too
+        lines += std::string(lead) + line + "\n";
         rest.erase(0, length);
         rest.erase(0, rest.find_first_not_of(' '));
     } while (!rest.empty());

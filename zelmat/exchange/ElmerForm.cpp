@@ -24,7 +24,7 @@ std::string EntriesOf(const Block& block, const DeckUnits& units, DeckNotes& not
     auto table = DeckTableOf(block, units, why);
     const auto readable = OverTemperature(block.tables.front());
     if (!table || !readable.Ok()) {
-        notes.Lost(BehaviorOf(block) + ": " + (table ? readable.Why() : why));
+        notes.LostBehavior(BehaviorOf(block), (table ? readable.Why() : why));
         return {};
     }
     const std::string& name = block.kind->name;
@@ -35,7 +35,7 @@ std::string EntriesOf(const Block& block, const DeckUnits& units, DeckNotes& not
     const auto reference = block.values.Get<double>("reference_temperature");
     const auto zero = reference ? units.FromStored(*reference, "temperature") : std::nullopt;
     if (IsInstantaneous(block) || !zero) {
-        notes.Lost("thermal_expansion: it needs mean coefficients with a reference temperature");
+        notes.LostBehavior("thermal_expansion", "it needs mean coefficients with a reference temperature");
         return {};
     }
     return Entry("Heat Expansion Coefficient", *table, 0) + "  Reference Temperature = Real " +

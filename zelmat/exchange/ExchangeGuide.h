@@ -8,9 +8,9 @@ namespace zelmat {
 inline const std::string kExchangeGuide = R"(# Exchange with solvers
 
 ```
-zelmat export CARD|DOC... [MATERIAL] --to SOLVER [--units SYSTEM] --output FILE|FOLDER
+zelmat export CARD|DOC... [MATERIAL|LAYUP] --to SOLVER [--units SYSTEM] --output FILE|FOLDER
 zelmat import DECK --units SYSTEM [--output CARD]
-zelmat prove CARD|DOC [MATERIAL] --solver ccx [--units SYSTEM]
+zelmat prove CARD|DOC [MATERIAL] --solver ccx [--units SYSTEM] [--deck DECK] [--keep-deck FOLDER]
 ```
 
 This page is what `zelmat export --carries` prints, made from the tables that the writers work by.
@@ -19,28 +19,41 @@ This page is what `zelmat export --carries` prints, made from the tables that th
 names them, with absolute zero on their scale of temperature. Systems that do not fit together (`us`: lb/in^3
 beside psi and in) are warned of. Whatever is lost or changed is a finding and a comment in the deck: `not-carried`,
 `changed-in-deck`, `solver-limit`. The card's own checks run first (`--keep-going` goes on). A deck is written whole
-or not at all; where a material has nothing that the solver takes, there is none, and the exit code is 1. Of
+or not at all, files of a folder together; where a material has nothing that the solver takes, there is none, and
+the exit code is 1. A switched-off behavior is not exported. Of
 alternative hyperelastic fits the first is taken, or that of `--model` and `--variant`. Of a user material, a
 hyperelastic and an elastic-plastic behavior that are all on, the first in this order is the deck's.
 
+Ply constants (E1, E2, nu12, G12, ...) stand among a card's `other_properties`; they are the deck's law where no behavior
+is one. nu12 is the strain along 2 that a stress along 1 causes, so that nu21 = nu12 E2/E1. Layups are those of layup
+cards and of documents. A ply whose material is in the deck with the same constants refers to it; for others the deck
+has a material of its own. A material that is nothing but a ply is no material without a deck.
+
 **Import** reads material cards of CalculiX back: several materials in one deck, continued lines, any case, blanks and
 comments. Keywords that describe no material are skipped and named, once each. A deck is read line by line, however
-large. What a card has no place for (an orthotropic `*ELASTIC`) is a finding with its line; a line that cannot be read
+large. What a card has no place for is a finding with its line; a line that cannot be read
 stops the import. Export, import and export give the same cards again, but for the comments.
 
-**Prove** writes the material's CalculiX deck, runs the solver on models of one element in a temporary folder and holds
-what it prints against the formulas: tension, shear, hardening, free expansion, mass, conduction; rubber in
-four modes; at the temperatures of the tables, between and beyond them. Bounds, as parts of the value: 1e-6 (elastic,
-expansion, mass, conduction), 1e-4 (isotropic hardening, linear step), 1e-3 (kinematic hardening to 1 % with NLGEOM;
-rubber). User materials, specific heats and layups are exported and not proven. On Debian the solver is the package
-`calculix-ccx`.
+**Prove** writes the material's CalculiX deck, runs the solver on models of one or two elements in a temporary folder and
+holds what it prints against the formulas: tension, shear, hardening, free expansion, mass, conduction, a bar that is
+heated at a constant rate; ply constants in three directions and planes; rubber in four modes; at the temperatures of
+the tables, between and beyond them. Bounds, as parts of the value: 1e-6 (elastic, ply constants, expansion, mass,
+conduction), 1e-5 (specific heat, where a table may bend sharply), 1e-4 (isotropic hardening, linear step), 1e-3
+(kinematic hardening to 1 % with NLGEOM; rubber). User materials are exported and not proven; layups are held against
+laminate theory in the tests alone. `--keep-deck` leaves the models in a folder, also those of a run that fails; `--deck`
+proves the material cards of a deck that somebody has written or changed, in place of those of `export`. On Debian the
+solver is the package `calculix-ccx`.
+
+**The other forms** have no solver here: their decks follow the documented keywords and columns, hold the numbers that
+the tests expect, and have not been run. Try a deck on one element before an analysis stands on it.
 
 **What CalculiX (2.20) does and the writer heeds**: a number of more than 20 characters is cut off without a word, with
 its exponent, so none is longer (which changes a number by less than 1e-12 of itself); names have up to 80 characters;
 potentials end at order 3; D = 0 is replaced by a compressibility of its own, 4 to 7 % off, so 1e-4/mu0 is written;
 `HARDENING=JOHNSON COOK` is run as isotropic; kinematic hardening is wrong in steps without NLGEOM; a hardening curve is
 read at the plastic strains of the curve below it in temperature, so that all curves are written at the same ones; eight
-constants of a user material stand on a line, and one more line follows a full last one; composite shells are S8R and S6.
+constants of a user material stand on a line, and one more line follows a full last one; it finds the routine of a
+mechanical one by the beginning of the material's name (USER), without which it stops; composite shells are S8R and S6.
 )";
 
 }  // namespace zelmat

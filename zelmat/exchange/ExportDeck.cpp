@@ -4,6 +4,7 @@
 #include <iterator>
 #include <set>
 
+#include "zelmat/properties/LaminateProperty.h"
 #include "zelmat/properties/UsedBlock.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/CountText.h"
@@ -37,8 +38,8 @@ std::vector<const Block*> SwitchedOn(const Material& material, const FitChoice& 
         notes.Changed("of " + CountText(material.fits.size(), "hyperelastic fit") + " the deck holds " +
                       FitName(*chosen));
     }
-    for (const Block& block : material.information) {
-        notes.Changed(block.kind->name + " is for information and not in the deck");
+    if (material.heatGeneration.value_or(false)) {
+        notes.Lost("heat_generation: that the material generates heat; no deck of this program says so");
     }
     return blocks;
 }
@@ -49,7 +50,7 @@ std::optional<Block> Taken(const DeckForm& form, const Material& material, const
     const std::string behavior = BehaviorOf(block);
     const CarryRule* rule = FindRule(form.rules, behavior);
     if (!rule || rule->carry == Carry::LOST) {
-        notes.Lost(behavior + ": " + (rule ? rule->remark : form.title + " has nothing like it"));
+        notes.LostBehavior(behavior, rule ? rule->remark : form.title + " has nothing like it");
         return std::nullopt;
     }
     Findings own;
@@ -61,10 +62,20 @@ std::optional<Block> Taken(const DeckForm& form, const Material& material, const
             findings.Add(finding);
         }
     }
-    if (used && rule->carry == Carry::CONVERTED) {
-        notes.Changed(behavior + " is written as " + rule->as + ": " + rule->remark);
-    }
     return used;
+}
+
+bool IsLawOfStress(const Block& block) {
+    return block.kind->name == "elastic" || block.kind->name == "hyperelastic" ||
+           BehaviorOf(block) == "user_material MECHANICAL";
+}
+
+void TellInformation(const Material& material, bool plyCarried, DeckNotes& notes) {
+    for (const Block& block : material.information) {
+        const bool holdsPly = plyCarried && block.kind->name == "other_properties";
+        notes.Changed(holdsPly ? "of " + block.kind->name + " the deck holds the ply constants alone"
+                               : block.kind->name + " is for information and not in the deck");
+    }
 }
 
 void DropRivals(std::vector<Block>& blocks, DeckNotes& notes) {
@@ -88,21 +99,66 @@ void DropRivals(std::vector<Block>& blocks, DeckNotes& notes) {
     }
 }
 
+std::vector<Block> CarriedBlocks(const DeckForm& form, const Material& material, const FitChoice& fit,
+                                 DeckNotes& notes, Findings& findings) {
+    std::vector<Block> blocks;
+    for (const Block* block : SwitchedOn(material, fit, notes, findings)) {
+        if (auto taken = Taken(form, material, *block, notes, findings)) blocks.push_back(std::move(*taken));
+    }
+    DropRivals(blocks, notes);
+    return blocks;
+}
+
+std::optional<PlyMaterial> CarriedPly(const DeckForm& form, const Material& material,
+                                      const std::vector<Block>& blocks, DeckNotes& notes) {
+    PlyMaterial ply{material.name, PlyConstantsOf(material), {}};
+    const CarryRule& rule = *FindRule(form.rules, kPlyConstants);
+    const auto law = std::find_if(blocks.begin(), blocks.end(), &IsLawOfStress);
+    bool carried = false;
+    if (!ply.Constant("E1")) {
+        // It has none.
+    } else if (rule.carry == Carry::LOST) {
+        notes.LostBehavior(kPlyConstants, rule.remark);
+    } else if (law != blocks.end()) {
+        notes.LostBehavior(kPlyConstants,
+                           "a material of the deck has one law of its kind, and that is " + law->kind->name);
+    } else {
+        carried = true;
+    }
+    TellInformation(material, carried, notes);
+    return carried ? std::optional(std::move(ply)) : std::nullopt;
+}
+
 class DeckExport {
 public:
-    DeckExport(const DeckForm& form, const DeckUnits& units, Findings& findings)
-        : form_(form), units_(units), findings_(findings) {}
+    DeckExport(const DeckForm& form, const DeckContent& content, const DeckUnits& units, Findings& findings)
+        : form_(form), units_(units), findings_(findings) {
+        taken_.insert(form.reserved.begin(), form.reserved.end());
+        for (const LayupCard& layup : content.layups) {
+            for (const PlyMaterial& ply : layup.materials) plies_.insert(ply.name);
+        }
+    }
 
     void Add(const Material& material, const FitChoice& fit) {
         DeckNotes notes;
-        const DeckMaterial deck{material, DeckName(material.name, form_.names, taken_), ++number_,
-                                CarriedBlocks(form_, material, fit, notes, findings_)};
+        const DeckMaterial deck = MakeDeckMaterial(form_, material, fit, taken_, ++number_, notes, findings_);
         TellOutside(deck, notes);
         std::vector<DeckFile> files;
-        if (!deck.blocks.empty()) files = form_.write(deck, units_, notes);
+        if (!deck.blocks.empty() || deck.ply) files = form_.write(deck, units_, notes);
+        TellConversions(form_, deck, notes);
         notes.Report({material.file, 0}, material.name, findings_);
-        if (files.empty()) return NothingCarried(material.file, material.name);
-        Append(std::move(files), Heading(material, deck, notes));
+        if (!files.empty()) {
+            if (IsStiff(deck, notes)) stiff_.push_back({material.name, deck.name, PlyConstantsOf(material)});
+            Append(std::move(files), Heading(material, deck, notes));
+        } else if (form_.writeLayup && plies_.count(material.name) > 0) {
+            findings_.Add({FindingKind::NOTE,
+                           {material.file, 0},
+                           "changed-in-deck",
+                           QuotedText(material.name) + " stands in the deck as a ply of its layup alone",
+                           {}});
+        } else {
+            NothingCarried(material.file, material.name);
+        }
     }
 
     void Add(const LayupCard& layup) {
@@ -119,6 +175,9 @@ public:
         if (files.empty()) return NothingCarried(layup.file, layup.name);
         std::vector<std::string> lines = {"Layup: " + layup.name, layup.description};
         for (const std::string& source : layup.sources) lines.push_back("source: " + source);
+        for (const PlyMaterial& ply : layup.materials) {
+            if (!ply.source.empty()) lines.push_back("source of " + ply.name + ": " + ply.source);
+        }
         Append(std::move(files), Comments(std::move(lines), notes));
     }
 
@@ -132,6 +191,18 @@ public:
     }
 
 private:
+    /// A material of the deck that has a stiffness in it.
+    struct StiffMaterial {
+        std::string name;
+        std::string nameInDeck;
+        NamedConstants constants;
+    };
+
+    static bool IsStiff(const DeckMaterial& deck, const DeckNotes& notes) {
+        return (deck.ply && !notes.HasLost(kPlyConstants)) ||
+               (deck.Find("elastic") && !notes.HasLost("elastic"));
+    }
+
     void TellOutside(const DeckMaterial& deck, DeckNotes& notes) {
         const bool any = std::any_of(deck.blocks.begin(), deck.blocks.end(), [](const Block& block) {
             return !block.tables.empty() && block.tables.front().temperatureDependent;
@@ -145,12 +216,20 @@ private:
     DeckLayup Named(const LayupCard& layup) {
         DeckLayup deck{layup, DeckName(layup.name, form_.names, taken_), {}, {}};
         for (const PlyMaterial& ply : layup.materials) {
-            deck.plies.push_back(DeckName(ply.name, form_.names, taken_));
+            deck.plies.push_back({DeckName(ply.name, form_.names, taken_), MaterialOf(ply)});
         }
         for (const CardLayer& layer : layup.layers) {
             deck.angleNames.push_back("OR" + std::to_string(AngleNumber(layer.angle)));
         }
         return deck;
+    }
+
+    /// The deck's material of that name with the same constants.
+    std::optional<std::string> MaterialOf(const PlyMaterial& ply) const {
+        const auto found = std::find_if(stiff_.begin(), stiff_.end(), [&](const StiffMaterial& one) {
+            return one.name == ply.name && one.constants == ply.constants;
+        });
+        return found == stiff_.end() ? std::nullopt : std::optional(found->nameInDeck);
     }
 
     int AngleNumber(double angle) {
@@ -209,21 +288,30 @@ private:
     const DeckUnits& units_;
     Findings& findings_;
     std::set<std::string> taken_;  // names in the deck, in capital letters
-    std::vector<double> angles_;   // of layers, in the order of their names
+    std::set<std::string> plies_;  // names of the ply materials of all layups
+    std::vector<StiffMaterial> stiff_;
+    std::vector<double> angles_;  // of layers, in the order of their names
     int number_ = 0;
     std::vector<DeckFile> files_;
 };
 
 }  // namespace
 
-std::vector<Block> CarriedBlocks(const DeckForm& form, const Material& material, const FitChoice& fit,
-                                 DeckNotes& notes, Findings& findings) {
-    std::vector<Block> blocks;
-    for (const Block* block : SwitchedOn(material, fit, notes, findings)) {
-        if (auto taken = Taken(form, material, *block, notes, findings)) blocks.push_back(std::move(*taken));
+DeckMaterial MakeDeckMaterial(const DeckForm& form, const Material& material, const FitChoice& fit,
+                              std::set<std::string>& taken, int number, DeckNotes& notes,
+                              Findings& findings) {
+    DeckMaterial deck{material, DeckName(material.name, form.names, taken), number,
+                      CarriedBlocks(form, material, fit, notes, findings)};
+    deck.ply = CarriedPly(form, material, deck.blocks, notes);
+    return deck;
+}
+
+void TellConversions(const DeckForm& form, const DeckMaterial& deck, DeckNotes& notes) {
+    for (const Block& block : deck.blocks) {
+        const CarryRule& rule = *FindRule(form.rules, BehaviorOf(block));
+        if (rule.carry != Carry::CONVERTED || notes.HasLost(rule.behavior)) continue;
+        notes.Changed(rule.behavior + " is written as " + rule.as + ": " + rule.remark);
     }
-    DropRivals(blocks, notes);
-    return blocks;
 }
 
 std::vector<DeckFile> ExportDeck(const DeckForm& form, const DeckContent& content, const DeckUnits& units,
@@ -237,7 +325,7 @@ std::vector<DeckFile> ExportDeck(const DeckForm& form, const DeckContent& conten
                           " and " + units.For("length").Spelling() + ": " + WordList(inconsistent),
                       {"si, mm-t-s and mm-kg-ms are consistent"}});
     }
-    DeckExport deck(form, units, findings);
+    DeckExport deck(form, content, units, findings);
     for (const Material& material : content.materials) deck.Add(material, content.fit);
     for (const LayupCard& layup : content.layups) deck.Add(layup);
     return deck.Files();

@@ -62,7 +62,7 @@ std::optional<HardeningRows> InDeckUnits(const HardeningTable& curves, bool over
 std::optional<HardeningRows> TabulatedRows(const JohnsonCook& law, const DeckUnits& units, DeckNotes& notes) {
     const auto curves = JohnsonCookCurves(law);
     if (!curves.Ok()) {
-        notes.Lost("plastic johnson-cook: " + curves.Why());
+        notes.LostBehavior("plastic johnson-cook", curves.Why());
         return std::nullopt;
     }
     const double percent = 100.0 * TabulationError(law, *curves);
@@ -105,14 +105,14 @@ double TabulationError(const JohnsonCook& law, const HardeningTable& curves) {
 std::optional<HardeningRows> HardeningRowsOf(const Block& plastic, const DeckUnits& units, DeckNotes& notes) {
     const auto property = HardeningOf(plastic);
     if (!property.Ok()) {
-        notes.Lost(BehaviorOf(plastic) + ": " + property.Why());
+        notes.LostBehavior(BehaviorOf(plastic), property.Why());
         return std::nullopt;
     }
     if (const auto* law = std::get_if<JohnsonCook>(&property->law)) return TabulatedRows(*law, units, notes);
     std::string why;
     auto table = DeckTableOf(plastic, units, why);
     if (!table) {
-        notes.Lost(BehaviorOf(plastic) + ": " + why);
+        notes.LostBehavior(BehaviorOf(plastic), why);
         return std::nullopt;
     }
     return HardeningRows{std::move(table->columns[0]), std::move(table->columns[1]),

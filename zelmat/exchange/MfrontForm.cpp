@@ -55,12 +55,12 @@ std::vector<DeckFile> Write(const DeckMaterial& material, const DeckUnits& units
         const auto table = DeckTableOf(block, units, why);
         const auto readable = OverTemperature(block.tables.front());
         if (!table || !readable.Ok()) {
-            notes.Lost(BehaviorOf(block) + ": " + (table ? readable.Why() : why));
+            notes.LostBehavior(BehaviorOf(block), (table ? readable.Why() : why));
             continue;
         }
         if (block.kind->name == "thermal_expansion") {
             if (IsInstantaneous(block)) {
-                notes.Lost("thermal_expansion: coefficients that are no mean ones");
+                notes.LostBehavior("thermal_expansion", "coefficients that are no mean ones");
                 continue;
             }
             const auto reference = block.values.Get<double>("reference_temperature");
@@ -86,6 +86,15 @@ DeckForm MfrontForm() {
             .folder = true,
             .comment = "// ",
             .names = {60, "", true, "Material"},
+            .reserved = {"AND",     "ASM",       "AUTO",      "BOOL",     "BREAK",    "CASE",     "CATCH",
+                         "CHAR",    "CLASS",     "CONST",     "CONTINUE", "DEFAULT",  "DELETE",   "DO",
+                         "DOUBLE",  "ELSE",      "ENUM",      "EXPLICIT", "EXPORT",   "EXTERN",   "FALSE",
+                         "FLOAT",   "FOR",       "FRIEND",    "GOTO",     "IF",       "INLINE",   "INT",
+                         "LONG",    "MUTABLE",   "NAMESPACE", "NEW",      "NOT",      "OPERATOR", "OR",
+                         "PRIVATE", "PROTECTED", "PUBLIC",    "REGISTER", "RETURN",   "SHORT",    "SIGNED",
+                         "SIZEOF",  "STATIC",    "STRUCT",    "SWITCH",   "TEMPLATE", "THIS",     "THROW",
+                         "TRUE",    "TRY",       "TYPEDEF",   "TYPENAME", "UNION",    "UNSIGNED", "USING",
+                         "VIRTUAL", "VOID",      "VOLATILE",  "WHILE",    "XOR"},
             .outside = "the nearest row's value",
             .rules = WithTheRestLost({{"elastic", Carry::CARRIED, "YoungModulus, PoissonRatio", ""},
                                       {"density", Carry::CARRIED, "MassDensity", ""},

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "zelmat/exchange/DeckForm.h"
-#include "zelmat/exchange/HardeningRows.h"
+#include "zelmat/exchange/HigherCompressibility.h"
 #include "zelmat/materials/OverTemperature.h"
 #include "zelmat/properties/ElasticProperty.h"
 #include "zelmat/properties/HardeningProperty.h"
@@ -70,30 +70,42 @@ public:
 
     std::string Text() {
         if (!material_.Find("density")) {
-            notes_.Lost("the material: every law of OpenRadioss needs a density");
+            for (const Block& block : material_.blocks)
+                notes_.LostBehavior(BehaviorOf(block), "every law of OpenRadioss needs a density");
             return {};
         }
         const auto density = AtRoomTemperature("density", "density", 0);
         if (!density) return {};
         density_ = *density;
-        if (material_.Find("hyperelastic")) return Rubber(*material_.Find("hyperelastic"));
+        if (material_.Find("hyperelastic")) {
+            TellHeatLost();
+            return Rubber(*material_.Find("hyperelastic"));
+        }
+        const Block* plastic = material_.Find("plastic");
         const auto young = AtRoomTemperature("elastic", "modulus", 0),
                    ratio = AtRoomTemperature("elastic", "number", 1);
         if (!young || !ratio) {
-            notes_.Lost("density: it needs a law of stress beside it");
+            notes_.LostBehavior("density", "it needs a law of stress beside it");
+            if (plastic) notes_.LostBehavior(BehaviorOf(*plastic), "it needs an elastic behavior beside it");
+            TellHeatLost();
             return {};
         }
         young_ = *young;
         ratio_ = *ratio;
-        const Block* plastic = material_.Find("plastic");
-        if (material_.Find("specific_heat") && !(plastic && BehaviorOf(*plastic) == "plastic johnson-cook")) {
-            notes_.Lost("specific_heat: only Johnson and Cook's law has a place for it");
-        }
-        if (!plastic) return Head("ELAST") + Fields({density_}) + Fields({young_, ratio_});
-        return Plastic(*plastic);
+        return plastic ? Plastic(*plastic) : Elastic();
     }
 
 private:
+    void TellHeatLost() {
+        if (material_.Find("specific_heat"))
+            notes_.LostBehavior("specific_heat", "only Johnson and Cook's law has a place for it");
+    }
+
+    std::string Elastic() {
+        TellHeatLost();
+        return Head("ELAST") + Fields({density_}) + Fields({young_, ratio_});
+    }
+
     std::string Head(const std::string& law) const {
         return "/MAT/" + law + "/" + std::to_string(material_.number) + "/1\n" + material_.name + "\n";
     }
@@ -107,7 +119,7 @@ private:
                              ? ValueAt(*table, kRoomTemperature, OutsidePolicy::CONSTANT)
                              : mechanics::Outcome<mechanics::TableValue>(mechanics::Refusal{table.Why()});
         if (!row.Ok()) {
-            notes_.Lost(std::string(name) + ": " + row.Why());
+            notes_.LostBehavior(name, row.Why());
             return std::nullopt;
         }
         if (table->Range()) {
@@ -120,10 +132,11 @@ private:
     std::string Plastic(const Block& plastic) {
         const auto property = HardeningOf(plastic);
         if (!property.Ok()) {
-            notes_.Lost(BehaviorOf(plastic) + ": " + property.Why());
-            return Head("ELAST") + Fields({density_}) + Fields({young_, ratio_});
+            notes_.LostBehavior(BehaviorOf(plastic), property.Why());
+            return Elastic();
         }
         if (const auto* law = std::get_if<mechanics::JohnsonCook>(&property->law)) return JohnsonCook(*law);
+        TellHeatLost();
         return Curve(plastic, *property);
     }
 
@@ -160,11 +173,17 @@ private:
         const bool kinematic = BehaviorOf(plastic) == "plastic kinematic";
         const int function = material_.number;
         std::string curve;
+        double strain = 0.0, stress = 0.0;
         for (const auto& point : table.Rows()) {
             if (property.temperatureDependent && NearestTemperature(table, at) != point.temperature) continue;
-            const auto stress = units_.FromStored(point.stress, "stress");
-            curve += Fields({point.plasticStrain, stress.value_or(0.0)});
+            strain = point.plasticStrain;
+            stress = units_.FromStored(point.stress, "stress").value_or(0.0);
+            curve += Fields({strain, stress});
         }
+        curve += Fields({strain + 1.0, stress});
+        notes_.Changed(
+            BehaviorOf(plastic) +
+            ": one more point behind the last, of the same stress: the curve stays constant there");
         return "/FUNCT/" + std::to_string(function) + "\n" + material_.name + " hardening\n" + curve +
                Head("PLAS_TAB") + "#              RHO_I\n" + Fields({density_}) +
                "#                  E                  Nu           Eps_p_max               Eps_t             "
@@ -192,14 +211,15 @@ private:
                                   ? property->At(kRoomTemperature, OutsidePolicy::CONSTANT)
                                   : mechanics::Outcome<HyperelasticAt>(mechanics::Refusal{property.Why()});
         if (!material.Ok()) {
-            notes_.Lost(BehaviorOf(block) + ": " + material.Why());
+            notes_.LostBehavior(BehaviorOf(block), material.Why());
             return {};
         }
         std::vector<double> mu, alpha;
         if (!Terms(*property, *material, mu, alpha)) {
-            notes_.Lost(BehaviorOf(block) + ": LAW42 has 5 terms, and no more than that is written");
+            notes_.LostBehavior(BehaviorOf(block), "LAW42 has 5 terms, and no more than that is written");
             return {};
         }
+        TellHigherD(*property, notes_);
         mu.resize(5, 0.0);
         alpha.resize(5, 0.0);
         if (property->Coefficients().Range())

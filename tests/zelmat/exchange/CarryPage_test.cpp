@@ -18,7 +18,7 @@ TEST(CarryPage, IsTheOneInTheDocuments) {
     EXPECT_EQ(page.str(), zelmat::CarryPage()) << "zelmat export --carries > docs/exchange.md makes it anew";
 }
 
-TEST(CarryPage, NamesTwentyTwoBehaviors) {
+TEST(CarryPage, NamesTwentyThreeBehaviors) {
     EXPECT_THAT(zelmat::BehaviorNames(),
                 testing::ElementsAre(
                     "elastic", "plastic isotropic", "plastic kinematic", "plastic johnson-cook", "density",
@@ -26,7 +26,7 @@ TEST(CarryPage, NamesTwentyTwoBehaviors) {
                     "user_material THERMAL", "hyperelastic ARRUDA_BOYCE", "hyperelastic MOONEY_RIVLIN",
                     "hyperelastic NEO_HOOKE", "hyperelastic OGDEN", "hyperelastic POLYNOMIAL",
                     "hyperelastic REDUCED_POLYNOMIAL", "hyperelastic VAN_DER_WAALS", "hyperelastic YEOH",
-                    "gasket", "gasket_membrane", "gasket_transverse_shear", "layup"));
+                    "gasket", "gasket_membrane", "gasket_transverse_shear", "ply constants", "layup"));
 }
 
 TEST(CarryPage, HasALineOfEveryFormAboutEveryBehavior) {

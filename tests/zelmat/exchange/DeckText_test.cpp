@@ -71,6 +71,10 @@ TEST(DeckText, MakesAsciiOfAnything) {
     EXPECT_EQ(AsciiLine(std::string("a\0b", 3)), "a b");
 }
 
+TEST(DeckText, LetsNoCommentGoOnOnTheNextLine) {
+    EXPECT_EQ(CommentLines("// ", "kept in C:\\cards\\"), "// kept in C:\\cards/\n");
+}
+
 TEST(DeckText, KeepsCommentsOnTheirLines) {
     EXPECT_EQ(CommentLines("** ", "one\n*ELASTIC\n1, 2"), "** one *ELASTIC 1, 2\n");
     EXPECT_EQ(CommentLines("** ", ""), "** \n");

@@ -101,6 +101,76 @@ TEST_F(ExportCommand, PrintsOneJsonObject) {
     EXPECT_TRUE(json["findings"].empty());
 }
 
+TEST_F(ExportCommand, TellsADocumentWithNothingInIt) {
+    const std::string document = folder_ + "/empty.zeldoc";
+    ASSERT_EQ(RunZelmat({"new", document}).exitCode, 0);
+    const ProgramRun run = RunZelmat({"export", document, "--to", "calculix"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.err, HasSubstr("error[nothing-carried]: there is no material and no layup in it"));
+}
+
+/// A document with the layup [0/90] of a material whose card is given.
+class LayupExport : public ExportCommand {
+protected:
+    void Make(const std::string& card) {
+        std::ofstream(folder_ + "/card.json") << card;
+        ASSERT_EQ(RunZelmat({"new", document_}).exitCode, 0);
+        ASSERT_EQ(RunZelmat({"add", document_, folder_ + "/card.json"}).exitCode, 0);
+        ASSERT_EQ(RunZelmat({"layup", document_, "add", "Laminate", "[0/90]", "--material", "Ply",
+                             "--thickness", "1mm"})
+                      .exitCode,
+                  0);
+    }
+    std::string document_ = folder_ + "/lab.zeldoc";
+};
+
+TEST_F(LayupExport, TakesThePlyFromTheMaterialInTheDeck) {
+    Make(
+        R"({"name": "Ply", "density": {"temperature_dependent": false, "columns": ["density"], "rows": [[1600]]},
+             "other_properties": {"E1": 181e9, "E2": 10.3e9, "nu12": 0.28, "G12": 7.17e9}})");
+    const ProgramRun run = RunZelmat({"export", document_, "--to", "calculix"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(
+        run.out,
+        HasSubstr("*MATERIAL, NAME=Ply\n*ELASTIC, TYPE=ENGINEERING CONSTANTS\n1.81e+11, 1.03e+10, 1.03e+10, "
+                  "0.28, 0.28, 0.28, 7.17e+09, 7.17e+09\n4023437500\n*DENSITY\n1600\n"));
+    EXPECT_THAT(run.out, HasSubstr("*SHELL SECTION, COMPOSITE, ELSET=Laminate\n0.001, , Ply, OR1\n"));
+    EXPECT_THAT(run.out, testing::Not(HasSubstr("Ply_2")));
+}
+
+TEST_F(LayupExport, TakesTheLayupByItsName) {
+    Make(R"({"name": "Ply", "other_properties": {"E1": 181e9, "E2": 10.3e9, "nu12": 0.28, "G12": 7.17e9}})");
+    const ProgramRun run = RunZelmat({"export", document_, "Laminate", "--to", "code_aster"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("ELAS_ORTH=_F(E_L=1.81e+11, E_T=1.03e+10, NU_LT=0.28, G_LT=7.17e+09, ),"));
+    EXPECT_THAT(run.out, HasSubstr("Laminat = DEFI_COMPOSITE("));
+}
+
+TEST_F(LayupExport, SaysOfWhichMaterialThePlyHasNoStiffness) {
+    Make(R"({"name": "Ply", "notes": "only a name"})");
+    const ProgramRun run = RunZelmat({"export", document_, "--to", "calculix"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_THAT(run.err, HasSubstr("'Laminate': ply material 'Ply': it has no E1, E2, nu12, G12"));
+    EXPECT_THAT(run.err, testing::Not(HasSubstr("can hold nothing of 'Ply'")));
+}
+
+TEST_F(ExportCommand, WritesAFolderOrNothingOfIt) {
+    const std::string folder = folder_ + "/mf", taken = "/PMI_foam_Rohacell_71_PoissonRatio.mfront";
+    std::filesystem::create_directories(folder + taken);
+    const ProgramRun run =
+        RunZelmat({"export", Sample("foam_rohacell71.json"), "--to", "mfront", "--output", folder});
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_THAT(run.err, HasSubstr("cannot be replaced (Is a directory)"));
+    EXPECT_FALSE(std::filesystem::exists(folder + "/PMI_foam_Rohacell_71_YoungModulus.mfront"));
+    std::filesystem::remove(folder + taken);
+    EXPECT_EQ(
+        RunZelmat({"export", Sample("foam_rohacell71.json"), "--to", "mfront", "--output", folder}).exitCode,
+        0);
+    EXPECT_THAT(Text(folder + taken), HasSubstr("@Law PMI_foam_Rohacell_71_PoissonRatio;"));
+}
+
 TEST_F(ExportCommand, NeedsAFormAndAFile) {
     EXPECT_EQ(RunZelmat({"export", Sample("foam_rohacell71.json")}).exitCode, 2);
     EXPECT_EQ(RunZelmat({"export", "--to", "calculix"}).exitCode, 2);

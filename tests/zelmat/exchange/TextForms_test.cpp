@@ -127,11 +127,11 @@ TEST(CodeAsterForm, WritesFunctionsOfTemperature) {
             R"("elastic": {"temperature_dependent": true, "columns": ["youngs_modulus", "poissons_ratio", "temperature"],
             "rows": [[200e9, 0.3, 300], [100e9, 0.25, 400]]})")});
     EXPECT_EQ(WithoutComments(deck.text, "#"),
-              "f001_001 = DEFI_FONCTION(NOM_PARA='TEMP', PROL_GAUCHE='CONSTANT', PROL_DROITE='CONSTANT', "
+              "f0001001 = DEFI_FONCTION(NOM_PARA='TEMP', PROL_GAUCHE='CONSTANT', PROL_DROITE='CONSTANT', "
               "VALE=(300., 2e+11, 400., 1e+11, ))\n"
-              "f001_002 = DEFI_FONCTION(NOM_PARA='TEMP', PROL_GAUCHE='CONSTANT', PROL_DROITE='CONSTANT', "
+              "f0001002 = DEFI_FONCTION(NOM_PARA='TEMP', PROL_GAUCHE='CONSTANT', PROL_DROITE='CONSTANT', "
               "VALE=(300., 0.3, 400., 0.25, ))\n"
-              "Stuff = DEFI_MATERIAU(\n    ELAS_FO=_F(E=f001_001, NU=f001_002, ),\n)\n");
+              "Stuff = DEFI_MATERIAU(\n    ELAS_FO=_F(E=f0001001, NU=f0001002, ),\n)\n");
 }
 
 TEST(CodeAsterForm, AddsTheElasticStrainToHardeningCurves) {
@@ -140,7 +140,42 @@ TEST(CodeAsterForm, AddsTheElasticStrainToHardeningCurves) {
                                  R"(, "plastic": {"hardening": "isotropic", "temperature_dependent": false,
             "columns": ["yield_stress", "plastic_strain", "temperature"], "rows": [[200e6, 0, 300], [400e6, 0.1, 300]]})")});
     EXPECT_THAT(deck.text, HasSubstr("VALE=(0.001, 2e+08, 0.102, 4e+08, ))\n"));
-    EXPECT_THAT(deck.text, HasSubstr("TRACTION=_F(SIGM=f001_001)"));
+    EXPECT_THAT(deck.text, HasSubstr("TRACTION=_F(SIGM=f0001001)"));
+}
+
+TEST(CodeAsterForm, TellsTheFunctionsOfAThousandMaterialsApart) {
+    std::vector<zelmat::Material> materials(
+        1'002,
+        StuffWith(
+            R"("elastic": {"temperature_dependent": true, "columns": ["youngs_modulus", "poissons_ratio", "temperature"],
+            "rows": [[200e9, 0.3, 300], [100e9, 0.25, 400]]})"));
+    std::istringstream lines(WithoutComments(Exported("code_aster", materials).text, "#"));
+    std::set<std::string> names;
+    std::size_t functions = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find(" = DEFI_FONCTION") == std::string::npos) continue;
+        ++functions;
+        names.insert(line.substr(0, line.find(' ')));
+    }
+    EXPECT_EQ(functions, 2'004U);
+    EXPECT_EQ(names.size(), functions);
+}
+
+TEST(CodeAsterForm, TakesNoWordOfItsLanguageForAName) {
+    for (const char* word : {"class", "with", "None", "FIN", "DEBUT"}) {
+        auto material = StuffWith(kSomeElastic);
+        material.name = word;
+        EXPECT_THAT(Exported("code_aster", {material}).text,
+                    HasSubstr("\n" + std::string(word) + "_2 = DEFI_MATERIAU("));
+    }
+}
+
+TEST(CodeAsterForm, TellsADensityThatNoLawTakes) {
+    const auto deck = Exported("code_aster", {StuffWith(std::string(kSomeDensity) +
+                                                        R"(, "conductivity": {"temperature_dependent": false,
+            "columns": ["conductivity"], "rows": [[50]]})")});
+    EXPECT_THAT(deck.findings,
+                Contains("warning[not-carried]: 'Stuff': density: it needs an elastic behavior beside it"));
 }
 
 /// A Material section of Elmer: "Keyword = Real number", or "= Variable Temperature", "Real", rows, "End".

@@ -70,12 +70,23 @@ void BarModel::Prescribe(int bar, Face face, int freedom, double value) {
     }
 }
 
-void BarModel::Shear(int bar, double amount) {
-    Prescribe(bar, Z0, 1, 0.0);
-    Prescribe(bar, Z1, 1, amount);
-    Prescribe(bar, Y0, 2, 0.0);
-    Prescribe(bar, Z0, 3, 0.0);
-    Prescribe(bar, Z1, 3, 0.0);
+void BarModel::Ramp(int bar, Face face, int freedom, double from, double to, double time) {
+    const std::string name = "A" + std::to_string(++ramps_), number = std::to_string(freedom);
+    amplitudes_ +=
+        "*AMPLITUDE, NAME=" + name + "\n" + Line({"0.", DeckNumber(from), DeckNumber(time), DeckNumber(to)});
+    ramped_ += "*BOUNDARY, AMPLITUDE=" + name + "\n";
+    for (const int node : Nodes(bar, face)) ramped_ += Line({std::to_string(node), number, number, "1."});
+}
+
+void BarModel::Shear(int bar, double amount, int moving, int height) {
+    constexpr std::array<Face, 3> kLow = {X0, Y0, Z0}, kHigh = {X1, Y1, Z1};
+    const auto bottom = kLow[static_cast<std::size_t>(height)], top = kHigh[static_cast<std::size_t>(height)];
+    const int third = 3 - moving - height;
+    Prescribe(bar, bottom, moving + 1, 0.0);
+    Prescribe(bar, top, moving + 1, amount);
+    Prescribe(bar, kLow[static_cast<std::size_t>(third)], third + 1, 0.0);
+    Prescribe(bar, bottom, height + 1, 0.0);
+    Prescribe(bar, top, height + 1, 0.0);
 }
 
 void BarModel::HoldAtOrigin(int bar) {
@@ -88,9 +99,11 @@ void BarModel::EndStep(const std::string& procedure, const std::string& output) 
     steps_ += procedure;
     if (!temperatures_.empty()) steps_ += "*TEMPERATURE\n" + temperatures_;
     if (!boundary_.empty()) steps_ += "*BOUNDARY\n" + boundary_;
+    steps_ += ramped_;
     for (std::size_t bar = 1; bar <= bars_.size(); ++bar) steps_ += ForBar(output, static_cast<int>(bar));
     steps_ += "*END STEP\n";
     boundary_.clear();
+    ramped_.clear();
     temperatures_.clear();
 }
 
@@ -133,7 +146,7 @@ std::string BarModel::Mesh() const {
 }
 
 std::string BarModel::Text() const {
-    return Mesh() + "*INITIAL CONDITIONS, TYPE=TEMPERATURE\n" + initial_ + steps_;
+    return Mesh() + amplitudes_ + "*INITIAL CONDITIONS, TYPE=TEMPERATURE\n" + initial_ + steps_;
 }
 
 }  // namespace zelmat

@@ -25,9 +25,12 @@ public:
     /// Degree of freedom (1 to 3 displacements, 11 temperature) of all nodes of a face.
     void Prescribe(int bar, Face face, int freedom, double value);
 
-    /// Simple shear in the plane x-z: every node moves along x by `amount` of its height, none along z; the
-    /// bar is free to get thinner along y.
-    void Shear(int bar, double amount);
+    /// The same, going from one value to another in a straight line over a time from the step's beginning.
+    void Ramp(int bar, Face face, int freedom, double from, double to, double time);
+
+    /// Simple shear: every node moves along one axis by `amount` of its height along another one, along which
+    /// none moves; along the third the bar is free. Axes are 0 x, 1 y, 2 z.
+    void Shear(int bar, double amount, int moving = 0, int height = 2);
 
     /// Rollers on the three faces at the origin: the bar strains freely and neither moves nor turns.
     void HoldAtOrigin(int bar);
@@ -41,6 +44,7 @@ public:
     std::string ElementSet(int bar) const { return "E" + std::to_string(bar); }
     std::string NodeSet(int bar) const { return "N" + std::to_string(bar); }
     int Element(int bar) const { return bars_[Index(bar)].firstElement; }
+    int LastElement(int bar) const { return Element(bar) + bars_[Index(bar)].cubes - 1; }
     int FarNode(int bar) const;  ///< where the faces X1, Y1 and Z1 meet
 
 private:
@@ -57,8 +61,11 @@ private:
     std::string material_, materialName_;
     std::vector<Bar> bars_;
     int nextNode_ = 1, nextElement_ = 1;
-    std::string initial_;   // temperatures
+    std::string initial_;  // temperatures
+    std::string amplitudes_;
+    int ramps_ = 0;         // so many amplitudes
     std::string boundary_;  // of the step that is being made
+    std::string ramped_;
     std::string temperatures_;
     std::string steps_;
 };

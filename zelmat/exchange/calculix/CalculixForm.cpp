@@ -1,8 +1,10 @@
+#include <cctype>
 #include <cmath>
 
 #include "zelmat/exchange/DeckForm.h"
 #include "zelmat/exchange/HardeningRows.h"
 #include "zelmat/exchange/calculix/CalculixCards.h"
+#include "zelmat/exchange/calculix/CalculixPly.h"
 #include "zelmat/materials/OverTemperature.h"
 #include "zelmat/properties/ExpansionProperty.h"
 #include "zelmat/properties/HyperelasticProperty.h"
@@ -32,7 +34,8 @@ std::vector<CarryRule> Rules() {
         {"conductivity", Carry::CARRIED, "*CONDUCTIVITY", ""},
         {"specific_heat", Carry::CARRIED, "*SPECIFIC HEAT", ""},
         {"user_material MECHANICAL", Carry::CARRIED, "*USER MATERIAL, *DEPVAR",
-         "the routine is found by the material's name; no flag for an unsymmetric stiffness"},
+         "the routine is found by the beginning of the material's name; no flag for an unsymmetric "
+         "stiffness"},
         {"user_material THERMAL", Carry::CARRIED, "*USER MATERIAL, TYPE=THERMAL, *DEPVAR", ""},
         {"hyperelastic ARRUDA_BOYCE", Carry::CARRIED, "*HYPERELASTIC, ARRUDA-BOYCE",
          "D = 0 is written as 1e-4/mu0"},
@@ -51,9 +54,18 @@ std::vector<CarryRule> Rules() {
         {"gasket", Carry::LOST, "", noDirection},
         {"gasket_membrane", Carry::LOST, "", noDirection},
         {"gasket_transverse_shear", Carry::LOST, "", noDirection},
+        {kPlyConstants, Carry::CARRIED, "*ELASTIC, TYPE=ENGINEERING CONSTANTS, *EXPANSION, TYPE=ORTHO",
+         "constants across the ply that nobody gives are assumed"},
         {"layup", Carry::CONVERTED, "*SHELL SECTION, COMPOSITE, *ORIENTATION",
-         "for elements S8R and S6 alone; constants across the ply are assumed"},
+         "for elements S8R and S6 alone; constants across the ply that nobody gives are assumed"},
     };
+}
+
+/// The beginnings by which the solver finds the routines that a user writes.
+bool NamesARoutine(const std::string& name) {
+    std::string upper = name;
+    for (char& letter : upper) letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+    return upper.starts_with("USER") || upper.starts_with("ABAQUS");
 }
 
 /// One card of the deck, for one block of the material. Nothing when it cannot be written after all.
@@ -63,8 +75,11 @@ public:
         : material_(material), units_(units), notes_(notes) {}
 
     std::string Text() const {
-        std::string text;
+        const auto ply = material_.ply ? PlyNumbersOf(*material_.ply, units_, notes_) : std::nullopt;
+        if (material_.ply && !ply) notes_.LostBehavior(kPlyConstants, "they make no ply");
+        std::string text = ply ? CalculixPlyElastic(material_.material.name, *ply, notes_) : "";
         for (const Block& block : material_.blocks) text += CardOf(block);
+        if (ply) text += FurtherOf(*ply);
         return text;
     }
 
@@ -82,8 +97,17 @@ private:
         return {};
     }
 
+    /// What the ply constants say and no block does.
+    std::string FurtherOf(const PlyNumbers& ply) const {
+        std::string text;
+        if (ply.density && !material_.Find("density")) text = CalculixRow("*DENSITY", {*ply.density});
+        if (!material_.Find("thermal_expansion")) return text + CalculixPlyExpansion(ply);
+        if (ply.alpha1 != ply.alpha2) notes_.Lost("alpha1 and alpha2: thermal_expansion is in the deck");
+        return text;
+    }
+
     std::string Lost(const Block& block, const std::string& why) const {
-        notes_.Lost(BehaviorOf(block) + ": " + why);
+        notes_.LostBehavior(BehaviorOf(block), why);
         return {};
     }
 
@@ -199,6 +223,11 @@ private:
             notes_.Lost("user_material: that the stiffness is unsymmetric; CalculiX has no such flag");
         }
         notes_.Changed("user_material: the constants are as they are, in the routine's own units");
+        if (!thermal && !NamesARoutine(material_.name)) {
+            notes_.Caution(
+                "user_material: CalculiX finds the routine by the beginning of the material's name "
+                "(USER of one's own), which is no routine's here, and stops");
+        }
         std::string text = "*USER MATERIAL, CONSTANTS=" + std::to_string(constants->Rows()) +
                            (thermal ? ", TYPE=THERMAL\n" : "\n");
         text += CalculixConstants(constants->columns.front().values);

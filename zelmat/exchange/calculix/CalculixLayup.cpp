@@ -3,8 +3,7 @@
 #include <set>
 
 #include "zelmat/exchange/DeckForm.h"
-#include "zelmat/exchange/PlyNumbers.h"
-#include "zelmat/exchange/calculix/CalculixCards.h"
+#include "zelmat/exchange/calculix/CalculixPly.h"
 
 namespace zelmat {
 
@@ -12,28 +11,11 @@ std::vector<DeckFile> CalculixLayup(const DeckLayup& layup, const DeckUnits& uni
 
 namespace {
 
-DeckTable OneRow(const std::vector<double>& numbers) {
-    DeckTable table;
-    for (const double number : numbers) table.columns.push_back({number});
-    return table;
-}
-
-std::string PlyCards(const std::string& name, const PlyNumbers& ply) {
-    std::string text = "*MATERIAL, NAME=" + name + "\n";
-    if (ply.isotropic) {
-        text += CalculixCard("*ELASTIC", OneRow({ply.e1, ply.nu12}));
-    } else {
-        text += CalculixCard(
-            "*ELASTIC, TYPE=ENGINEERING CONSTANTS",
-            OneRow({ply.e1, ply.e2, ply.e3, ply.nu12, ply.nu13, ply.nu23, ply.g12, ply.g13, ply.g23}));
-    }
-    if (ply.density) text += CalculixCard("*DENSITY", OneRow({*ply.density}));
-    if (ply.alpha1) {
-        text += ply.isotropic
-                    ? CalculixCard("*EXPANSION", OneRow({*ply.alpha1}))
-                    : CalculixCard("*EXPANSION, TYPE=ORTHO", OneRow({*ply.alpha1, *ply.alpha2, *ply.alpha2}));
-    }
-    return text;
+std::string PlyCards(const std::string& name, const PlyMaterial& material, const PlyNumbers& ply,
+                     DeckNotes& notes) {
+    std::string text = "*MATERIAL, NAME=" + name + "\n" + CalculixPlyElastic(material.name, ply, notes);
+    if (ply.density) text += CalculixRow("*DENSITY", {*ply.density});
+    return text + CalculixPlyExpansion(ply);
 }
 
 /// The cosine of an angle in degrees, exact at the ones that matter.
@@ -46,8 +28,8 @@ double Cosine(double degrees) {
 /// Axis 1 along the fibre of a laminate that lies in the global plane x-y.
 std::string Orientation(const std::string& name, double angle) {
     const double c = Cosine(angle), s = Cosine(angle - 90.0);
-    return CalculixCard("*ORIENTATION, NAME=" + name + ", SYSTEM=RECTANGULAR",
-                        OneRow({c, s, 0.0, -s == 0.0 ? 0.0 : -s, c, 0.0}));
+    return CalculixRow("*ORIENTATION, NAME=" + name + ", SYSTEM=RECTANGULAR",
+                       {c, s, 0.0, -s == 0.0 ? 0.0 : -s, c, 0.0});
 }
 
 /// The place of a layer's ply among the card's; nothing when it has none.
@@ -73,14 +55,17 @@ std::vector<DeckFile> CalculixLayup(const DeckLayup& layup, const DeckUnits& uni
             notes.Lost(which + (ply ? ": its thickness is too large for the unit" : " has no material"));
             return {};
         }
-        if (written.insert(*ply).second) {
-            const auto numbers = PlyNumbersOf(layup.layup.materials[*ply], units, notes);
+        const DeckPly& named = layup.plies[*ply];
+        if (!named.material && written.insert(*ply).second) {
+            const PlyMaterial& material = layup.layup.materials[*ply];
+            const auto numbers = PlyNumbersOf(material, units, notes);
             if (!numbers) return {};
-            text += PlyCards(layup.plies[*ply], *numbers);
+            text += PlyCards(named.name, material, *numbers, notes);
         }
         const std::string& orientation = layup.angleNames[at];
         if (oriented.insert(orientation).second) text += Orientation(orientation, layer.angle);
-        section += DeckNumber(*thickness) + ", , " + layup.plies[*ply] + ", " + orientation + "\n";
+        section +=
+            DeckNumber(*thickness) + ", , " + named.material.value_or(named.name) + ", " + orientation + "\n";
     }
     if (section.empty()) return {};
     notes.Changed("layup: the element set of the section, " + layup.name +

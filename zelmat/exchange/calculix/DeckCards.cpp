@@ -46,6 +46,23 @@ const std::string* DeckKeyword::Find(const std::string& parameter) const {
     return found == parameters.end() ? nullptr : &found->second;
 }
 
+DeckKeyword ReadKeyword(const std::string& line, int number) {
+    const auto words = Words(line);
+    DeckKeyword keyword{.line = number, .keyword = {}, .parameters = {}, .name = {}};
+    keyword.keyword = Upper(words.front());
+    for (std::size_t at = 1; at < words.size(); ++at) {
+        const std::size_t equals = words[at].find('=');
+        const std::string name = Upper(words[at].substr(0, equals));
+        if (name.empty()) continue;
+        const auto value = equals == std::string_view::npos
+                               ? std::string_view()
+                               : WithoutBlanksAround(words[at].substr(equals + 1));
+        keyword.parameters[name] = Upper(value);
+        if (name == "NAME") keyword.name = value;
+    }
+    return keyword;
+}
+
 bool DeckCards::NextLine() {
     while (lines_.Next()) {
         const std::string_view line = WithoutBlanksAround(lines_.Line());
@@ -63,7 +80,7 @@ std::optional<DeckKeyword> DeckCards::NextKeyword() {
         if (held_.starts_with('*')) break;
     }
     if (!hasHeld_) return std::nullopt;
-    DeckKeyword keyword{.line = lines_.Number(), .keyword = {}, .parameters = {}, .name = {}};
+    const int number = lines_.Number();
     std::string line = held_;
     hasHeld_ = false;
     while (line.ends_with(',') && line.size() < DeckLines::kLongest && NextLine()) {
@@ -71,19 +88,7 @@ std::optional<DeckKeyword> DeckCards::NextKeyword() {
         line += held_;
         hasHeld_ = false;
     }
-    const auto words = Words(line);
-    keyword.keyword = Upper(words.front());
-    for (std::size_t at = 1; at < words.size(); ++at) {
-        const std::size_t equals = words[at].find('=');
-        const std::string name = Upper(words[at].substr(0, equals));
-        if (name.empty()) continue;
-        const auto value = equals == std::string_view::npos
-                               ? std::string_view()
-                               : WithoutBlanksAround(words[at].substr(equals + 1));
-        keyword.parameters[name] = Upper(value);
-        if (name == "NAME") keyword.name = value;
-    }
-    return keyword;
+    return ReadKeyword(line, number);
 }
 
 std::optional<DeckNumbers> DeckCards::NumbersOf(const std::string& line) {

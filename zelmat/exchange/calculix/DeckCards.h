@@ -25,6 +25,9 @@ struct DeckKeyword {
     const std::string* Find(const std::string& parameter) const;  ///< null when it is not given
 };
 
+/// A whole keyword line, which stood at `number`.
+DeckKeyword ReadKeyword(const std::string& line, int number);
+
 /// Reads keyword lines ("*Elastic, type = iso", continued behind a comma at the end) and, for those that are
 /// wanted, data lines, of a deck. Comments ("**") and empty lines are passed over.
 class DeckCards {

@@ -68,13 +68,6 @@ void AddLoads(ProofModel& model, const ProofSubject& subject, const Hyperelastic
     }
 }
 
-std::vector<double> TemperaturesOf(const mechanics::TemperatureTable& table) {
-    if (!table.Range()) return ProofTemperatures({}, {});
-    std::vector<double> rows;
-    for (const auto& row : table.Rows()) rows.push_back(row.temperature);
-    return ProofTemperatures(table.Range(), rows);
-}
-
 }  // namespace
 
 std::vector<ProofModel> HyperelasticProofs(const ProofSubject& subject) {
@@ -86,7 +79,7 @@ std::vector<ProofModel> HyperelasticProofs(const ProofSubject& subject) {
     for (const LoadingMode mode :
          {LoadingMode::UNIAXIAL, LoadingMode::EQUIBIAXIAL, LoadingMode::PLANAR, LoadingMode::SIMPLE_SHEAR}) {
         ProofModel model = subject.Model("hyperelastic " + std::string(Keyword(property->Model())));
-        for (const double kelvin : TemperaturesOf(property->Coefficients())) {
+        for (const double kelvin : ProofTemperatures(property->Coefficients())) {
             const auto material = property->At(kelvin, OutsidePolicy::CONSTANT);
             if (material.Ok()) AddLoads(model, subject, *material, mode, kelvin);
         }

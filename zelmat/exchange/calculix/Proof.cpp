@@ -32,23 +32,29 @@ public:
     std::optional<Proof> Make() {
         const DeckForm& form = *FindDeckForm("calculix");
         DeckNotes notes;
-        auto blocks = CarriedBlocks(form, request_.material, request_.fit, notes, findings_);
+        std::set<std::string> taken;
+        DeckMaterial deck =
+            MakeDeckMaterial(form, request_.material, request_.fit, taken, 1, notes, findings_);
         if (findings_.HasErrors()) return std::nullopt;
-        std::erase_if(blocks, [&](const Block& block) { return IsUnproven(block); });
-        const std::string cards = CardsOf(form, blocks, notes);
+        std::erase_if(deck.blocks, [&](const Block& block) { return IsUnproven(block); });
+        const std::string cards = CardsOf(form, deck, notes);
+        TellConversions(form, deck, notes);
         notes.Report({request_.material.file, 0}, request_.material.name, findings_);
-        if (!request_.deck) {
-            std::erase_if(blocks, [&](const Block& block) { return !IsIn(cards, form, block); });
-        }
+        std::erase_if(deck.blocks, [&](const Block& block) { return notes.HasLost(BehaviorOf(block)); });
+        const std::vector<Block>& blocks = deck.blocks;
         if (cards.empty()) {
             NothingToProve();
             return std::nullopt;
         }
         const bool stiff =
             cards.find("*ELASTIC") != std::string::npos || cards.find("*HYPERELASTIC") != std::string::npos;
-        const ProofSubject subject{blocks, request_.units, cards, stiff ? cards : cards + kSomeStiffness,
-                                   NameIn(cards)};
-        for (const ProofModel& model : ModelsOf(subject)) {
+        ProofSubject subject{blocks, request_.units, cards, stiff ? cards : cards + kSomeStiffness,
+                             NameIn(cards)};
+        DeckNotes told;  // by the writer before
+        if (deck.ply) subject.ply = PlyNumbersOf(*deck.ply, request_.units, told);
+        const std::vector<ProofModel> models = ModelsOf(subject);
+        Keep(models);
+        for (const ProofModel& model : models) {
             if (!Run(model)) return std::nullopt;
         }
         TellUnproven(blocks);
@@ -57,35 +63,35 @@ public:
     }
 
 private:
-    /// Whether the writer has put it there; it told why not.
-    static bool IsIn(const std::string& cards, const DeckForm& form, const Block& block) {
-        const std::string& as = FindRule(form.rules, BehaviorOf(block))->as;
-        return cards.find(as.substr(0, as.find(','))) != std::string::npos;
-    }
-
     bool IsUnproven(const Block& block) {
         if (block.kind->name != "user_material") return false;
         proof_.notProven.push_back(BehaviorOf(block) + ": only its own routine knows what it answers");
         return true;
     }
 
-    std::string CardsOf(const DeckForm& form, const std::vector<Block>& blocks, DeckNotes& notes) const {
+    std::string CardsOf(const DeckForm& form, const DeckMaterial& deck, DeckNotes& notes) const {
         if (request_.deck) return *request_.deck;
-        std::set<std::string> taken;
-        const DeckMaterial material{request_.material, DeckName(request_.material.name, form.names, taken), 1,
-                                    blocks};
-        const auto files = form.write(material, request_.units, notes);
+        const auto files = form.write(deck, request_.units, notes);
         return files.empty() ? std::string() : files.front().text;
     }
 
     static std::vector<ProofModel> ModelsOf(const ProofSubject& subject) {
         std::vector<ProofModel> models = HyperelasticProofs(subject);
-        for (auto* make :
-             {&ElasticProof, &HardeningProof, &ExpansionProof, &DensityProof, &ConductionProof}) {
+        for (auto* make : {&ElasticProof, &PlyProof, &HardeningProof, &ExpansionProof, &DensityProof,
+                           &ConductionProof, &HeatingProof}) {
             auto model = make(subject);
             if (model && !model->expected.empty()) models.push_back(std::move(*model));
         }
         return models;
+    }
+
+    void Keep(const std::vector<ProofModel>& models) const {
+        if (!request_.decks) return;
+        for (std::size_t at = 0; at < models.size(); ++at) {
+            std::set<std::string> none;
+            const std::string name = DeckName(models[at].name, {80, "-", false, "model"}, none);
+            request_.decks->push_back({std::to_string(at + 1) + "_" + name + ".inp", models[at].bars.Text()});
+        }
     }
 
     bool Run(const ProofModel& model) {

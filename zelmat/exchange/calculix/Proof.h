@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/exchange/DeckUnits.h"
+#include "zelmat/exchange/DeckForm.h"
 #include "zelmat/exchange/calculix/SolverRun.h"
 #include "zelmat/findings/Findings.h"
 #include "zelmat/materials/Material.h"
@@ -42,13 +42,16 @@ struct ProofRequest {
     const DeckUnits& units;
     /// The cards to prove in place of what the writer makes of the material; it begins at *MATERIAL.
     std::optional<std::string> deck = std::nullopt;
+    /// Gets the models, one a file, before they are run.
+    std::vector<DeckFile>* decks = nullptr;
 };
 
 /// Runs models of one element of the material's deck and holds the results against the formulas: elastic and
 /// hardening stresses, free expansion, mass and conduction, at the temperatures of the tables, between and
-/// beyond them; hyperelastic stresses in four modes. Tolerances: elastic, expansion, mass and conduction
-/// 1e-6; isotropic hardening 1e-4; kinematic hardening 1e-3, to 1 % with NLGEOM; hyperelastic 1e-3. User
-/// materials, specific heats and layups are not proven. Nothing, and findings, when the solver cannot be run.
+/// beyond them; specific heats by a bar that is heated; ply constants in the three directions and planes;
+/// hyperelastic stresses in four modes. Tolerances: isotropic hardening 1e-4; kinematic hardening 1e-3, to
+/// 1 % with NLGEOM; hyperelastic 1e-3; specific heat 1e-5; all others 1e-6. User materials are not proven.
+/// Nothing, and findings, when the solver cannot be run.
 std::optional<Proof> ProveWithCalculix(const ProofRequest& request, const SolverProgram& solver,
                                        Findings& findings);
 

@@ -1,7 +1,9 @@
 #include "zelmat/exchange/calculix/ProofModel.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "zelmat/materials/OverTemperature.h"
 #include "zelmat/quantities/NumberText.h"
 
 namespace zelmat {
@@ -38,6 +40,23 @@ std::string ProofSubject::TemperatureText(double kelvin) const {
 
 ProofModel ProofSubject::Model(const std::string& model, bool mechanical) const {
     return {model, BarModel(mechanical ? cards : thermal, name), {}};
+}
+
+std::optional<mechanics::TemperatureTable> ProofTable(const Block* block) {
+    if (!block || block->tables.empty()) return std::nullopt;
+    auto table = OverTemperature(block->tables.front());
+    return table.Ok() ? std::optional(*table) : std::nullopt;
+}
+
+double ProofValue(const mechanics::TemperatureTable& table, double kelvin) {
+    const auto value = table.At(kelvin, mechanics::OutsidePolicy::CONSTANT);
+    return value.Ok() ? value->values.front() : std::nan("");
+}
+
+std::vector<double> ProofTemperatures(const mechanics::TemperatureTable& table) {
+    std::vector<double> rows;
+    for (const auto& row : table.Rows()) rows.push_back(row.temperature);
+    return ProofTemperatures(table.Range(), rows);
 }
 
 std::vector<double> ProofTemperatures(const std::optional<mechanics::TemperatureRange>& range,

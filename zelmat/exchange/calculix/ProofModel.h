@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "zelmat/exchange/PlyNumbers.h"
 #include "zelmat/exchange/calculix/BarModel.h"
 #include "zelmat/exchange/calculix/PrintedResults.h"
 #include "zelmat/exchange/calculix/Proof.h"
@@ -46,6 +47,7 @@ struct ProofSubject {
     std::string cards;    ///< of the material, from *MATERIAL on, with a stiffness
     std::string thermal;  ///< the same for runs that need no more than some stiffness
     std::string name;     ///< of the material in the cards
+    std::optional<PlyNumbers> ply = std::nullopt;  ///< that the deck carries
 
     const Block* Find(const std::string& block) const;
     double Temperature(double kelvin) const;  ///< in the deck's unit
@@ -53,16 +55,25 @@ struct ProofSubject {
     ProofModel Model(const std::string& name, bool mechanical = true) const;
 };
 
+/// A table of the subject with the numbers of the stored units; nothing where it has none that can be read.
+std::optional<mechanics::TemperatureTable> ProofTable(const Block* block);
+
+/// Its first column's number, that of the nearest row outside; not a number where there is none.
+double ProofValue(const mechanics::TemperatureTable& table, double kelvin);
+
 /// Where a table over temperature is looked at, in K: at rows, between and beyond them; at 20 degC where it
 /// does not depend on temperature.
 std::vector<double> ProofTemperatures(const std::optional<mechanics::TemperatureRange>& range,
                                       const std::vector<double>& rows);
+std::vector<double> ProofTemperatures(const mechanics::TemperatureTable& table);
 
 std::optional<ProofModel> ElasticProof(const ProofSubject& subject);
 std::optional<ProofModel> HardeningProof(const ProofSubject& subject);
 std::optional<ProofModel> ExpansionProof(const ProofSubject& subject);
 std::optional<ProofModel> DensityProof(const ProofSubject& subject);
 std::optional<ProofModel> ConductionProof(const ProofSubject& subject);
+std::optional<ProofModel> HeatingProof(const ProofSubject& subject);
+std::optional<ProofModel> PlyProof(const ProofSubject& subject);
 std::vector<ProofModel> HyperelasticProofs(const ProofSubject& subject);
 
 }  // namespace zelmat

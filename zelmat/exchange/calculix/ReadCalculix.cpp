@@ -6,6 +6,7 @@
 
 #include "zelmat/exchange/calculix/CalculixCards.h"
 #include "zelmat/exchange/calculix/DeckCards.h"
+#include "zelmat/exchange/calculix/MaterialKeywords.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/materials/BlockKind.h"
 #include "zelmat/materials/QuantityOf.h"
@@ -30,23 +31,6 @@ constexpr std::size_t kMostSkipped = 200;
 bool IsIsotropic(const DeckKeyword& card) {
     const std::string* type = card.Find("TYPE");
     return !type || type->empty() || *type == "ISO" || *type == "ISOTROPIC";
-}
-
-/// Keywords about materials that no behavior holds.
-bool IsOfMaterials(const std::string& keyword) {
-    static const std::set<std::string> keywords = {"*CREEP",
-                                                   "*CYCLICHARDENING",
-                                                   "*DAMPING",
-                                                   "*DEFORMATIONPLASTICITY",
-                                                   "*ELECTRICALCONDUCTIVITY",
-                                                   "*FLUIDCONSTANTS",
-                                                   "*HYPERFOAM",
-                                                   "*MAGNETICPERMEABILITY",
-                                                   "*MOHRCOULOMB",
-                                                   "*MOHRCOULOMBHARDENING",
-                                                   "*SPECIFICGASCONSTANT",
-                                                   "*COHESIVEBEHAVIOR"};
-    return keywords.count(keyword) > 0;
 }
 
 class CalculixReader {
@@ -113,7 +97,7 @@ private:
     }
 
     void Skip(const DeckKeyword& card) {
-        if (IsOfMaterials(card.keyword) && !materials_.empty()) {
+        if (IsMaterialKeyword(card.keyword) && !materials_.empty()) {
             Lost(card, "a material has no place for it");
         } else if (card.keyword == "*INCLUDE") {
             Warn(card, "not-included", "*INCLUDE is not followed: import that file by itself");

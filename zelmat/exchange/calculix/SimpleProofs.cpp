@@ -19,23 +19,6 @@ using mechanics::TemperatureTable;
 constexpr double kExact = 1e-6;
 constexpr double kStrain = 1e-3;
 
-std::optional<TemperatureTable> TableOf(const Block* block) {
-    if (!block || block->tables.empty()) return std::nullopt;
-    auto table = OverTemperature(block->tables.front());
-    return table.Ok() ? std::optional(*table) : std::nullopt;
-}
-
-std::vector<double> TemperaturesOf(const TemperatureTable& table) {
-    std::vector<double> rows;
-    for (const auto& row : table.Rows()) rows.push_back(row.temperature);
-    return ProofTemperatures(table.Range(), rows);
-}
-
-double ValueAt(const TemperatureTable& table, double temperature) {
-    const auto value = table.At(temperature, OutsidePolicy::CONSTANT);
-    return value.Ok() ? value->values.front() : std::nan("");
-}
-
 /// A strain that stays elastic at the temperature.
 double ElasticStrain(const ProofSubject& subject, double youngsModulus, double temperature) {
     const Block* plastic = subject.Find("plastic");
@@ -76,10 +59,10 @@ void AddElastic(ProofModel& model, const ProofSubject& subject, const mechanics:
 
 std::optional<ProofModel> ElasticProof(const ProofSubject& subject) {
     const Block* block = subject.Find("elastic");
-    const auto table = TableOf(block);
+    const auto table = ProofTable(block);
     if (!table) return std::nullopt;
     ProofModel model = subject.Model("elastic");
-    for (const double kelvin : TemperaturesOf(*table)) {
+    for (const double kelvin : ProofTemperatures(*table)) {
         const auto elastic = ElasticityAt(*block, kelvin, OutsidePolicy::CONSTANT);
         if (elastic.Ok()) AddElastic(model, subject, elastic->constants, kelvin);
     }
@@ -89,13 +72,13 @@ std::optional<ProofModel> ElasticProof(const ProofSubject& subject) {
 
 std::optional<ProofModel> ExpansionProof(const ProofSubject& subject) {
     const Block* block = subject.Find("thermal_expansion");
-    const auto table = TableOf(block);
+    const auto table = ProofTable(block);
     if (!table) return std::nullopt;
     const auto expansion = ExpansionOf(*block, OutsidePolicy::CONSTANT);
     if (!expansion.Ok()) return std::nullopt;
     ProofModel model = subject.Model("thermal_expansion", false);
     const double reference = expansion->ReferenceTemperature();
-    auto temperatures = TemperaturesOf(*table);
+    auto temperatures = ProofTemperatures(*table);
     if (!table->Range()) temperatures = {reference - 100.0, reference + 100.0, reference + 500.0};
     for (const double kelvin : temperatures) {
         const auto strain = expansion->StrainAt(kelvin, OutsidePolicy::CONSTANT);
@@ -115,13 +98,13 @@ std::optional<ProofModel> ExpansionProof(const ProofSubject& subject) {
 }
 
 std::optional<ProofModel> DensityProof(const ProofSubject& subject) {
-    const auto table = TableOf(subject.Find("density"));
+    const auto table = ProofTable(subject.Find("density"));
     if (!table) return std::nullopt;
     ProofModel model = subject.Model("density", false);
-    for (const double kelvin : TemperaturesOf(*table)) {
+    for (const double kelvin : ProofTemperatures(*table)) {
         const int bar = model.bars.Add(subject.Temperature(kelvin));
         model.bars.HoldAtOrigin(bar);
-        const double ours = subject.units.FromStored(ValueAt(*table, kelvin), "density").value_or(0.0);
+        const double ours = subject.units.FromStored(ProofValue(*table, kelvin), "density").value_or(0.0);
         model.expected.push_back(
             {{"density", "mass of a volume of 1, " + subject.TemperatureText(kelvin), "density",
               subject.units.For("density").Spelling(), ours, 0.0, ours, kExact},
@@ -134,15 +117,16 @@ std::optional<ProofModel> DensityProof(const ProofSubject& subject) {
 std::optional<ProofModel> ConductionProof(const ProofSubject& subject) {
     // So little that a bend of the table within it does not matter, and enough for the digits of a double.
     constexpr double kDifference = 2e-4;
-    const auto table = TableOf(subject.Find("conductivity"));
+    const auto table = ProofTable(subject.Find("conductivity"));
     if (!table) return std::nullopt;
     ProofModel model = subject.Model("conductivity", false);
-    for (const double kelvin : TemperaturesOf(*table)) {
+    for (const double kelvin : ProofTemperatures(*table)) {
         const double middle = subject.Temperature(kelvin);
         const int bar = model.bars.Add(middle, 2);
         model.bars.Prescribe(bar, BarModel::X0, 11, middle + kDifference / 2.0);
         model.bars.Prescribe(bar, BarModel::X1, 11, middle - kDifference / 2.0);
-        const double ours = subject.units.FromStored(ValueAt(*table, kelvin), "conductivity").value_or(0.0);
+        const double ours =
+            subject.units.FromStored(ProofValue(*table, kelvin), "conductivity").value_or(0.0);
         model.expected.push_back(
             {{"conductivity", "one-dimensional, " + subject.TemperatureText(kelvin), "conductivity",
               subject.units.For("conductivity").Spelling(), ours, 0.0, ours, kExact},

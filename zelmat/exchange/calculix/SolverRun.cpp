@@ -18,7 +18,7 @@
 #include <thread>
 #include <vector>
 
-#include "zelmat/files/SignalHold.h"
+#include "zelmat/files/ScratchFolder.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/QuotedText.h"
 
@@ -31,33 +31,13 @@ namespace fs = std::filesystem;
 constexpr const char* kJob = "job";
 constexpr std::size_t kLogEnd = 20'000;
 
-/// A folder that goes with all that lies in it.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        std::error_code failed;
-        const fs::path base = fs::temp_directory_path(failed);
-        std::string name = (failed ? fs::path("/tmp") : base) / "zelmat-prove-XXXXXX";
-        if (::mkdtemp(name.data())) path_ = name;
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        if (!path_.empty()) fs::remove_all(path_, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    bool IsThere() const { return !path_.empty(); }
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
-    std::string Path() const { return path_.string(); }
-
-private:
-    fs::path path_;
-};
-
 std::optional<Finding> Problem(const std::string& job, const std::string& text,
                                std::vector<std::string> details = {}) {
     return Finding{FindingKind::UNREADABLE, {job, 0}, "solver-failed", text, std::move(details)};
+}
+
+std::string FileIn(const ScratchFolder& folder, const std::string& name) {
+    return folder.Path() + "/" + name;
 }
 
 std::string ReadEnd(const std::string& path, std::size_t most) {
@@ -92,13 +72,13 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
 }
 
 /// The process, as the leader of a group of its own; 0 and errno's value in `error` when it cannot be made.
-pid_t Start(const SolverProgram& solver, const TemporaryFolder& folder, int& error) {
+pid_t Start(const SolverProgram& solver, const ScratchFolder& folder, int& error) {
     posix_spawn_file_actions_t actions;
     posix_spawnattr_t attributes;
     posix_spawn_file_actions_init(&actions);
     posix_spawnattr_init(&attributes);
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
-    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, folder.File("log").c_str(),
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, FileIn(folder, "log").c_str(),
                                      O_WRONLY | O_CREAT | O_TRUNC, 0600);
     posix_spawn_file_actions_adddup2(&actions, STDOUT_FILENO, STDERR_FILENO);
     posix_spawn_file_actions_addchdir_np(&actions, folder.Path().c_str());
@@ -206,15 +186,8 @@ std::optional<SolverProgram> FindSolver(const std::string& name, int timeoutSeco
 
 std::optional<SolverResults> RunSolver(const SolverProgram& solver, const std::string& deck,
                                        const std::string& job, Findings& findings) {
-    const SignalHold untilTheFolderIsGone;
-    const TemporaryFolder folder;
-    std::ofstream input(folder.IsThere() ? folder.File(std::string(kJob) + ".inp") : "", std::ios::binary);
-    input << deck;
-    input.close();
-    if (!folder.IsThere() || !input) {
-        findings.Add(*Problem(job, "a temporary file for the solver cannot be written", {}));
-        return std::nullopt;
-    }
+    const ScratchFolder folder(findings);
+    if (!folder.Exists() || !folder.Write(std::string(kJob) + ".inp", deck, findings)) return std::nullopt;
     int error = 0;
     const pid_t process = Start(solver, folder, error);
     if (process == 0) {
@@ -222,8 +195,8 @@ std::optional<SolverResults> RunSolver(const SolverProgram& solver, const std::s
         return std::nullopt;
     }
     const auto status = WaitFor(process, solver.timeoutSeconds);
-    SolverResults results{ReadEnd(folder.File(std::string(kJob) + ".dat"), std::string::npos),
-                          ReadEnd(folder.File("log"), kLogEnd)};
+    SolverResults results{folder.Read(std::string(kJob) + ".dat", std::string::npos),
+                          ReadEnd(FileIn(folder, "log"), kLogEnd)};
     if (const auto problem = Verdict(solver, status, results, job)) {
         findings.Add(*problem);
         return std::nullopt;
