@@ -13,8 +13,7 @@ ShownQuantity::ShownQuantity(const Quantity& quantity, const UnitChoice& units)
     : unit_(units.For(quantity)), conversion_(UnitConversion::FromStored(quantity, unit_)) {}
 
 double ShownQuantity::operator()(double stored) const {
-    // An offset that leaves nothing may leave -0.
-    return conversion_(stored).value_or(std::numeric_limits<double>::quiet_NaN()) + 0.0;
+    return conversion_(stored).value_or(std::numeric_limits<double>::quiet_NaN());
 }
 
 std::string ShownQuantity::Text(double stored, int digits) const {

@@ -59,7 +59,7 @@ std::optional<double> UnitConversion::operator()(double value) const {
     const long double exact = scaled + shift_;
     const long double doubt = shift_ == 0.0L ? HalfLastPlace(value) * factor_
                                              : HalfLastPlace(std::max(std::abs(scaled), std::abs(shift_)));
-    const double result = Rounded(exact, doubt);
+    const double result = Rounded(exact, doubt) + 0.0;  // an offset that leaves nothing may leave -0
     const bool tooSmall = shift_ == 0.0L && std::abs(result) < std::numeric_limits<double>::min();
     if (!std::isfinite(result) || tooSmall) return std::nullopt;
     return result;

@@ -186,6 +186,11 @@ TEST(UnitConversion, NothingSmallBecomesNothingAndNothingLargeInfinite) {
     EXPECT_EQ(toPascal(1e-300), 1e-291);
 }
 
+TEST(UnitConversion, AnOffsetThatLeavesNothingLeavesNoMinusZero) {
+    EXPECT_FALSE(std::signbit(*UnitConversion(Read("K"), Read("degC"), true)(273.15)));
+    EXPECT_FALSE(std::signbit(*UnitConversion(Read("K"), Read("degF"), true)(255.37222222222223)));
+}
+
 TEST(UnitConversion, WhatIsNotFiniteStays) {
     const UnitConversion conversion(Read("degF"), Read("K"), true);
     EXPECT_TRUE(std::isnan(*conversion(std::nan(""))));
