@@ -36,7 +36,7 @@ ResultTable TableOf(const std::vector<Branch>& branches, const Result& result) {
         names.push_back(branch.name);
         greatest.push_back(branch.greatestClosure);
         pressure.emplace_back(branch.value.pressure);
-        secant.emplace_back(branch.value.secantStiffness);
+        secant.push_back(branch.value.secantStiffness);
         below.emplace_back(branch.value.tangentStiffnessBelow);
         above.emplace_back(branch.value.tangentStiffness);
     }
@@ -67,6 +67,7 @@ std::optional<AtProblem> ReadGasketAt(const Block& gasket, const AtQuestion& que
     if (!value.Ok()) return AtProblem{value.Why()};
     result.Add("closure", "closure", "length", closure);
     result.Note(value->notes);
+    if (question.temperature && !dependent) result.Note("does not depend on temperature");
 
     std::vector<Branch> branches = {{"loading", {}, *value}};
     for (const auto unloading : UnloadingsOf(gasket)) {

@@ -18,12 +18,14 @@ Outcome<GasketValue> ReadAt(const std::vector<GasketAtTemperature>& gaskets, dou
                             OutsidePolicy policy, const GasketReading& reading) {
     std::vector<TemperatureTable::Row> rows;
     std::vector<std::string> notes;
+    bool secant = true;  // of all readings or none: they are at one closure
     for (const GasketAtTemperature& gasket : gaskets) {
         auto value = reading(gasket.thickness);
         if (!value.Ok()) return value;
         rows.push_back({gasket.temperature,
-                        {value->pressure, value->secantStiffness, value->tangentStiffnessBelow,
+                        {value->pressure, value->secantStiffness.value_or(0.0), value->tangentStiffnessBelow,
                          value->tangentStiffness}});
+        secant = secant && value->secantStiffness;
         AddNew(notes, value->notes);
     }
     const auto table = TemperatureTable::Over(std::move(rows));
@@ -32,7 +34,7 @@ Outcome<GasketValue> ReadAt(const std::vector<GasketAtTemperature>& gaskets, dou
     if (!at.Ok()) return at.Refused();
     AddNew(notes, at->notes);
     return GasketValue{.pressure = at->values[0],
-                       .secantStiffness = at->values[1],
+                       .secantStiffness = secant ? std::optional(at->values[1]) : std::nullopt,
                        .tangentStiffnessBelow = at->values[2],
                        .tangentStiffness = at->values[3],
                        .notes = std::move(notes)};

@@ -9,7 +9,7 @@ namespace {
 
 GasketValue ValueOf(double closure, const PressureValue& value) {
     return {.pressure = value.pressure,
-            .secantStiffness = closure > 0.0 ? value.pressure / closure : 0.0,
+            .secantStiffness = closure > 0.0 ? std::optional(value.pressure / closure) : std::nullopt,
             .tangentStiffnessBelow = value.slopeBelow,
             .tangentStiffness = value.slopeAbove,
             .notes = {}};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,7 +22,7 @@ struct UnloadingPoint {
 /// The pressure of a gasket at a closure.
 struct GasketValue {
     double pressure;
-    double secantStiffness;                          ///< pressure over closure; 0 at closure 0
+    std::optional<double> secantStiffness;           ///< pressure over closure; nothing at closure 0
     double tangentStiffnessBelow, tangentStiffness;  ///< of the branch, below and above the closure
     std::vector<std::string> notes;
 };
