@@ -1,8 +1,8 @@
 #include "zelmat/properties/ExpansionProperty.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
+#include <initializer_list>
 
 #include "zelmat/materials/OverTemperature.h"
 
@@ -13,11 +13,14 @@ using mechanics::Refusal;
 using mechanics::ThermalExpansion;
 
 bool IsInstantaneous(const Block& expansion) {
-    constexpr std::array<const char*, 4> kWords = {"instantaneous", "tangent", "differential", "true"};
     std::string kind = expansion.values.Get<std::string>("kind").value_or("");
     for (char& letter : kind) letter = static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    return std::any_of(kWords.begin(), kWords.end(),
-                       [&](const char* word) { return kind.find(word) != std::string::npos; });
+    const auto says = [&kind](std::initializer_list<const char*> words) {
+        return std::any_of(words.begin(), words.end(),
+                           [&](const char* word) { return kind.find(word) != std::string::npos; });
+    };
+    // "mean, not instantaneous" names both.
+    return says({"instantaneous", "tangent", "differential", "true"}) && !says({"mean", "secant", "average"});
 }
 
 Outcome<ThermalExpansion> ExpansionOf(const Block& expansion, mechanics::OutsidePolicy policy) {

@@ -30,6 +30,15 @@ TEST(ExpansionProperty, IntegratesInstantaneousCoefficients) {
     EXPECT_NEAR(expansion->StrainAt(400.0, OutsidePolicy::REFUSE)->values[0], 1.5e-3, 1e-15);
 }
 
+TEST(ExpansionProperty, IsMeanWhereTheKindSaysSoWhateverElseItNames) {
+    auto card = Instantaneous();
+    zelmat::Block block = *card.Find("thermal_expansion");
+    block.values.Set("kind", std::string("mean (secant) from 20 degC, not the instantaneous one"));
+    EXPECT_FALSE(zelmat::IsInstantaneous(block));
+    block.values.Set("kind", std::string("tangent"));
+    EXPECT_TRUE(zelmat::IsInstantaneous(block));
+}
+
 TEST(ExpansionProperty, NeedsTheReferenceTemperature) {
     const auto card = CardOf(R"({"name": "M", "thermal_expansion": {"temperature_dependent": false,
         "columns": ["thermal_expansion"], "rows": [[1e-5]]}})");

@@ -74,14 +74,16 @@ std::optional<ProofModel> ExpansionProof(const ProofSubject& subject) {
     const Block* block = subject.Find("thermal_expansion");
     const auto table = ProofTable(block);
     if (!table) return std::nullopt;
-    const auto expansion = ExpansionOf(*block, OutsidePolicy::CONSTANT);
-    if (!expansion.Ok()) return std::nullopt;
+    const auto given = ExpansionOf(*block, OutsidePolicy::CONSTANT);
+    if (!given.Ok()) return std::nullopt;
     ProofModel model = subject.Model("thermal_expansion", false);
-    const double reference = expansion->ReferenceTemperature();
+    const double reference = given->ReferenceTemperature();
+    // A deck holds mean coefficients, linear between its rows, also of a card with instantaneous ones.
+    const mechanics::ThermalExpansion expansion(given->Mean(), reference);
     auto temperatures = ProofTemperatures(*table);
     if (!table->Range()) temperatures = {reference - 100.0, reference + 100.0, reference + 500.0};
     for (const double kelvin : temperatures) {
-        const auto strain = expansion->StrainAt(kelvin, OutsidePolicy::CONSTANT);
+        const auto strain = expansion.StrainAt(kelvin, OutsidePolicy::CONSTANT);
         if (!strain.Ok() || kelvin <= 0.0 || kelvin == reference) continue;
         const int bar = model.bars.Add(subject.Temperature(reference));
         model.bars.HoldAtOrigin(bar);

@@ -42,11 +42,22 @@ Outcome<double> Integral(const TemperatureTable& table, double from, double to, 
 
 }  // namespace
 
+Outcome<TableValue> ThermalExpansion::MeanAt(double temperature, OutsidePolicy policy) const {
+    if (!instantaneous_) return mean_.At(temperature, policy);
+    auto mean = instantaneous_->At(temperature, policy);  // at the reference temperature both are the same
+    if (!mean.Ok() || temperature == reference_) return mean;
+    const auto strain = Integral(*instantaneous_, reference_, temperature, policy);
+    if (!strain.Ok()) return strain.Refused();
+    TableValue value = *mean;
+    value.values[0] = *strain / (temperature - reference_);
+    return value;
+}
+
 Outcome<TableValue> ThermalExpansion::StrainAt(double temperature, OutsidePolicy policy) const {
     if (temperature == reference_) {
         return TableValue{.values = {0.0}, .position = TablePosition::ON_ROW, .policy = policy, .notes = {}};
     }
-    const auto mean = mean_.At(temperature, policy);
+    const auto mean = MeanAt(temperature, policy);
     if (!mean.Ok()) return mean.Refused();
     TableValue strain = *mean;
     strain.values[0] *= temperature - reference_;
@@ -54,14 +65,15 @@ Outcome<TableValue> ThermalExpansion::StrainAt(double temperature, OutsidePolicy
 }
 
 Outcome<ExpansionValue> ThermalExpansion::InstantaneousAt(double temperature, OutsidePolicy policy) const {
-    const auto mean = mean_.At(temperature, policy);
-    if (!mean.Ok()) return mean.Refused();
+    const auto row = (instantaneous_ ? *instantaneous_ : mean_).At(temperature, policy);
+    if (!row.Ok()) return row.Refused();
+    if (instantaneous_) return ExpansionValue{.value = row->values[0], .below = {}, .notes = row->notes};
     const auto slopes = mean_.SlopesAt(temperature, policy);
     if (!slopes.Ok()) return slopes.Refused();
     const double distance = temperature - reference_;
-    const double above = mean->values[0] + slopes->above[0] * distance;
-    const double below = mean->values[0] + slopes->below[0] * distance;
-    ExpansionValue value{.value = above, .below = {}, .notes = mean->notes};
+    const double above = row->values[0] + slopes->above[0] * distance;
+    const double below = row->values[0] + slopes->below[0] * distance;
+    ExpansionValue value{.value = above, .below = {}, .notes = row->notes};
     if (above != below) {
         value.below = below;
         value.notes.push_back("on a row, where the slope of the table jumps: the value above it");
@@ -108,18 +120,16 @@ Outcome<ThermalExpansion> ThermalExpansion::Referred(double newReference, Refere
 Outcome<ThermalExpansion> ThermalExpansion::FromInstantaneous(const TemperatureTable& instantaneous,
                                                               double referenceTemperature,
                                                               OutsidePolicy policy) {
+    ThermalExpansion expansion(instantaneous, referenceTemperature);
+    expansion.instantaneous_ = instantaneous;
     const auto mean = Mapped(instantaneous, referenceTemperature, [&](double temperature) -> Outcome<double> {
-        if (temperature == referenceTemperature) {
-            const auto value = instantaneous.At(temperature, policy);
-            if (!value.Ok()) return value.Refused();
-            return value->values[0];
-        }
-        const auto strain = Integral(instantaneous, referenceTemperature, temperature, policy);
-        if (!strain.Ok()) return strain.Refused();
-        return *strain / (temperature - referenceTemperature);
+        const auto value = expansion.MeanAt(temperature, policy);
+        if (!value.Ok()) return value.Refused();
+        return value->values[0];
     });
     if (!mean.Ok()) return mean.Refused();
-    return ThermalExpansion(*mean, referenceTemperature);
+    expansion.mean_ = *mean;
+    return expansion;
 }
 
 }  // namespace zelmat::mechanics

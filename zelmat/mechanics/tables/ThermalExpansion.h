@@ -18,8 +18,9 @@ struct ExpansionValue {
 };
 
 /// Free thermal strain by the mean (secant) coefficient from a reference temperature: eps(T) = alpha_m(T) (T
-/// - Tref), alpha_m linear between the rows of its table. Coefficients in 1/K; temperatures all in kelvin or
-/// all in degrees Celsius.
+/// - Tref). alpha_m is linear between the rows of its table; where the table is of instantaneous
+/// coefficients, these are, and eps is their integral. Coefficients in 1/K; temperatures all in kelvin or all
+/// in degrees Celsius.
 class ThermalExpansion {
 public:
     /// `mean` has one value a row: the mean coefficient from the reference temperature.
@@ -27,12 +28,17 @@ public:
         : mean_(std::move(mean)), reference_(referenceTemperature) {}
 
     double ReferenceTemperature() const { return reference_; }
+
+    /// The mean coefficients at the rows; of an instantaneous table they are exact there, and only there.
     const TemperatureTable& Mean() const { return mean_; }
+
+    /// alpha_m(T). Refused as the table refuses.
+    Outcome<TableValue> MeanAt(double temperature, OutsidePolicy policy) const;
 
     /// eps(T), 0 at the reference temperature. Refused as the table refuses.
     Outcome<TableValue> StrainAt(double temperature, OutsidePolicy policy) const;
 
-    /// d eps / dT = alpha_m + alpha_m' (T - Tref).
+    /// d eps / dT = alpha_m + alpha_m' (T - Tref), or what an instantaneous table says.
     Outcome<ExpansionValue> InstantaneousAt(double temperature, OutsidePolicy policy) const;
 
     /// The mean coefficient from another reference temperature T1, at T:
@@ -46,14 +52,16 @@ public:
     Outcome<ThermalExpansion> Referred(double newReference, ReferenceChange change,
                                        OutsidePolicy policy) const;
 
-    /// From a table of the instantaneous coefficient, linear between its rows: its integral from the
-    /// reference temperature over the difference, at every row. Exact at the rows.
+    /// From a table of the instantaneous coefficient, linear between its rows: the mean one is its integral
+    /// from the reference temperature over the difference. Refused where the policy refuses the reference
+    /// temperature.
     static Outcome<ThermalExpansion> FromInstantaneous(const TemperatureTable& instantaneous,
                                                        double referenceTemperature, OutsidePolicy policy);
 
 private:
     TemperatureTable mean_;
     double reference_;
+    std::optional<TemperatureTable> instantaneous_;  ///< what mean_ was made of; nothing: it was given
 };
 
 }  // namespace zelmat::mechanics

@@ -72,6 +72,22 @@ TEST(ThermalExpansion, ComesFromAnInstantaneousTableByItsIntegral) {
     EXPECT_FALSE(ThermalExpansion::FromInstantaneous(instantaneous, 0, REFUSE).Ok());
 }
 
+// 10e-6 at 0, 20e-6 at 100 and at 200, from 0: the strain is 1.5e-3 at 100, 2.5e-3 at 150.
+TEST(ThermalExpansion, OfAnInstantaneousTableKeepsItsCoefficientsAndIsExactBetweenTheRows) {
+    const auto table = *TemperatureTable::Over({{0, {10e-6}}, {100, {20e-6}}, {200, {20e-6}}});
+    const auto expansion = *ThermalExpansion::FromInstantaneous(table, 0, REFUSE);
+
+    EXPECT_EQ(expansion.InstantaneousAt(100, REFUSE)->value, 20e-6);
+    EXPECT_FALSE(expansion.InstantaneousAt(100, REFUSE)->below);
+    EXPECT_NEAR(expansion.InstantaneousAt(50, REFUSE)->value, 15e-6, 1e-20);
+    EXPECT_NEAR(expansion.StrainAt(150, REFUSE)->values[0], 2.5e-3, 1e-17);
+    EXPECT_NEAR(expansion.MeanAt(150, REFUSE)->values[0], 2.5e-3 / 150, 1e-19);
+    EXPECT_EQ(expansion.MeanAt(0, REFUSE)->values[0], 10e-6);
+    EXPECT_NEAR(expansion.MeanFrom(100, 150, LINEARISED, REFUSE)->value, 20e-6, 1e-18);
+    EXPECT_NEAR(expansion.StrainAt(250, CONSTANT)->values[0], 4.5e-3, 1e-17);
+    EXPECT_EQ(expansion.MeanAt(250, REFUSE).Why(), "the temperature lies outside the table");
+}
+
 TEST(ThermalExpansion, WithoutTemperaturesIsItsOneCoefficient) {
     const ThermalExpansion constant(TemperatureTable::Independent({22e-5}), 293.15);
     EXPECT_NEAR(constant.StrainAt(303.15, REFUSE)->values[0], 22e-4, 1e-17);
