@@ -1,6 +1,8 @@
 #include "zelmat/commands/GivenLayups.h"
 
 #include <algorithm>
+#include <cctype>
+#include <filesystem>
 
 #include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/MaterialChoice.h"
@@ -123,10 +125,12 @@ bool IsLayupCard(const std::string& path) {
     return text && FormOfText(*text) == FileForm::LAYUP_CARD;
 }
 
-bool IsDocument(const std::string& path) {
-    if (IsDocumentFile(path)) return true;
-    const auto text = TextOf(path);
-    return text && IsTextDocument(*text);
+bool IsNotation(const std::string& argument) {
+    const bool letters = std::any_of(argument.begin(), argument.end(),
+                                     [](unsigned char character) { return std::isalpha(character) != 0; });
+    std::error_code none;
+    return argument != "-" && (argument.starts_with('[') || !letters) &&
+           !std::filesystem::exists(argument, none);
 }
 
 }  // namespace zelmat

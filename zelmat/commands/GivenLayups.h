@@ -38,7 +38,8 @@ GivenContent ReadGiven(const std::string& path, const CommonOptions& options, Fi
 /// Whether it is a layup card. Never standard input.
 bool IsLayupCard(const std::string& path);
 
-/// Whether it is a document in either form. Never standard input.
-bool IsDocument(const std::string& path);
+/// Whether an argument is meant as a stacking notation: it begins with a bracket or has no letter, and names
+/// neither a file nor standard input. Any other is a path, also of what is not there.
+bool IsNotation(const std::string& argument);
 
 }  // namespace zelmat

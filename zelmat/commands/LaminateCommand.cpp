@@ -13,7 +13,7 @@ namespace {
 /// Said with every result: without it A, B and D mean nothing.
 constexpr const char* kConvention =
     "z upwards from the middle plane, first layer at the bottom; angles from the x axis to the fibre, "
-    "counter-clockwise";
+    "counter-clockwise; shear as engineering strain; strain at z = strain + z curvature";
 
 /// The stiffness of a laminate by classical lamination theory, and what it does under a load.
 class LaminateOfPlies final : public Calculation {

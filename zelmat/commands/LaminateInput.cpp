@@ -2,13 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <cctype>
-#include <filesystem>
 
 #include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/commands/WrongForm.h"
+#include "zelmat/files/ReadText.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/PlyThickness.h"
 #include "zelmat/layups/StackingNotation.h"
@@ -66,12 +65,10 @@ void LaminateInput::Declare(CLI::App& line) {
 }
 
 std::optional<LayupCard> LaminateInput::Read(CommandContext& context) const {
-    const bool letters = std::any_of(layup_.begin(), layup_.end(),
-                                     [](unsigned char character) { return std::isalpha(character) != 0; });
-    std::error_code none;
-    const bool notation = (layup_.starts_with('[') || !letters) && !std::filesystem::exists(layup_, none);
-    const bool document = !notation && IsDocument(layup_);
-    if (!document && !wanted_.empty()) {
+    const bool notation = IsNotation(layup_);
+    GivenFile given = notation ? GivenFile() : OpenGiven(layup_, context.options, context.findings);
+    if (!notation && !given.document && !given.text) return std::nullopt;
+    if (!given.document && !wanted_.empty()) {
         context.findings.Add(UsageFinding("LAYUP", "not-of-a-document",
                                           QuotedText(layup_) + " has no layups to choose from",
                                           {"zelmat laminate DOC LAYUP"}));
@@ -84,17 +81,16 @@ std::optional<LayupCard> LaminateInput::Read(CommandContext& context) const {
                          "a card or a document gives material and thickness of each layer itself"));
         return std::nullopt;
     }
-    if (document) return FromDocument(context);
-    auto card = LayupCardReader(context.findings).Read(layup_);
+    if (given.document) return FromDocument(*given.document, context);
+    auto card = LayupCardReader(context.findings).ReadText(std::move(*given.text), ShownPath(layup_));
     if (!card) NameRightCommand(layup_, FileForm::LAYUP_CARD, context.findings);
     return card;
 }
 
-std::optional<LayupCard> LaminateInput::FromDocument(CommandContext& context) const {
-    const GivenFile given = OpenGiven(layup_, context.options, context.findings);
-    if (!given.document) return std::nullopt;
-    const auto layup = ChosenLayup(given.document->Document(), wanted_, layup_, context.findings);
-    return layup ? LayupCardOf(*given.document, *layup, context.findings) : std::nullopt;
+std::optional<LayupCard> LaminateInput::FromDocument(DocumentToRead& document,
+                                                     CommandContext& context) const {
+    const auto layup = ChosenLayup(document.Document(), wanted_, ShownPath(layup_), context.findings);
+    return layup ? LayupCardOf(document, *layup, context.findings) : std::nullopt;
 }
 
 std::optional<LayupCard> LaminateInput::FromNotation(CommandContext& context) const {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "zelmat/commands/Command.h"
+#include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/layups/LayupCard.h"
 #include "zelmat/mechanics/laminate/LaminateResponse.h"
 
@@ -20,7 +21,7 @@ public:
     std::optional<LayupCard> Read(CommandContext& context) const;
 
 private:
-    std::optional<LayupCard> FromDocument(CommandContext& context) const;
+    std::optional<LayupCard> FromDocument(DocumentToRead& document, CommandContext& context) const;
     std::optional<LayupCard> FromNotation(CommandContext& context) const;
     std::optional<PlyMaterial> Ply(CommandContext& context) const;
     std::optional<PlyMaterial> PlyOfText(Findings& findings) const;

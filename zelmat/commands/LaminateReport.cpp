@@ -66,9 +66,7 @@ Numbers Three(const Vector3& vector) {
 
 void TellExpansion(const Laminate& laminate, Result& result) {
     const auto expansion = mechanics::ExpansionOf(laminate);
-    const bool any = std::any_of(laminate.materials.begin(), laminate.materials.end(),
-                                 [](const auto& ply) { return ply.alpha1 != 0.0 || ply.alpha2 != 0.0; });
-    if (!expansion.Ok() || !any) return;
+    if (!expansion.Ok()) return result.Note("no free expansion: " + expansion.Why());
     ResultTable table("expansion", "Free expansion and curvature per temperature");
     table.AddWords("axis", "", {kAxes[0], kAxes[1], kAxes[2]});
     table.AddNumbers("expansion", "expansion", result.Of("expansion"), Three(expansion->strain));

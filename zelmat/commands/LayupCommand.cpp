@@ -1,10 +1,8 @@
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <cctype>
-#include <filesystem>
 
 #include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/LayupActions.h"
 #include "zelmat/commands/LayupReport.h"
 #include "zelmat/commands/WriteGate.h"
@@ -101,15 +99,6 @@ public:
     }
 
 private:
-    /// A text that begins with a bracket, or one without any letter, is meant as a notation, unless it names
-    /// a file; any other is the path of a card, also of one that is not there.
-    static bool IsNotation(const std::string& text) {
-        const bool letters = std::any_of(
-            text.begin(), text.end(), [](unsigned char character) { return std::isalpha(character) != 0; });
-        std::error_code none;
-        return (text.starts_with('[') || !letters) && !std::filesystem::exists(text, none);
-    }
-
     std::optional<LayupCard> Given(const std::string& text, Findings& findings) const {
         if (IsNotation(text)) return FromNotation(text, findings);
         if (!material_.empty() || !thickness_.empty()) {

@@ -68,9 +68,9 @@ std::optional<PlyNumbers> PlyNumbersOf(const PlyMaterial& ply, const DeckUnits& 
         *modulus = *converted;
     }
     if (plane->density) numbers.density = units.FromStored(*plane->density, "density");
-    if (plane->alpha1 != 0.0 || plane->alpha2 != 0.0) {
-        numbers.alpha1 = units.FromStored(plane->alpha1, "expansion");
-        numbers.alpha2 = units.FromStored(plane->alpha2, "expansion");
+    if (plane->expansion) {
+        numbers.alpha1 = units.FromStored(plane->expansion->alpha1, "expansion");
+        numbers.alpha2 = units.FromStored(plane->expansion->alpha2, "expansion");
     }
     if (plane->strength) notes.Lost(which + ": its strengths");
     return numbers;

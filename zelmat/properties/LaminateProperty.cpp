@@ -66,6 +66,19 @@ Outcome<std::optional<PlyStrength>> StrengthOf(const NamedConstants& constants) 
                                      .f12 = {}});
 }
 
+/// Of an isotropic ply one coefficient is enough; of another half of the two says nothing.
+Outcome<std::optional<mechanics::PlyExpansion>> PlyExpansionOf(const NamedConstants& constants) {
+    const auto both = Find(constants, "alpha"), along = Find(constants, "alpha1"),
+               across = Find(constants, "alpha2");
+    if (!both && !along && !across) return std::optional<mechanics::PlyExpansion>();
+    if (!both && !(along && across)) {
+        return Refusal{"of its thermal expansion " + Missing(constants, {"alpha1", "alpha2"}) +
+                       " is missing"};
+    }
+    return std::optional(
+        mechanics::PlyExpansion{.alpha1 = along ? *along : *both, .alpha2 = across ? *across : *both});
+}
+
 /// The columns of a block that does not depend on temperature; nothing otherwise.
 std::optional<std::vector<double>> ConstantRow(const Material& material, const char* name) {
     const Block* block = material.Find(name);
@@ -82,7 +95,8 @@ void AddIsotropic(const Material& material, NamedConstants& constants) {
         constants.emplace_back("nu", elastic->at(1));
     }
     const auto expansion = ConstantRow(material, "thermal_expansion");
-    if (expansion && !Find(constants, "alpha1")) constants.emplace_back("alpha", expansion->front());
+    if (expansion && !Find(constants, "alpha1") && !Find(constants, "alpha2"))
+        constants.emplace_back("alpha", expansion->front());
     const auto density = ConstantRow(material, "density");
     if (density && !Find(constants, "density")) constants.emplace_back("density", density->front());
 }
@@ -95,10 +109,10 @@ Outcome<mechanics::PlyMaterial> PlyMaterialOf(const NamedConstants& constants) {
     if (const auto fault = mechanics::UnstablePly(*elastic)) return *fault;
     const auto strength = StrengthOf(constants);
     if (!strength.Ok()) return strength.Refused();
-    const double alpha = Find(constants, "alpha").value_or(0.0);
+    const auto expansion = PlyExpansionOf(constants);
+    if (!expansion.Ok()) return expansion.Refused();
     return mechanics::PlyMaterial{.elastic = *elastic,
-                                  .alpha1 = Find(constants, "alpha1").value_or(alpha),
-                                  .alpha2 = Find(constants, "alpha2").value_or(alpha),
+                                  .expansion = *expansion,
                                   .density = Find(constants, "density"),
                                   .strength = *strength};
 }

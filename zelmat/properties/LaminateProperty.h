@@ -14,7 +14,7 @@ namespace zelmat {
 using NamedConstants = std::vector<std::pair<std::string, double>>;
 
 /// A ply material from named constants: E1, E2, nu12 and G12, or E and nu of an isotropic one; alpha1 and
-/// alpha2, or alpha, 0 where none is given; density; all of Xt, Xc, Yt, Yc and S or none. Moduli and
+/// alpha2, or alpha, or none of them; density; all of Xt, Xc, Yt, Yc and S or none. Moduli and
 /// strengths in Pa, expansion in 1/K. Refused where one of these is missing, and as UnstablePly refuses.
 mechanics::Outcome<mechanics::PlyMaterial> PlyMaterialOf(const NamedConstants& constants);
 

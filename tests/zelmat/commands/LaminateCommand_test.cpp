@@ -39,7 +39,7 @@ TEST(LaminateCommand, GivesTheModuliOfTheQuasiIsotropicLaminate) {
     EXPECT_EQ(
         laminate["convention"],
         "z upwards from the middle plane, first layer at the bottom; angles from the x axis to the fibre, "
-        "counter-clockwise");
+        "counter-clockwise; shear as engineering strain; strain at z = strain + z curvature");
     EXPECT_EQ(laminate["coupled"], "no: B is 0");
     EXPECT_EQ(laminate.Number("lamination_parameters", 2, "cos 2t"), 0.5625);
 }
@@ -125,6 +125,21 @@ TEST(LaminateCommand, GivesExpansionMassAndThermalStress) {
     EXPECT_EQ(laminate.Number("temperature_change"), -100.0);
 }
 
+TEST(LaminateCommand, RefusesAChangeOfTemperatureWhereAnExpansionIsNotKnown) {
+    const std::string elastic = "E1=181GPa,E2=10.3GPa,nu12=0.28,G12=7.17GPa";
+    const std::vector<std::string> plate = {"[0/90]s", "--thickness", "0.125mm", "--ply", elastic};
+    auto cooled = plate;
+    cooled.emplace_back("--dT=-100K");
+    EXPECT_THAT(Refusal(cooled, 1), HasSubstr("layer 1: the thermal expansion of its material is not known"));
+    EXPECT_THAT(Laminate(plate)["notes"],
+                Contains("no free expansion: layer 1: the thermal expansion of its material is not known"));
+    cooled[4] += ",alpha1=0.02e-6/K";
+    EXPECT_THAT(Refusal(cooled, 1), HasSubstr("of its thermal expansion alpha2 is missing"));
+    cooled[4] += ",alpha2=22.5e-6/K";
+    cooled.insert(cooled.begin(), "laminate");
+    EXPECT_THAT(RunZelmat(cooled).out, HasSubstr("change of temperature: -100 K\n"));
+}
+
 TEST(LaminateCommand, TakesThePliesOfAMaterialCard) {
     const std::string card =
         FileOf("ply.json", R"({"name": "T300", "version": 1, "E1": "181 GPa", "E2": "10.3 GPa",
@@ -198,6 +213,15 @@ TEST(LaminateCommand, SaysWhyThereIsNoFailure) {
     const ResultJson sandwich = Laminate({Sample("layups/sandwich_t300_rohacell.json")});
     EXPECT_THAT(sandwich["notes"],
                 Contains("no lamination parameters: lamination parameters exist for one ply material only"));
+}
+
+TEST(LaminateCommand, ReadsALayupCardFromStandardInput) {
+    const std::string card = "< '" + Sample("layups/kaw_0_30_m45.json") + "'";
+    const ProgramRun run = RunZelmatWith({"laminate", "-"}, card);
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(run.out, StartsWith("laminate: Unsymmetric [0/30/-45] graphite/epoxy\n"));
+    EXPECT_EQ(RunZelmatWith({"layup", "-"}, card).exitCode, 0);
+    EXPECT_THAT(RunZelmatWith({"laminate", "-", "Skin"}, card).err, HasSubstr("not-of-a-document"));
 }
 
 }  // namespace

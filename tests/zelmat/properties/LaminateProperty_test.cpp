@@ -59,11 +59,14 @@ TEST(LaminateProperty, TakesIsotropicPliesAndStrengths) {
                                     {"S", 1.0}});
     ASSERT_TRUE(ply.Ok());
     EXPECT_DOUBLE_EQ(ply->elastic.g12, 1e9);
-    EXPECT_EQ(ply->alpha2, 1e-5);
+    EXPECT_EQ(ply->expansion->alpha2, 1e-5);
     EXPECT_EQ(ply->strength->yt, 3.0);
 
     EXPECT_EQ(PlyMaterialOf({{"E", 1e9}, {"nu", 0.25}, {"Xt", 5.0}}).Why(),
               "of its strengths Xc, Yt, Yc, S is missing");
+    EXPECT_EQ(PlyMaterialOf({{"E", 1e9}, {"nu", 0.25}, {"alpha1", 1e-6}}).Why(),
+              "of its thermal expansion alpha2 is missing");
+    EXPECT_FALSE(PlyMaterialOf({{"E", 1e9}, {"nu", 0.25}})->expansion.has_value());
     EXPECT_FALSE(PlyMaterialOf({{"E", 1e9}, {"nu", 0.5}}).Ok());
     EXPECT_FALSE(PlyMaterialOf({{"E1", 1e9}, {"E2", 1e9}, {"nu12", 1.5}, {"G12", 1e9}}).Ok());
 }

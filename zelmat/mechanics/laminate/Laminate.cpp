@@ -15,7 +15,8 @@ bool IsPositive(double value) {
 
 std::optional<Refusal> MaterialFault(const PlyMaterial& material) {
     if (auto fault = UnstablePly(material.elastic)) return fault;
-    if (!std::isfinite(material.alpha1) || !std::isfinite(material.alpha2)) {
+    if (material.expansion &&
+        !(std::isfinite(material.expansion->alpha1) && std::isfinite(material.expansion->alpha2))) {
         return Refusal{"the thermal expansion of a ply is not a finite number"};
     }
     if (material.density && !IsPositive(*material.density))

@@ -21,10 +21,15 @@ struct PlyStrength {
     std::optional<double> f12;  ///< Tsai-Wu's interaction (1/stress^2); else -1/2 sqrt(F11 F22)
 };
 
+/// Free thermal expansion of a ply, mean coefficients over the change of temperature.
+struct PlyExpansion {
+    double alpha1, alpha2;  ///< along the fibre and across it, 1/K
+};
+
 /// What a ply is made of. Any consistent units: Pa, m, kg/m3, 1/K or MPa, mm, t/mm3, 1/K.
 struct PlyMaterial {
     OrthotropicPly elastic;
-    double alpha1 = 0.0, alpha2 = 0.0;  ///< thermal expansion along and across the fibre
+    std::optional<PlyExpansion> expansion;  ///< nothing: not known, which is not 0
     std::optional<double> density;
     std::optional<PlyStrength> strength;
 };

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <string>
 
 #include "zelmat/mechanics/laminate/PlyStiffness.h"
 
@@ -76,6 +77,16 @@ PlyPoint PointAt(const Laminate& laminate, const Layer& layer, double z, const L
     return point;
 }
 
+/// A layer whose expansion is not known does not stay as it is when the temperature changes.
+std::optional<Refusal> ExpansionFault(const Laminate& laminate) {
+    for (std::size_t k = 0; k < laminate.layers.size(); ++k) {
+        if (laminate.materials[laminate.layers[k].material].expansion) continue;
+        return Refusal{"layer " + std::to_string(k + 1) +
+                       ": the thermal expansion of its material is not known"};
+    }
+    return std::nullopt;
+}
+
 bool AllFinite(const LaminateLoad& load) {
     for (std::size_t i = 0; i < 3; ++i) {
         if (!std::isfinite(load.force[i]) || !std::isfinite(load.moment[i])) return false;
@@ -100,6 +111,9 @@ Outcome<LaminateResponse> RespondTo(const Laminate& laminate, const LaminateLoad
     const auto stiffness = StiffnessOf(laminate);
     if (!stiffness.Ok()) return stiffness.Refused();
     if (!AllFinite(load)) return Refusal{"a load is not a finite number"};
+    if (load.temperatureChange != 0.0) {
+        if (const auto fault = ExpansionFault(laminate)) return *fault;
+    }
     const HeldBack held = ThermalLoads(laminate);
     const Vector3 force = Sum(load.force, held.force, load.temperatureChange);
     const Vector3 moment = Sum(load.moment, held.moment, load.temperatureChange);

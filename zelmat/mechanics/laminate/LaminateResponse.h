@@ -31,7 +31,10 @@ struct LaminateResponse {
     std::vector<PlyResponse> plies;  ///< from the bottom up
 };
 
-/// Refused where LaminateFault finds one, for loads that are not finite, and where the answer is not.
+/// Strains and stresses: the strain at a height z is strain + z curvature; the third component of each is the
+/// engineering shear strain, the twist 2 kxy. Refused where LaminateFault finds one, for loads and answers
+/// that are not finite, and for a change of temperature where the expansion of a layer's material is not
+/// known.
 Outcome<LaminateResponse> RespondTo(const Laminate& laminate, const LaminateLoad& load);
 
 /// Free expansion of the whole laminate per kelvin.

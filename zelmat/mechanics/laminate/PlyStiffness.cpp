@@ -38,10 +38,10 @@ Matrix3 RotatedStiffness(const OrthotropicPly& ply, double angle) {
 }
 
 Vector3 RotatedExpansion(const PlyMaterial& material, double angle) {
+    const auto [alpha1, alpha2] = material.expansion.value_or(PlyExpansion{.alpha1 = 0.0, .alpha2 = 0.0});
     const auto [c, s] = DirectionOf(angle);
-    return {material.alpha1 * c * c + material.alpha2 * s * s,
-            material.alpha1 * s * s + material.alpha2 * c * c,
-            2.0 * (material.alpha1 - material.alpha2) * c * s};
+    return {alpha1 * c * c + alpha2 * s * s, alpha1 * s * s + alpha2 * c * c,
+            2.0 * (alpha1 - alpha2) * c * s};
 }
 
 Vector3 StressInPly(const Vector3& stress, double angle) {

@@ -16,7 +16,8 @@ Matrix3 ReducedStiffness(const OrthotropicPly& ply);
 /// Qbar: the same in the laminate's axes, the fibre at an angle in degrees.
 Matrix3 RotatedStiffness(const OrthotropicPly& ply, double angle);
 
-/// The thermal expansion in the laminate's axes; the third is the engineering shear strain per kelvin.
+/// The thermal expansion in the laminate's axes; the third is the engineering shear strain per kelvin. 0
+/// where it is not known.
 Vector3 RotatedExpansion(const PlyMaterial& material, double angle);
 
 /// From the laminate's axes into those of a ply at an angle.

@@ -76,8 +76,7 @@ TEST(LaminateResponse, HasPlyStressesThatFollowFromItsPlyStrains) {
 
 TEST(LaminateExpansion, OfOneDirectionIsThatOfThePly) {
     auto ply = GraphiteEpoxy();
-    ply.alpha1 = 0.02e-6;
-    ply.alpha2 = 22.5e-6;
+    ply.expansion = {0.02e-6, 22.5e-6};
     const auto along = *ExpansionOf(Stacked(ply, 0.001, {0, 0}));
     EXPECT_NEAR(along.strain[0], 0.02e-6, 1e-18);
     EXPECT_NEAR(along.strain[1], 22.5e-6, 1e-18);
@@ -88,8 +87,7 @@ TEST(LaminateExpansion, OfOneDirectionIsThatOfThePly) {
 
 TEST(LaminateExpansion, CurvesAnUnsymmetricLaminateAndLeavesTheForcesAtZero) {
     auto ply = GraphiteEpoxy();
-    ply.alpha1 = 0.02e-6;
-    ply.alpha2 = 22.5e-6;
+    ply.expansion = {0.02e-6, 22.5e-6};
     const auto laminate = Stacked(ply, 0.001, {0, 90});
     const auto expansion = *ExpansionOf(laminate);
     EXPECT_NEAR(expansion.curvature[0], -expansion.curvature[1], 1e-15);
@@ -107,11 +105,19 @@ TEST(LaminateExpansion, CurvesAnUnsymmetricLaminateAndLeavesTheForcesAtZero) {
 TEST(LaminateExpansion, OfIsotropicPliesHasNoStress) {
     PlyMaterial steel;
     steel.elastic = {210e9, 210e9, 0.3, 210e9 / 2.6};
-    steel.alpha1 = steel.alpha2 = 12e-6;
+    steel.expansion = {12e-6, 12e-6};
     const auto response =
         *RespondTo(Stacked(steel, 0.001, {0, 30}), {.force = {}, .moment = {}, .temperatureChange = 100});
     EXPECT_NEAR(response.strain[0], 12e-4, 1e-15);
     EXPECT_NEAR(response.plies[1].top.stress[0], 0, 1e-3);
+}
+
+TEST(LaminateResponse, IsRefusedForAChangeOfTemperatureWhereAnExpansionIsNotKnown) {
+    const auto laminate = Stacked(GraphiteEpoxy(), 0.001, {0, 90});
+    const char* why = "layer 1: the thermal expansion of its material is not known";
+    EXPECT_EQ(RespondTo(laminate, {.force = {}, .moment = {}, .temperatureChange = -75}).Why(), why);
+    EXPECT_EQ(ExpansionOf(laminate).Why(), why);
+    EXPECT_TRUE(RespondTo(laminate, {.force = {1, 0, 0}, .moment = {}, .temperatureChange = 0}).Ok());
 }
 
 TEST(LaminateResponse, IsRefusedForLoadsThatAreNone) {

@@ -143,7 +143,9 @@ TEST(LaminateStiffness, IsRefusedForWhatIsNoLaminate) {
     EXPECT_EQ(why([](Laminate& l) { l.materials[0].elastic.e2 = -1; }),
               "E1, E2 and G12 of a ply have to be above 0");
     EXPECT_EQ(why([](Laminate& l) { l.materials[0].density = 0; }), "the density of a ply has to be above 0");
-    EXPECT_EQ(why([](Laminate& l) { l.materials[0].alpha1 = NAN; }),
+    EXPECT_EQ(why([](Laminate& l) {
+                  l.materials[0].expansion = PlyExpansion{NAN, 0};
+              }),
               "the thermal expansion of a ply is not a finite number");
     EXPECT_EQ(why([](Laminate& l) { l.materials[0].strength = PlyStrength{1, -1, 1, 1, 1, {}}; }),
               "the strengths of a ply have to be above 0, also in compression");
