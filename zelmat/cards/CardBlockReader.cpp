@@ -90,7 +90,7 @@ void CardBlockReader::KeepUnknownKeys(const JsonNode& node, const std::vector<st
         const std::string nearest = NearestName(key, known);
         value.Report(FindingKind::WARNING, "unknown-key", node.Path() + " has no key " + Quoted(key),
                      {nearest.empty() ? "known: " + WordList(known) : "did you mean " + nearest + "?",
-                      "it is kept, and nothing uses it"});
+                      "it is kept, and no behavior uses it"});
     }
 }
 

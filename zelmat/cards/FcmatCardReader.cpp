@@ -173,7 +173,7 @@ bool FcmatCardReader::ReadMeasuredProperty(const FcmatProperty& property, const 
     const auto number = ReadLeadingNumber(text);
     if (!number) {
         Report(FindingKind::WARNING, "not-a-number", name + ": " + number.Error().text, line,
-               {"kept, and nothing uses it"});
+               {"kept, and no behavior uses it"});
         return false;
     }
     std::string unit(WithoutBlanksAround(number->rest));
@@ -181,7 +181,7 @@ bool FcmatCardReader::ReadMeasuredProperty(const FcmatProperty& property, const 
     if (unit.empty()) unit = pure ? "-" : flat_ ? std::string(property.flatUnit) : "";
     if (unit.empty()) {
         Report(FindingKind::WARNING, "no-unit", name + ": " + QuotedText(text) + " has no unit", line,
-               {"expected " + UnitsThatDo(quantity), "kept, and nothing uses it"});
+               {"expected " + UnitsThatDo(quantity), "kept, and no behavior uses it"});
         return false;
     }
     if (const auto read = ReadUnit(unit, quantity); !read) {
@@ -251,7 +251,7 @@ void FcmatCardReader::KeepHalfOfElastic() {
         }
         if (!text.is_string()) continue;
         Report(FindingKind::WARNING, "incomplete", std::string(property.name) + " alone makes no " + block,
-               lines_.contains("/" + block) ? lines_.at("/" + block) : 0, {"kept, and nothing uses it"});
+               lines_.contains("/" + block) ? lines_.at("/" + block) : 0, {"kept, and no behavior uses it"});
         KeepProperty(std::string(property.name), text.get<std::string>(), 0);
         card_.erase(block);
     }

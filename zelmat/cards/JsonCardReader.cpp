@@ -108,7 +108,7 @@ void JsonCardReader::KeepUnknownBlocks(const JsonNode& root, Material& material)
         material.kept.push_back({key, node.Json().dump()});
         node.Report(FindingKind::WARNING, "unknown-block", "there is no block " + Quoted(key),
                     {"known: " + WordList(BlockKinds(), [](const BlockKind& kind) { return kind.name; }),
-                     "it is kept, and nothing uses it"});
+                     "it is kept, and no behavior uses it"});
     }
 }
 

@@ -13,6 +13,7 @@
 #include "zelmat/properties/HardeningProperty.h"
 #include "zelmat/properties/HyperelasticProperty.h"
 #include "zelmat/properties/ValueAt.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/NearestName.h"
 #include "zelmat/text/QuotedText.h"
 #include "zelmat/text/WordList.h"
@@ -84,15 +85,24 @@ MaybeProblem ReadPlastic(const Block& block, const AtQuestion& question, Result&
     std::optional<mechanics::TemperatureRange> range;
     const auto* curves = std::get_if<mechanics::HardeningTable>(&hardening->law);
     if (curves && hardening->temperatureDependent) range = curves->Temperatures();
+    MaybeNumber strainTo;
+    if (curves)
+        strainTo =
+            curves->GreatestPlasticStrain(question.temperature.value_or(curves->Temperatures().lowest));
+    auto ranges = RangeText(range, result);
+    if (strainTo) ranges.push_back("plastic strains up to " + NumberText(*strainTo));
     const auto stress = FlowStressAt(*hardening, *question.plasticStrain, question.temperature,
                                      question.strainRate, question.outside.value_or(OutsidePolicy::CONSTANT));
-    if (!stress.Ok()) return AtProblem{stress.Why(), RangeText(range, result)};
+    if (!stress.Ok()) return AtProblem{stress.Why(), ranges};
     TellRange(range, result);
+    if (strainTo) result.Add("plastic_strain_to", "plastic strains to", "strain", strainTo);
     result.Say("hardening", "hardening", hardening->hardening);
     result.Add("plastic_strain", "plastic strain", "strain", question.plasticStrain);
     if (question.strainRate) result.Add("strain_rate", "strain rate", "rate", question.strainRate);
     result.Add("stress", "true stress", "stress", stress->stress);
     result.Note(stress->notes);
+    if (question.temperature && !hardening->temperatureDependent)
+        result.Note("does not depend on temperature");
     return std::nullopt;
 }
 
@@ -127,7 +137,7 @@ MaybeProblem ReadExpansion(const Block& block, const AtQuestion& question, Resul
         return ReadTable(block, question, result);
     }
     const auto range = expansion->Mean().Range();
-    const auto mean = expansion->Mean().At(*question.temperature, question.Policy());
+    const auto mean = expansion->MeanAt(*question.temperature, question.Policy());
     if (!mean.Ok()) return AtProblem{mean.Why(), RangeText(range, result)};
     const auto strain = expansion->StrainAt(*question.temperature, question.Policy());
     TellRange(range, result);

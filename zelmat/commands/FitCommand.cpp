@@ -67,7 +67,7 @@ protected:
         Findings& findings = context.findings;
         if (!ReadModel(findings) || !ReadInput(context)) return false;
         result.Say("tests_of", "tests of", input_.Name());
-        return law_ ? FitLaw(findings, result) : all_ ? FitAll(findings, result) : FitModel(context, result);
+        return law_ ? FitLaw(context, result) : all_ ? FitAll(context, result) : FitModel(context, result);
     }
 
 private:
@@ -106,10 +106,9 @@ private:
 
     bool ReadInput(CommandContext& context) {
         if (!store_.IsWanted()) return input_.Read(context);
-        if (!potential_) {
-            context.findings.Add(UsageFinding("--store", "not-to-be-stored",
-                                              "only one potential can be stored",
-                                              {"--model OGDEN, YEOH, ..."}));
+        if (all_) {
+            context.findings.Add(UsageFinding("--store", "not-to-be-stored", "only one model can be stored",
+                                              {"--model OGDEN, YEOH, ... or a law of metals"}));
             return false;
         }
         auto material = store_.Open(input_.Path(), input_.Wanted(), context);
@@ -127,19 +126,22 @@ private:
         return !store_.IsWanted() || store_.Store(*fit, context, result);
     }
 
-    bool FitLaw(Findings& findings, Result& result) const {
-        const auto curve = input_.Hardening(findings);
-        if (curve.empty()) return false;
-        const auto fit = mechanics::FitHardening(*law_, curve, Measure());
+    bool FitLaw(CommandContext& context, Result& result) {
+        Findings& findings = context.findings;
+        const auto curve = input_.Hardening(context);
+        if (!curve) return false;
+        const auto fit = mechanics::FitHardening(*law_, curve->points, Measure());
         if (!fit.Ok()) return Refuse(findings, fit.Why());
         result.Say("measure", "deviations", MeasureWord(Measure()));
+        if (curve->temperature) result.Add("temperature", "temperature", "temperature", curve->temperature);
         TellFit(*fit, input_.Where(), findings, result);
-        return true;
+        return !store_.IsWanted() || store_.Store(*fit, *curve, context, result);
     }
 
-    bool FitAll(Findings& findings, Result& result) const {
+    bool FitAll(CommandContext& context, Result& result) const {
+        Findings& findings = context.findings;
         result.Say("measure", "deviations", MeasureWord(Measure()));
-        if (input_.IsHardening()) return FitAllLaws(findings, result);
+        if (input_.IsHardening()) return FitAllLaws(context, result);
         const auto curves = input_.Curves(findings);
         if (curves.empty()) return false;
         const auto ranking = mechanics::FitAllModels(curves, Measure(), order_);
@@ -149,12 +151,13 @@ private:
     }
 
     /// A, B and n of Johnson and Cook's law are those of Ludwik's.
-    bool FitAllLaws(Findings& findings, Result& result) const {
-        const auto curve = input_.Hardening(findings);
-        if (curve.empty()) return false;
+    bool FitAllLaws(CommandContext& context, Result& result) const {
+        Findings& findings = context.findings;
+        const auto curve = input_.Hardening(context);
+        if (!curve) return false;
         std::vector<mechanics::HardeningFit> fits;
         for (const auto law : {HardeningLaw::LUDWIK, HardeningLaw::SWIFT, HardeningLaw::VOCE}) {
-            const auto fit = mechanics::FitHardening(law, curve, Measure());
+            const auto fit = mechanics::FitHardening(law, curve->points, Measure());
             if (!fit.Ok()) return Refuse(findings, fit.Why());
             fits.push_back(*fit);
         }
@@ -184,7 +187,9 @@ CommandKind FitCommand() {
             "coefficients with standard deviations, deviations by mode, where the fit becomes unstable.\n"
             "Without --order OGDEN and REDUCED_POLYNOMIAL have 3 terms, POLYNOMIAL has order 2.\n"
             "--all-models ranks all of them. A CSV file may have columns Mode, Specimen and Weight.\n"
-            "--store puts the potential into the material of the document, in one step.",
+            "--store puts the potential or the law into the material of the document, in one step; with "
+            "files\n"
+            "of points behind the material, zelmat fit DOC MATERIAL CSV..., these are fitted.",
         .units = true,
         .csv = true,
         .make = &MakeCommand<Fit>};

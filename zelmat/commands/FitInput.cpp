@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 #include <tuple>
 
 #include "zelmat/commands/CardInput.h"
@@ -14,6 +15,7 @@
 #include "zelmat/properties/UsedBlock.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/ReadNumber.h"
+#include "zelmat/quantities/ShownQuantity.h"
 #include "zelmat/text/QuotedText.h"
 #include "zelmat/text/WordList.h"
 
@@ -21,9 +23,12 @@ namespace zelmat {
 
 namespace {
 
+using mechanics::HardeningPoint;
 using mechanics::LoadingMode;
-using mechanics::StressStrain;
 using mechanics::TestCurve;
+
+/// A temperature below absolute zero, of points that have none.
+constexpr double kNotSaid = -1.0;
 
 constexpr const char* kModes = "uniaxial, equibiaxial, planar or shear";
 
@@ -73,14 +78,16 @@ std::optional<double> StretchOf(const MeasuredCsv& points, std::size_t row, Load
 
 void FitInput::Declare(CLI::App& line) {
     line.add_option("CARD|DOC|CSV", what_,
-                    "Material card or document and one of its materials, or CSV files of measured points")
+                    "Material card or document and one of its materials, or CSV files of measured points, "
+                    "or both; - is standard input")
         ->required();
     line.add_option("--mode", modeTexts_,
                     std::string("Mode of each CSV file, or the modes that count of a card: ") + kModes)
         ->delimiter(',');
     line.add_option("--range", limitTexts_, "Stretches that count: 1:4, or of one mode planar=1:4");
     line.add_option("--weight", weightTexts_, "Weight of the tests of a mode: equibiaxial=2");
-    AddNumberOption(line, "--temperature", temperatureText_, "Which hardening curve of several: 20degC");
+    AddNumberOption(line, "--temperature", temperatureText_,
+                    "Which hardening curve of several, or of what temperature a CSV file is: 20degC");
     DeclareCardReading(line, how_);
 }
 
@@ -129,47 +136,51 @@ bool FitInput::ReadWeights(Findings& findings) {
     return true;
 }
 
+bool FitInput::ReadOptions(Findings& findings) {
+    temperature_ = OptionNumberIfGiven("--temperature", temperatureText_, "temperature", findings);
+    if (std::count(what_.begin(), what_.end(), "-") > 1) {
+        findings.Add(UsageFinding("CARD|DOC|CSV", "given-twice", "standard input can be read only once"));
+    }
+    return ReadModes(findings) && ReadLimits(findings) && ReadWeights(findings) && !findings.HasErrors();
+}
+
 bool FitInput::Read(CommandContext& context, std::optional<Material> material) {
     Findings& findings = context.findings;
-    temperature_ = OptionNumberIfGiven("--temperature", temperatureText_, "temperature", findings);
-    if (!ReadModes(findings) || !ReadLimits(findings) || !ReadWeights(findings) || findings.HasErrors()) {
-        return false;
-    }
+    if (!ReadOptions(findings)) return false;
     const std::string& path = what_.front();
     place_ = {ShownPath(path), 0};
     if (material) {
         material_ = std::move(material);
-        name_ = material_->name;
-        return true;
+    } else {
+        GivenFile given = OpenGiven(path, context.options, findings);
+        if (given.text && MeasuredCsv::IsOne(*given.text)) return ReadFiles(what_, given.text, findings);
+        if (!given.document && !given.text) return false;
+        GivenMaterials choice;
+        choice.Set(path, Wanted(), how_);
+        auto materials = MaterialsIn(std::move(given), path, findings, how_);
+        material_ = findings.HasErrors() ? std::nullopt : choice.OneOf(std::move(materials), findings);
     }
-    // Standard input can be read once, so it is a card or a document.
-    const auto text = path == "-" ? std::optional<std::string>("") : ReadText(path, findings);
-    if (!text) return false;
-    if (MeasuredCsv::IsOne(*text)) return ReadFiles(context, *text);
-    if (what_.size() > 2) {
-        findings.Add(UsageFinding("CARD|DOC|CSV", "too-many", "a card or a document has one material to fit",
-                                  {"only files of measured points can be several"}));
-        return false;
-    }
-    GivenMaterials given;
-    given.Set(path, what_.size() > 1 ? what_[1] : "", how_);
-    material_ = given.ReadOne(context);
-    if (material_) name_ = material_->name;
-    return material_.has_value();
+    if (!material_) return false;
+    name_ = material_->name;
+    if (what_.size() <= 2) return true;
+    place_ = {ShownPath(what_[2]), 0};
+    return ReadFiles({what_.begin() + 2, what_.end()}, {}, findings);
 }
 
-bool FitInput::ReadFiles(CommandContext& context, const std::string& first) {
-    if (modes_.size() > 1 && modes_.size() != what_.size()) {
-        context.findings.Add(UsageFinding(
+/// `first`: the text of the first one, where it has been read already.
+bool FitInput::ReadFiles(const std::vector<std::string>& paths, const std::optional<std::string>& first,
+                         Findings& findings) {
+    if (modes_.size() > 1 && modes_.size() != paths.size()) {
+        findings.Add(UsageFinding(
             "--mode", "modes-and-files",
-            std::to_string(modes_.size()) + " modes for " + std::to_string(what_.size()) + " files",
+            std::to_string(modes_.size()) + " modes for " + std::to_string(paths.size()) + " files",
             {"one mode for all files, or one for each"}));
         return false;
     }
-    for (const std::string& path : what_) {
-        const auto text = path == what_.front() ? std::optional(first) : ReadText(path, context.findings);
+    for (const std::string& path : paths) {
+        const auto text = first && path == paths.front() ? first : ReadText(path, findings);
         if (!text) return false;
-        auto points = MeasuredCsv::Read(*text, ShownPath(path), how_, context.findings);
+        auto points = MeasuredCsv::Read(*text, ShownPath(path), how_, findings);
         if (!points) return false;
         measured_.push_back({ShownPath(path), std::move(*points)});
     }
@@ -190,6 +201,8 @@ void FitInput::AddCurves(const Measured& measured, std::optional<LoadingMode> gi
                                         "the points need one stress, nominal or true",
                                         {"NominalStress [MPa] or TrueStress [MPa]"}));
     }
+    const bool sheared = points.Numbers(MeasuredColumn::SHEAR) && !points.Numbers(MeasuredColumn::STRETCH);
+    if (!given && sheared) given = LoadingMode::SIMPLE_SHEAR;  // nothing else has an amount of shear
     if (!modes && !given) {
         findings.Add({FindingKind::WARNING,
                       {measured.file, 0},
@@ -249,13 +262,15 @@ void FitInput::Restrict(std::vector<TestCurve>& curves) const {
 }
 
 bool FitInput::IsHardening() const {
-    if (material_) return TestCurvesOf(*material_).empty() && material_->Find("plastic");
-    return measured_.front().points.Numbers(MeasuredColumn::PLASTIC_STRAIN) != nullptr;
+    if (!measured_.empty()) {
+        return measured_.front().points.Numbers(MeasuredColumn::PLASTIC_STRAIN) != nullptr;
+    }
+    return TestCurvesOf(*material_).empty() && material_->Find("plastic");
 }
 
 std::vector<TestCurve> FitInput::Curves(Findings& findings) const {
     std::vector<TestCurve> curves;
-    if (material_) {
+    if (measured_.empty()) {
         curves = TestCurvesOf(*material_);
         if (!modes_.empty()) {
             std::erase_if(curves, [this](const TestCurve& curve) {
@@ -280,66 +295,75 @@ std::vector<TestCurve> FitInput::Curves(Findings& findings) const {
 }
 
 /// The temperature whose curve counts: the only one, or the one that was asked for.
-std::optional<double> FitInput::OneTemperature(const std::vector<double>& temperatures, const Place& place,
-                                               Findings& findings) const {
-    std::vector<double> all = temperatures;
-    std::sort(all.begin(), all.end());
-    all.erase(std::unique(all.begin(), all.end()), all.end());
+std::optional<double> FitInput::OneTemperature(const std::vector<HardeningPoint>& points, const Place& place,
+                                               CommandContext& context) const {
+    std::set<double> all;
+    for (const HardeningPoint& point : points) all.insert(point.temperature);
     const auto near = [this](double at) { return temperature_ && std::abs(at - *temperature_) < 1e-6; };
     const auto found = std::find_if(all.begin(), all.end(), near);
     if (found != all.end()) return *found;
-    if (all.size() == 1 && !temperature_) return all.front();
-    findings.Add(DataFinding(
+    if (all.size() == 1 && !temperature_) return *all.begin();
+    const ShownQuantity shown("temperature", context.units);
+    context.findings.Add(DataFinding(
         place, "which-temperature",
         temperature_ ? "there is no curve at this temperature" : "there are curves at several temperatures",
-        {"--temperature: " + WordList(all, [](double at) { return WithUnit(at, "K"); })}));
+        {"--temperature: " + WordList(all, [&](double at) { return WithUnit(shown(at), shown.Unit()); })}));
     return std::nullopt;
 }
 
-std::vector<StressStrain> FitInput::Hardening(Findings& findings) const {
-    std::vector<StressStrain> curve;
-    std::vector<double> temperatures;
+bool FitInput::AddHardening(const Material& material, std::vector<HardeningPoint>& points, Place& place,
+                            Findings& findings) const {
+    const auto block = UsedBlock(material, "plastic", findings);
+    if (!block) return false;
+    place.line = block->origin.Line();
+    const auto hardening = HardeningOf(*block);
+    const auto* table = hardening.Ok() ? std::get_if<mechanics::HardeningTable>(&hardening->law) : nullptr;
+    if (table) {
+        points = table->Rows();
+        return true;
+    }
+    findings.Add(DataFinding(place, "no-curve",
+                             hardening.Ok() ? "johnson-cook is a law already" : hardening.Why(),
+                             {"a CSV file of YieldStress [MPa],PlasticStrain [-] behind the material"}));
+    return false;
+}
+
+/// Points whose temperature is not said have that of `--temperature`.
+bool FitInput::AddHardening(const Measured& measured, std::vector<HardeningPoint>& points,
+                            Findings& findings) const {
+    const auto* strain = measured.points.Numbers(MeasuredColumn::PLASTIC_STRAIN);
+    const auto* stress = measured.points.Numbers(MeasuredColumn::TRUE_STRESS);
+    const auto* temperature = measured.points.Numbers(MeasuredColumn::TEMPERATURE);
+    if (!strain || !stress) {
+        findings.Add(DataFinding({measured.file, 0}, "no-curve",
+                                 "a law of metals is fitted to plastic strains and true stresses",
+                                 {"YieldStress [MPa],PlasticStrain [-]", "zelmat true-curve makes them"}));
+        return false;
+    }
+    for (std::size_t row = 0; row < measured.points.Rows(); ++row) {
+        points.push_back(
+            {.stress = (*stress)[row],
+             .plasticStrain = (*strain)[row],
+             .temperature = temperature ? (*temperature)[row] : temperature_.value_or(kNotSaid)});
+    }
+    return true;
+}
+
+std::optional<HardeningCurve> FitInput::Hardening(CommandContext& context) const {
+    std::vector<HardeningPoint> points;
     Place place = place_;
-    if (material_) {
-        const auto block = UsedBlock(*material_, "plastic", findings);
-        if (!block) return {};
-        place.line = block->origin.Line();
-        const auto hardening = HardeningOf(*block);
-        const auto* table =
-            hardening.Ok() ? std::get_if<mechanics::HardeningTable>(&hardening->law) : nullptr;
-        if (!table) {
-            findings.Add(DataFinding(place, "no-curve",
-                                     hardening.Ok() ? "johnson-cook is a law already" : hardening.Why()));
-            return {};
-        }
-        for (const auto& row : table->Rows()) {
-            curve.push_back({row.plasticStrain, row.stress});
-            temperatures.push_back(row.temperature);
-        }
-    }
+    if (measured_.empty() && !AddHardening(*material_, points, place, context.findings)) return std::nullopt;
     for (const Measured& measured : measured_) {
-        const auto* strain = measured.points.Numbers(MeasuredColumn::PLASTIC_STRAIN);
-        const auto* stress = measured.points.Numbers(MeasuredColumn::TRUE_STRESS);
-        const auto* temperature = measured.points.Numbers(MeasuredColumn::TEMPERATURE);
-        if (!strain || !stress) {
-            findings.Add(
-                DataFinding({measured.file, 0}, "no-curve",
-                            "a law of metals is fitted to plastic strains and true stresses",
-                            {"YieldStress [MPa],PlasticStrain [-]", "zelmat true-curve makes them"}));
-            return {};
-        }
-        for (std::size_t row = 0; row < measured.points.Rows(); ++row) {
-            curve.push_back({(*strain)[row], (*stress)[row]});
-            temperatures.push_back(temperature ? (*temperature)[row] : 0.0);
-        }
+        if (!AddHardening(measured, points, context.findings)) return std::nullopt;
     }
-    const auto one = OneTemperature(temperatures, place, findings);
-    if (!one) return {};
-    std::vector<StressStrain> chosen;
-    for (std::size_t at = 0; at < curve.size(); ++at) {
-        if (temperatures[at] == *one) chosen.push_back(curve[at]);
+    const auto one = OneTemperature(points, place, context);
+    if (!one) return std::nullopt;
+    HardeningCurve curve{.points = {}, .temperature = one};
+    if (*one == kNotSaid) curve.temperature.reset();
+    for (const HardeningPoint& point : points) {
+        if (point.temperature == *one) curve.points.push_back({point.plasticStrain, point.stress});
     }
-    return chosen;
+    return curve;
 }
 
 }  // namespace zelmat

@@ -8,12 +8,19 @@
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/mechanics/fit/TestCurve.h"
+#include "zelmat/mechanics/plastic/HardeningTable.h"
 #include "zelmat/mechanics/plastic/StressStrain.h"
 
 namespace zelmat {
 
-/// What a fit is made to: `CARD|DOC [MATERIAL]`, or files of measured points, with the options that choose
-/// among the points.
+/// Points of a metal's hardening at one temperature.
+struct HardeningCurve {
+    std::vector<mechanics::StressStrain> points;  ///< plastic strain, true stress in Pa
+    std::optional<double> temperature;            ///< K; nothing: it is not said
+};
+
+/// What a fit is made to: `CARD|DOC [MATERIAL]`, or files of measured points, alone or behind the material
+/// that they are of, with the options that choose among the points.
 class FitInput {
 public:
     void Declare(CLI::App& line);
@@ -22,13 +29,12 @@ public:
     /// Which of a document's materials; empty: not said.
     std::string Wanted() const { return what_.size() > 1 ? what_[1] : std::string(); }
 
-    /// Takes the options apart and reads what was given; with a material, that one is what was given. False,
-    /// and findings, when something is wrong.
+    /// Takes the options apart and reads what was given; with a material, that one is CARD|DOC MATERIAL.
+    /// False, and findings, when something is wrong.
     bool Read(CommandContext& context, std::optional<Material> material = std::nullopt);
 
-    const std::string& Name() const { return name_; }  ///< of the material, or of the file
+    const std::string& Name() const { return name_; }  ///< of what holds the points: the material or files
     const Place& Where() const { return place_; }
-    const std::optional<Material>& Given() const { return material_; }  ///< nothing for files of points
 
     /// Whether it holds plastic strains, or a plastic block and no tests of a rubber.
     bool IsHardening() const;
@@ -36,8 +42,8 @@ public:
     /// Stretches and nominal stresses by specimen, SI. Empty, and findings, when there are none.
     std::vector<mechanics::TestCurve> Curves(Findings& findings) const;
 
-    /// Plastic strains and true stresses of one temperature. Empty, and findings, when there are none.
-    std::vector<mechanics::StressStrain> Hardening(Findings& findings) const;
+    /// The one that there is, or that `--temperature` chooses. Nothing, and findings, when there is none.
+    std::optional<HardeningCurve> Hardening(CommandContext& context) const;
 
 private:
     struct Limits {
@@ -56,12 +62,18 @@ private:
     bool ReadModes(Findings& findings);
     bool ReadLimits(Findings& findings);
     bool ReadWeights(Findings& findings);
-    bool ReadFiles(CommandContext& context, const std::string& first);
+    bool ReadOptions(Findings& findings);
+    bool ReadFiles(const std::vector<std::string>& paths, const std::optional<std::string>& first,
+                   Findings& findings);
     void AddCurves(const Measured& measured, std::optional<mechanics::LoadingMode> mode,
                    std::vector<mechanics::TestCurve>& curves, Findings& findings) const;
     void Restrict(std::vector<mechanics::TestCurve>& curves) const;
-    std::optional<double> OneTemperature(const std::vector<double>& temperatures, const Place& place,
-                                         Findings& findings) const;
+    bool AddHardening(const Material& material, std::vector<mechanics::HardeningPoint>& points, Place& place,
+                      Findings& findings) const;
+    bool AddHardening(const Measured& measured, std::vector<mechanics::HardeningPoint>& points,
+                      Findings& findings) const;
+    std::optional<double> OneTemperature(const std::vector<mechanics::HardeningPoint>& points,
+                                         const Place& place, CommandContext& context) const;
 
     std::vector<std::string> what_;
     CardReading how_;

@@ -23,11 +23,6 @@ std::string NameOf(mechanics::HyperelasticModel model, int order) {
     return Word(Keyword(model)) + (HasOrder(model) ? " " + std::to_string(order) : "");
 }
 
-/// Whether a coefficient of a hardening law is a stress: not an exponent and not a strain.
-bool IsStressOfLaw(const std::string& name) {
-    return name != "n" && !name.starts_with("e_");
-}
-
 template <class IsStress>
 ResultTable CoefficientTable(const std::vector<FittedCoefficient>& coefficients, const Result& result,
                              IsStress isStress) {
@@ -250,7 +245,8 @@ void TellRanking(const mechanics::FitRanking& ranking, const Place& place, Findi
 void TellFit(const HardeningFit& fit, const Place& place, Findings& findings, Result& result) {
     result.Say("model", "law", Word(Keyword(fit.law)));
     result.Say("formula", "formula", mechanics::FormulaOf(fit.law));
-    result.Add(CoefficientTable(fit.coefficients, result, IsStressOfLaw));
+    result.Note(fit.notes);
+    result.Add(CoefficientTable(fit.coefficients, result, &mechanics::IsStressOfLaw));
     DeviationTable deviations;
     deviations.Add("curve", fit.deviation);
     result.Add(deviations.Table(result, "Deviation from the curve"));

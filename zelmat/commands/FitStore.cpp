@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/FitReport.h"
+#include "zelmat/commands/FittedBlock.h"
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/materials/CardExtras.h"
 #include "zelmat/materials/MaterialWriter.h"
@@ -12,25 +12,6 @@
 namespace zelmat {
 
 namespace {
-
-/// The fit as a hyperelastic block in the stored meaning: incompressible, at every temperature.
-Block BlockOf(const mechanics::HyperelasticFit& fit) {
-    Block block{.kind = FindBlockKind("hyperelastic")};
-    block.values.Set("model", std::string(Keyword(fit.model)));
-    block.values.Set("order", fit.order);
-    block.values.Set("status", std::string("computed"));
-    block.values.Set("variant", "fitted to the tests by " + MeasureWord(fit.measure) + " deviations");
-    if (fit.deviation.rmsRelative) block.values.Set("rms_relative_deviation", *fit.deviation.rmsRelative);
-    Table table = EmptyTable(block.kind->tables.front(), block.values, false);
-    for (Column& column : table.columns) {
-        const auto found = std::find_if(fit.coefficients.begin(), fit.coefficients.end(),
-                                        [&](const auto& each) { return each.name == column.kind.name; });
-        column.values = {found != fit.coefficients.end() ? found->value
-                                                         : column.kind.whenAbsent.value_or(0.0)};
-    }
-    block.tables.push_back(std::move(table));
-    return block;
-}
 
 /// The greatest order that a material holds.
 int GreatestOrder() {
@@ -65,24 +46,42 @@ std::optional<Material> FitStore::Open(const std::string& path, const std::strin
 }
 
 bool FitStore::Store(const mechanics::HyperelasticFit& fit, CommandContext& context, Result& result) {
-    Findings& findings = context.findings;
     if (fit.order > GreatestOrder()) {
-        findings.Add(UsageFinding("--order", "out-of-range",
-                                  "a material holds no order " + std::to_string(fit.order),
-                                  {"at most " + std::to_string(GreatestOrder())}));
+        context.findings.Add(UsageFinding("--order", "out-of-range",
+                                          "a material holds no order " + std::to_string(fit.order),
+                                          {"at most " + std::to_string(GreatestOrder())}));
         return false;
     }
     Material now = *before_;
     now.fits.insert(now.fits.begin(), BlockOf(fit));
-    if (!gate_.PassesChange(*before_, now, findings)) return false;
+    return Write(now, now.fits.front(), context, result);
+}
+
+bool FitStore::Store(const mechanics::HardeningFit& fit, const HardeningCurve& curve, CommandContext& context,
+                     Result& result) {
+    auto block = BlockOf(fit, curve, *before_, context.findings, result);
+    if (!block) return false;
+    Material now = *before_;
+    const auto later = std::find_if(now.blocks.begin(), now.blocks.end(), [&](const Block& each) {
+        return each.kind >= block->kind;
+    });  // all are BlockKinds() entries
+    const bool there = later != now.blocks.end() && later->kind == block->kind;
+    const auto place = there ? later : now.blocks.insert(later, Block());
+    *place = std::move(*block);
+    return Write(now, *place, context, result);
+}
+
+bool FitStore::Write(const Material& now, const Block& changed, CommandContext& context, Result& result) {
+    if (!gate_.PassesChange(*before_, now, context.findings)) return false;
     KORISpecObject* const feature = target_->feature.Get();
     Findings answers;
-    WriteBlocks(feature, now, {&now.fits.front()}, answers);
+    WriteBlocks(feature, now, {&changed}, answers);
     const Material held = ReadHeldMaterial(*target_, document_->Path(), answers);
-    findings.Add(answers);
+    context.findings.Add(answers);
     if (answers.HasErrors()) return false;
+    const Block* stored = now.fits.empty() ? nullptr : &now.fits.front();
     // Analysis data that hang on no material of the platform have no place for more.
-    static_cast<void>(WriteCardExtras(document_->Document(), feature, now, &now.fits.front(), held));
+    static_cast<void>(WriteCardExtras(document_->Document(), feature, now, stored, held));
     step_->Commit();
     const auto saved = SaveChange(*document_, context);
     if (!saved) return false;

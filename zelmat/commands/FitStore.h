@@ -6,17 +6,20 @@
 
 #include "platform/store/KORStep.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/FitInput.h"
 #include "zelmat/commands/Result.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/documents/DocumentToChange.h"
 #include "zelmat/materials/DocumentMaterials.h"
+#include "zelmat/mechanics/fit/HardeningFit.h"
 #include "zelmat/mechanics/fit/HyperelasticFit.h"
 
 namespace zelmat {
 
-/// `fit --store`: puts a fitted potential into the material of a document whose tests it was fitted to, as
-/// one step that undo takes back. The document is open for change from before it is read, so that nobody
-/// changes it in between. The fit that was stored before stays among the material's fits.
+/// `fit --store`: puts a fitted potential or hardening law into a material of a document, as one step that
+/// undo takes back. The document is open for change from before it is read, so that nobody changes it in
+/// between. A potential that was stored before stays among the material's fits; a law takes the place of the
+/// plastic block.
 class FitStore {
 public:
     void Declare(CLI::App& line);
@@ -28,8 +31,13 @@ public:
 
     /// False, and findings: the document is as it was.
     bool Store(const mechanics::HyperelasticFit& fit, CommandContext& context, Result& result);
+    bool Store(const mechanics::HardeningFit& fit, const HardeningCurve& curve, CommandContext& context,
+               Result& result);
 
 private:
+    /// `changed`: the block of `now` that a behavior is given.
+    bool Write(const Material& now, const Block& changed, CommandContext& context, Result& result);
+
     bool wanted_ = false;
     WriteGate gate_;
     std::unique_ptr<DocumentToChange> document_;

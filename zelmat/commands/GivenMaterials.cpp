@@ -48,7 +48,11 @@ std::vector<Material> CardsOfText(std::string text, const std::string& path, Fin
 
 std::vector<Material> ReadGivenMaterials(const std::string& path, const CommonOptions& options,
                                          Findings& findings, const CardReading& how) {
-    GivenFile given = OpenGiven(path, options, findings);
+    return MaterialsIn(OpenGiven(path, options, findings), path, findings, how);
+}
+
+std::vector<Material> MaterialsIn(GivenFile given, const std::string& path, Findings& findings,
+                                  const CardReading& how) {
     if (given.document) return given.document->Materials(findings);
     return given.text ? CardsOfText(std::move(*given.text), path, findings, how) : std::vector<Material>();
 }

@@ -34,6 +34,10 @@ std::vector<Material> CardsOfText(std::string text, const std::string& path, Fin
 std::vector<Material> ReadGivenMaterials(const std::string& path, const CommonOptions& options,
                                          Findings& findings, const CardReading& how = {});
 
+/// The same of a file that OpenGiven opened.
+std::vector<Material> MaterialsIn(GivenFile given, const std::string& path, Findings& findings,
+                                  const CardReading& how = {});
+
 /// `CARD|DOC [MATERIAL]` on the command line of a command that works with one material, or with all.
 class GivenMaterials {
 public:

@@ -75,7 +75,7 @@ std::vector<KeptPart> KeptParts(const Material& material) {
             AddKept("", block.kept, parts.back().lines);
         }
     }
-    parts.push_back({"Unknown, kept as it is and used by nothing", {}});
+    parts.push_back({"Kept as it is, used by no behavior", {}});
     for (const auto* blocks : {&material.blocks, &material.fits}) {
         for (const Block& block : *blocks) AddKept(block.kind->name + ".", block.kept, parts.back().lines);
     }

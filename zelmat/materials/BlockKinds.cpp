@@ -55,26 +55,38 @@ Form PlasticForm(const Values& values) {
 }
 
 BlockKind Plastic() {
-    return {.name = "plastic",
-            .title = "Plastic",
-            .settings = {StoredSetting("hardening", "ZELPlasticLT", "PlasticHardeningType",
-                                       {.required = true, .choices = PlasticAccess::HardeningWords()}),
-                         {.name = "stress",
-                          .title = "stress given as",
-                          .stored = false,
-                          .choices = {"true", "engineering"}},
-                         {.name = "strain",
-                          .title = "strain given as",
-                          .stored = false,
-                          .choices = {"plastic", "total"}}},
-            .tables = {{.form = PlasticForm,
-                        .rules = {{.code = "first-plastic-strain",
-                                   .column = "plastic_strain",
-                                   .everyRow = false,
-                                   .broken = [](double strain) { return strain != 0.0; },
-                                   .bound = "has to be 0"}}}},
-            .write = &PlasticAccess::Write,
-            .read = &PlasticAccess::Read};
+    return {
+        .name = "plastic",
+        .title = "Plastic",
+        .settings =
+            {StoredSetting("hardening", "ZELPlasticLT", "PlasticHardeningType",
+                           {.required = true, .choices = PlasticAccess::HardeningWords()}),
+             {.name = "stress",
+              .title = "stress given as",
+              .stored = false,
+              .choices = {"true", "engineering"}},
+             {.name = "strain", .title = "strain given as", .stored = false, .choices = {"plastic", "total"}},
+             // Of Johnson and Cook's law; the store has no place for its factor of the strain rate.
+             {.name = "C",
+              .title = "strain-rate coefficient C",
+              .kind = SettingKind::UNREAD,
+              .stored = false},
+             {.name = "strain_rate_coefficient",
+              .title = "strain-rate coefficient C",
+              .kind = SettingKind::UNREAD,
+              .stored = false},
+             {.name = "reference_strain_rate",
+              .title = "reference strain rate",
+              .kind = SettingKind::UNREAD,
+              .stored = false}},
+        .tables = {{.form = PlasticForm,
+                    .rules = {{.code = "first-plastic-strain",
+                               .column = "plastic_strain",
+                               .everyRow = false,
+                               .broken = [](double strain) { return strain != 0.0; },
+                               .bound = "has to be 0"}}}},
+        .write = &PlasticAccess::Write,
+        .read = &PlasticAccess::Read};
 }
 
 BlockKind Density() {

@@ -92,13 +92,13 @@ TEST(CardBlockReader, ChecksTheSettingsOfAGasket) {
             "card.json:3: error[not-a-number]: gasket.yield_onset.relative_value is not a number (got "
             "\"0.1\", expected a number without quotes)",
             "card.json:4: warning[unknown-key]: gasket.yield_onset has no key \"values\" (known: "
-            "method, relative_value, closure_value, it is kept, and nothing uses it)",
+            "method, relative_value, closure_value, it is kept, and no behavior uses it)",
             "card.json:5: error[wrong-type]: gasket.unloading is not true or false (got 1)",
             "card.json:7: error[wrong-type]: gasket.behavior_type is not a whole number (got true)",
             "card.json:8: warning[unknown-key]: gasket has no key \"thickness\" (known: loading, "
             "unloading_elastic_plastic, unloading_damage, behavior_type, yield_onset, "
             "tensile_stiffness_factor, unloading, initial_thickness, illustrative, anchors, it is kept, and "
-            "nothing uses it)"));
+            "no behavior uses it)"));
     EXPECT_THAT(FindingsOfGasket(R"("yield_onset": "relative")"),
                 ElementsAre("card.json:2: error[wrong-type]: gasket.yield_onset is not an object in braces "
                             "(got \"relative\")"));

@@ -40,7 +40,7 @@ TEST(CardTableReader, NamesAKeyThatNothingReads) {
 "reference_temprature": 293})"),
         ElementsAre(
             "card.json:3: warning[unknown-key]: density has no key \"reference_temprature\" "
-            "(known: temperature_dependent, columns, rows, source, it is kept, and nothing uses it)"));
+            "(known: temperature_dependent, columns, rows, source, it is kept, and no behavior uses it)"));
 }
 
 TEST(CardTableReader, ChecksTheTypesOfTheBlocksKeys) {
@@ -194,7 +194,7 @@ TEST(CardTableReader, NamesATableInsideABlockByBoth) {
         ElementsAre("card.json:4: error[ragged-row]: row 2 of gasket.loading has 2 values (expected "
                     "3: pressure, closure, temperature)",
                     "card.json:5: warning[unknown-key]: gasket.loading has no key \"colour\" (known: "
-                    "temperature_dependent, columns, rows, source, it is kept, and nothing uses it)"));
+                    "temperature_dependent, columns, rows, source, it is kept, and no behavior uses it)"));
 }
 
 }  // namespace

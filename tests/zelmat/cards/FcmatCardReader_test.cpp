@@ -67,7 +67,7 @@ TEST(FcmatCardReader, FindsNumbersWithoutAUnitAndInAWrongOne) {
             "General:\n  Name: x\nModels:\n  A:\n    Density: \"7800\"\n    YoungsModulus: \"1 MPa\"\n"),
         ElementsAre(StartsWith("card.json:5: warning[no-unit]: Density: '7800' has no unit (expected kg/m3"),
                     "card.json:6: warning[incomplete]: YoungsModulus alone makes no elastic (kept, and "
-                    "nothing uses it)"));
+                    "no behavior uses it)"));
     EXPECT_THAT(
         FindingsOf("[General]\nName = x\n[Thermal]\nSpecificHeat = 470 W/m/K\n"),
         ElementsAre(StartsWith("card.json:4: error[wrong-unit]: SpecificHeat: specific heat: the unit "

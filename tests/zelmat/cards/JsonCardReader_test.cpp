@@ -194,7 +194,7 @@ TEST(JsonCardReader, NamesAnUnknownBlock) {
         FindingsOf("{\"name\": \"x\",\n\"elastc\": {}}"),
         ElementsAre("card.json:2: warning[unknown-block]: there is no block \"elastc\" (known: " +
                     BehaviorBlocksBut({}) +
-                    ", test_data, strength, other_properties, fcmat, it is kept, and nothing uses it)"));
+                    ", test_data, strength, other_properties, fcmat, it is kept, and no behavior uses it)"));
 }
 
 TEST(JsonCardReader, TellsAllMistakesInTheOrderOfTheLines) {

@@ -215,4 +215,36 @@ TEST(AtCommand, PrintsValuesAsCsv) {
               "# values\nname,value,unit\nmaterial,OFHC copper,\nblock,density,\ndensity,8960,kg/m3\n");
 }
 
+TEST(AtCommand, TellsHowFarAHardeningTableGoes) {
+    const std::string card = Sample("steel_s355.json");
+    const ResultJson inside({"at", card, "plastic", "--plastic-strain", "0.1", "--temperature", "20degC"});
+    EXPECT_EQ(inside.Number("plastic_strain_to"), 0.14831);
+    EXPECT_THAT(
+        Refusal({card, "plastic", "--plastic-strain", "0.5", "--temperature", "20degC", "--outside", "error"},
+                1),
+        HasSubstr("the plastic strain lies beyond the last point of the curve (the table goes from 20 "
+                  "degC to 1100 degC, plastic strains up to 0.14831)"));
+    const ResultJson bilinear({"at", Sample("steel_s235_kinematic.json"), "plastic", "--plastic-strain",
+                               "0.01", "--temperature", "20degC"});
+    EXPECT_THAT(bilinear["notes"], Contains("does not depend on temperature"));
+}
+
+TEST(AtCommand, HasNoSecantStiffnessWithoutClosure) {
+    const ResultJson open({"at", Sample("gasket_fibre_illustrative.json"), "gasket", "--closure", "0mm"});
+    EXPECT_TRUE(open.Cell("branches", 0, "secant_stiffness").is_null());
+    EXPECT_NEAR(open.Number("branches", 0, "tangent_stiffness"), 5e10, 1e-3);
+}
+
+// 10e-6 at 0 degC, 20e-6 at 100 and 200 degC: what the card says is what is answered.
+TEST(AtCommand, KeepsTheInstantaneousCoefficientsOfACard) {
+    const std::string card = FileOf("instantaneous.json", R"({"name": "M", "thermal_expansion": {
+        "temperature_dependent": true, "columns": ["thermal_expansion", "temperature [degC]"],
+        "rows": [[10e-6, 0], [20e-6, 100], [20e-6, 200]], "reference_temperature": "0 degC",
+        "kind": "instantaneous"}})");
+    const ResultJson result({"at", card, "thermal_expansion", "--temperature", "150degC", "--instantaneous"});
+    EXPECT_NEAR(result.Number("instantaneous_expansion"), 20e-6, 1e-18);
+    EXPECT_NEAR(result.Number("thermal_strain"), 2.5e-3, 1e-15);
+    EXPECT_NEAR(result.Number("mean_expansion"), 2.5e-3 / 150, 1e-17);
+}
+
 }  // namespace

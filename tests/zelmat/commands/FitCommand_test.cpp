@@ -278,7 +278,50 @@ TEST(FitCommand, ExplainsWhatItNeeds) {
                 HasSubstr("has no tests in these modes"));
     EXPECT_EQ(Fit({Rubber(), "--model", "YEOH", "--mode", "biaxial"}).exitCode, 2);
     EXPECT_EQ(Fit({"missing.csv", "--model", "YEOH"}).exitCode, 3);
-    EXPECT_EQ(Fit({Rubber(), "Vulc", "more", "--model", "YEOH"}).exitCode, 2);
+    EXPECT_EQ(Fit({Rubber(), "Vulc", "more", "--model", "YEOH"}).exitCode, 3);  // no such file of points
+}
+
+TEST(FitCommand, ReadsMeasuredPointsFromStandardInput) {
+    const std::string csv = FileOf("piped.csv", "Stretch [-],NominalStress [MPa]\n2,1.75\n");
+    const ProgramRun run =
+        RunZelmatWith({"fit", "-", "--model", "NEO_HOOKE", "--mode", "uniaxial"}, "< '" + csv + "'");
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(run.out, HasSubstr("tests of: standard input"));
+    EXPECT_THAT(run.out, HasSubstr("initial shear modulus mu0: 1 MPa"));
+
+    const ProgramRun behind =
+        RunZelmatWith({"fit", csv, "-", "--model", "NEO_HOOKE", "--mode", "uniaxial"}, "< '" + csv + "'");
+    EXPECT_THAT(behind.out, HasSubstr("tests of: " + csv + ", standard input"));
+    const ProgramRun twice = RunZelmatWith({"fit", "-", "-", "--model", "NEO_HOOKE"}, "< '" + csv + "'");
+    EXPECT_EQ(twice.exitCode, 2);
+    EXPECT_THAT(twice.err, HasSubstr("error[given-twice]: standard input can be read only once"));
+    const ProgramRun card =
+        RunZelmatWith({"fit", "-", "--model", "YEOH"}, "< '" + Sample("natural_rubber_treloar.json") + "'");
+    EXPECT_THAT(card.out, HasSubstr("tests of: Vulcanised natural rubber"));
+}
+
+TEST(FitCommand, FitsFilesOfPointsBehindAMaterialInThePlaceOfItsOwn) {
+    const std::string csv = FileOf("own.csv", "Stretch [-],NominalStress [MPa]\n2,1.75\n");
+    const ResultJson fit({"fit", Sample("natural_rubber_treloar.json"), "Vulc", csv, "--model", "NEO_HOOKE",
+                          "--mode", "uniaxial"});
+    EXPECT_EQ(fit["tests_of"], csv);
+    EXPECT_NEAR(fit.Number("initial_shear_modulus"), 1e6, 1e-6);
+}
+
+TEST(FitCommand, TellsAShearTestByItsColumn) {
+    const std::string csv = FileOf("shear.csv", "AmountOfShear [-],ShearStress [MPa]\n0.5,0.4\n1,0.8\n");
+    const ResultJson fit({"fit", csv, "--model", "NEO_HOOKE"});
+    EXPECT_NEAR(fit.Number("initial_shear_modulus"), 0.8e6, 1e-6);
+    EXPECT_EQ(fit.Cell("deviation", 0, "mode"), "shear");
+    EXPECT_THAT(fit.Findings(), testing::IsEmpty());
+}
+
+TEST(FitCommand, SaysTheTemperaturesOfCurvesInTheUnitsThatAreShown) {
+    const std::string csv = FileOf("two.csv",
+                                   "YieldStress [MPa],PlasticStrain [-],Temperature [degC]\n"
+                                   "300,0,20\n200,0,500\n");
+    EXPECT_THAT(RunZelmat({"fit", csv, "--model", "voce"}).err,
+                HasSubstr("--temperature: 20 degC, 500 degC"));
 }
 
 }  // namespace

@@ -363,7 +363,7 @@ TEST(ShowCommand, ShowsWhatNoBehaviorUsesAsItWasWritten) {
                                   "  ply.notes: [\"a\",{\"b\":1}]\n"
                                   "  ply.nu12: 0.28\n"
                                   "\n"
-                                  "Unknown, kept as it is and used by nothing\n"
+                                  "Kept as it is, used by no behavior\n"
                                   "  density.batch: 7\n"
                                   "  colour: black\n"));
     const nlohmann::json told =

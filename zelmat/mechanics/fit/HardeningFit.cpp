@@ -141,6 +141,12 @@ FitDeviation Deviation(HardeningLaw law, const std::vector<double>& coefficients
 
 }  // namespace
 
+std::vector<double> HardeningFit::Values() const {
+    std::vector<double> values;
+    for (const FittedCoefficient& coefficient : coefficients) values.push_back(coefficient.value);
+    return values;
+}
+
 Outcome<HardeningFit> FitHardening(HardeningLaw law, const std::vector<StressStrain>& points,
                                    DeviationMeasure measure) {
     const auto counting = Counting(points, measure);
@@ -159,10 +165,17 @@ Outcome<HardeningFit> FitHardening(HardeningLaw law, const std::vector<StressStr
     const auto uncertainty = UncertaintyOf(*best, identity);
     HardeningFit fit{};
     fit.law = law;
+    if (counting->size() < points.size()) {
+        fit.notes.push_back("points of zero stress that do not count: " +
+                            std::to_string(points.size() - counting->size()));
+    }
+    if (!std::is_sorted(points.begin(), points.end(),
+                        [](const StressStrain& a, const StressStrain& b) { return a.strain < b.strain; })) {
+        fit.warnings.push_back("the plastic strains do not rise from point to point: taken as they stand");
+    }
     std::vector<double> coefficients;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const bool isStress = names[i] != "n" && !names[i].starts_with("e_");
-        const double unit = isStress ? curve.unit : 1.0;
+        const double unit = IsStressOfLaw(names[i]) ? curve.unit : 1.0;
         auto deviation = uncertainty.standardDeviations[i];
         if (deviation) *deviation *= unit;
         coefficients.push_back(best->parameters[i] * unit);

@@ -18,7 +18,10 @@ struct HardeningFit {
     std::vector<FittedCoefficient> coefficients;  ///< as CoefficientNames; stresses in the unit of the points
     FitDeviation deviation;                       ///< of the points that count
     std::vector<Correlation> correlations;
+    std::vector<std::string> notes;     ///< which points do not count
     std::vector<std::string> warnings;  ///< why not to trust it
+
+    std::vector<double> Values() const;
 };
 
 /// Least squares over the points (plastic strain, true stress) of one curve at one temperature. Bounds:

@@ -43,7 +43,7 @@ double NominalStressOf(LoadingMode mode, double stretch, double trueStress) {
 
 Outcome<FitData> TakeTestData(const std::vector<TestCurve>& curves, DeviationMeasure measure) {
     FitData data;
-    std::size_t outside = 0, unstressed = 0, wrongSide = 0;
+    std::size_t outside = 0, unstressed = 0, wrongSide = 0, atRest = 0;
     for (const TestCurve& curve : curves) {
         if (const auto fault = Fault(curve)) return *fault;
         if (!Rises(curve.points)) {
@@ -58,6 +58,7 @@ Outcome<FitData> TakeTestData(const std::vector<TestCurve>& curves, DeviationMea
                 ++unstressed;
             } else {
                 if (fromRest * stress < 0.0) ++wrongSide;
+                if (fromRest == 0.0 && stress != 0.0) ++atRest;
                 data.points.push_back({curve.mode, stretch, stress, curve.weight});
             }
         }
@@ -65,6 +66,8 @@ Outcome<FitData> TakeTestData(const std::vector<TestCurve>& curves, DeviationMea
     if (outside > 0) data.notes.push_back(Count(outside, "outside the given range left out"));
     if (unstressed > 0) data.notes.push_back(Count(unstressed, "of zero stress left out"));
     if (wrongSide > 0) data.warnings.push_back(Count(wrongSide, "with a stress against the strain"));
+    if (atRest > 0)
+        data.warnings.push_back(Count(atRest, "with a stress and no strain: no potential meets that"));
     if (data.points.empty()) return Refusal{"there is no test point to fit to"};
     return data;
 }

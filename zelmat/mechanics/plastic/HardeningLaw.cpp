@@ -68,6 +68,10 @@ std::vector<std::string> CoefficientNames(HardeningLaw law) {
     return {};
 }
 
+bool IsStressOfLaw(std::string_view name) {
+    return name != "n" && !name.starts_with("e_");
+}
+
 std::string FormulaOf(HardeningLaw law) {
     switch (law) {
         case HardeningLaw::LUDWIK:

@@ -23,6 +23,9 @@ std::optional<HardeningLaw> HardeningLawOf(std::string_view keyword);
 /// In the order of the formulas: sigma_0, K, n | K, e_0, n | sigma_0, sigma_s, e_c | A, B, n.
 std::vector<std::string> CoefficientNames(HardeningLaw law);
 
+/// Whether a coefficient of this name is a stress; the others have no unit.
+bool IsStressOfLaw(std::string_view name);
+
 /// "sigma_0 + K e^n", e the plastic strain.
 std::string FormulaOf(HardeningLaw law);
 

@@ -28,6 +28,20 @@ Outcome<HardeningTable> HardeningTable::Over(std::vector<HardeningPoint> rows) {
     return HardeningTable(std::move(rows), std::move(curves));
 }
 
+HardeningTable::Between HardeningTable::CurvesAt(double temperature) const {
+    const auto upper =
+        std::lower_bound(curves_.begin(), curves_.end(), temperature,
+                         [this](const Curve& curve, double t) { return TemperatureOf(curve) < t; });
+    if (upper == curves_.end()) return {curves_.back(), curves_.back()};
+    const bool between = upper != curves_.begin() && TemperatureOf(*upper) != temperature;
+    return {between ? *(upper - 1) : *upper, *upper};
+}
+
+double HardeningTable::GreatestPlasticStrain(double temperature) const {
+    const auto [below, above] = CurvesAt(temperature);
+    return std::min(rows_[below.end - 1].plasticStrain, rows_[above.end - 1].plasticStrain);
+}
+
 double HardeningTable::StressOn(const Curve& curve, double plasticStrain) const {
     const auto begin = rows_.begin() + static_cast<std::ptrdiff_t>(curve.begin);
     const auto end = rows_.begin() + static_cast<std::ptrdiff_t>(curve.end);
@@ -47,18 +61,12 @@ Outcome<HardeningValue> HardeningTable::At(double plasticStrain, double temperat
         return Refusal{"a plastic strain has to be a finite number from 0 on"};
     }
     if (!std::isfinite(temperature)) return Refusal{"a temperature has to be a finite number"};
-    const auto upper =
-        std::lower_bound(curves_.begin(), curves_.end(), temperature,
-                         [this](const Curve& curve, double t) { return TemperatureOf(curve) < t; });
-    const Curve above = upper == curves_.end() ? curves_.back() : *upper;
-    const bool between =
-        upper != curves_.end() && upper != curves_.begin() && TemperatureOf(above) != temperature;
-    const Curve below = between ? *(upper - 1) : above;
+    const auto [below, above] = CurvesAt(temperature);
+    const bool between = TemperatureOf(below) != TemperatureOf(above);
 
     HardeningValue value{
         .stress = StressOn(above, plasticStrain),
-        .outsideStrain = plasticStrain > rows_[above.end - 1].plasticStrain ||
-                         plasticStrain > rows_[below.end - 1].plasticStrain,
+        .outsideStrain = plasticStrain > GreatestPlasticStrain(temperature),
         .outsideTemperature = temperature < Temperatures().lowest || temperature > Temperatures().highest,
         .notes = {}};
     if (between) {

@@ -36,6 +36,8 @@ public:
     Outcome<HardeningValue> At(double plasticStrain, double temperature) const;
 
     const std::vector<HardeningPoint>& Rows() const { return rows_; }
+    /// How far the curves that are read at a temperature go, all of them.
+    double GreatestPlasticStrain(double temperature) const;
     TemperatureRange Temperatures() const { return {rows_.front().temperature, rows_.back().temperature}; }
 
 private:
@@ -46,6 +48,12 @@ private:
 
     HardeningTable(std::vector<HardeningPoint> rows, std::vector<Curve> curves)
         : rows_(std::move(rows)), curves_(std::move(curves)) {}
+
+    /// The curves on both sides of a temperature; twice the same one on a curve and outside.
+    struct Between {
+        Curve below, above;
+    };
+    Between CurvesAt(double temperature) const;
 
     double TemperatureOf(const Curve& curve) const { return rows_[curve.begin].temperature; }
     double StressOn(const Curve& curve, double plasticStrain) const;
