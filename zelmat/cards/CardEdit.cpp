@@ -92,6 +92,9 @@ bool CardEdit::Set(const std::string& change, Findings& findings) {
     }
     const std::string key = change.substr(0, equals);
     const std::string value = change.substr(equals + 1);
+    if (!keys_.insert(key).second) {
+        return Refuse(findings, "given-twice", Quoted(key) + " is given twice");
+    }
     const auto dot = key.find('.');
     if (const BlockKind* kind = FindBlockKind(key.substr(0, dot)); kind && !kind->IsUnread()) {
         const Json before = card_;
@@ -136,6 +139,9 @@ bool CardEdit::SetInBlock(const BlockKind& kind, const std::string& member, cons
     }
     for (const TableKind& table : kind.tables) {
         const auto columns = ColumnsOf(kind, table);
+        if (member == (table.name.empty() ? "source" : table.name + ".source")) {
+            return SetSource(kind, table, value, findings);
+        }
         if (table.name == member && value.ends_with(".csv")) return SetTable(kind, table, value, findings);
         if (member.empty() && IsOneNumber(table, columns)) {
             return SetNumber(kind, table, columns.front().name, value, findings);
@@ -212,6 +218,20 @@ bool CardEdit::SetNumber(const BlockKind& kind, const TableKind& table, const st
         *at = header;
         json["rows"][0][static_cast<std::size_t>(at - headers.begin())] = given->number;
     }
+    given_.try_emplace({&kind, &table}, false);
+    return true;
+}
+
+bool CardEdit::SetSource(const BlockKind& kind, const TableKind& table, const std::string& value,
+                         Findings& findings) {
+    if (!Find(kind, table)) {
+        return Refuse(findings, "no-table",
+                      kind.TableName(table) + " has no numbers that a source could tell of");
+    }
+    Json& json = TableIn(Make(kind), table);
+    json.erase("source");
+    if (!value.empty()) json["source"] = value;
+    given_[{&kind, &table}] = true;
     return true;
 }
 
@@ -245,6 +265,7 @@ bool CardEdit::SetTable(const BlockKind& kind, const TableKind& table, const std
         json.erase(key);
         if (given->contains(key)) json[key] = given->at(key);
     }
+    given_.try_emplace({&kind, &table}, false);
     return true;
 }
 
@@ -262,6 +283,13 @@ const Json* CardEdit::Find(const BlockKind& kind) const {
     const auto found = card_.find(kind.name);
     if (found == card_.end()) return nullptr;
     return kind.alternatives ? &found->front() : &*found;
+}
+
+const Json* CardEdit::Find(const BlockKind& kind, const TableKind& table) const {
+    const Json* block = Find(kind);
+    if (!block || table.name.empty()) return block;
+    const auto found = block->find(table.name);
+    return found == block->end() || !found->is_object() ? nullptr : &*found;
 }
 
 Json& CardEdit::Make(const BlockKind& kind) {
@@ -285,10 +313,8 @@ std::vector<ColumnKind> CardEdit::ColumnsOf(const BlockKind& kind, const TableKi
             if (found->is_string()) values.Set(setting.name, found->get<std::string>());
             if (found->is_number_integer()) values.Set(setting.name, found->get<int>());
         }
-        const Json* own = table.name.empty()            ? block
-                          : block->contains(table.name) ? &block->at(table.name)
-                                                        : nullptr;
-        temperature = own && own->is_object() && own->value("temperature_dependent", false);
+        const Json* own = Find(kind, table);
+        temperature = own && own->value("temperature_dependent", false);
     }
     const auto form = table.form(values);
     return form && !table.list ? form->ColumnsOf(temperature || withTemperature) : std::vector<ColumnKind>();
@@ -301,6 +327,7 @@ std::vector<std::string> CardEdit::KeysOf(const BlockKind& kind) const {
         for (const ColumnKind& column : ColumnsOf(kind, table)) {
             keys.push_back(table.name.empty() ? column.name : table.name + "." + column.name);
         }
+        keys.push_back(table.name.empty() ? "source" : table.name + ".source");
     }
     for (const Setting& setting : kind.settings) keys.push_back(setting.name);
     if (kind.write) keys.emplace_back("enabled");
@@ -311,6 +338,18 @@ bool CardEdit::Refuse(Findings& findings, const char* code, std::string text,
                       std::vector<std::string> details) const {
     findings.Add({FindingKind::USAGE, {place_, 0}, code, std::move(text), std::move(details)});
     return false;
+}
+
+std::vector<std::string> CardEdit::TablesOfOldSource() const {
+    std::vector<std::string> names;
+    for (const BlockKind& kind : BlockKinds()) {
+        for (const TableKind& table : kind.tables) {
+            const auto given = given_.find({&kind, &table});
+            const Json* json = given == given_.end() || given->second ? nullptr : Find(kind, table);
+            if (json && json->contains("source")) names.push_back(kind.TableName(table));
+        }
+    }
+    return names;
 }
 
 std::optional<Material> CardEdit::Read(Findings& findings) const {

@@ -12,10 +12,10 @@ namespace {
 constexpr const char* kHead =
     "# Checks\n"
     "\n"
-    "`zelmat check CARD...` holds material cards and layup cards against the rules below. `zelmat show`,\n"
-    "`zelmat summary` and `zelmat convert` do the same before they write anything; errors stop the write\n"
-    "unless `--keep-going` is given. Errors are what cannot be, warnings what is hardly meant. With errors\n"
-    "the exit code is 1, with warnings alone 0, or 1 under `--strict`.\n"
+    "`zelmat check CARD|DOC...` holds material cards, layup cards and what documents hold against the rules\n"
+    "below. `zelmat show`, `zelmat summary` and `zelmat convert` do the same before they write anything;\n"
+    "errors stop the write unless `--keep-going` is given. Errors are what cannot be, warnings what is\n"
+    "hardly meant. With errors the exit code is 1, with warnings alone 0, or 1 under `--strict`.\n"
     "\n"
     "This page is what `zelmat check --rules` prints, made from the tables that the program checks by.\n";
 

@@ -7,6 +7,7 @@
 #include "zelmat/commands/ChangeReport.h"
 #include "zelmat/commands/Command.h"
 #include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/Progress.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/materials/NewMaterial.h"
 #include "zelmat/text/CountText.h"
@@ -44,7 +45,12 @@ public:
     void Work(CommandContext& context) override {
         Findings& findings = context.findings;
         Findings own;
-        for (const std::string& path : paths_) Read(path, context.options, own);
+        Progress progress(context.notes);
+        std::size_t read = 0;
+        for (const std::string& path : paths_) {
+            Read(path, context.options, own);
+            progress.Tell("read", ++read, paths_.size(), "cards");
+        }
         findings.Add(own);
         const bool goesOn = gate_.KeepsGoing() && !cards_.empty();
         if (own.HasErrors() && !goesOn) return;
@@ -52,7 +58,7 @@ public:
         const auto document = DocumentToChange::Open(document_, context.options.catalogs, findings);
         if (!document) return;
         KORStep step(document->Document(), StepName());
-        if (!AddAll(*document, findings)) {
+        if (!AddAll(*document, progress, findings)) {
             added_.clear();
             return;
         }
@@ -99,10 +105,11 @@ private:
     }
 
     /// Adds those that can be; false when one cannot, unless it is to go on.
-    bool AddAll(DocumentToChange& document, Findings& findings) {
+    bool AddAll(DocumentToChange& document, Progress& progress, Findings& findings) {
         std::set<std::string> taken;
         for (const DocumentMaterial& material : MaterialsOf(document.Document())) taken.insert(material.name);
         bool good = true;
+        std::size_t tried = 0;
         for (const PassedCard& passed : cards_) {
             if (!taken.insert(passed.card.name).second) {
                 findings.Add(
@@ -115,6 +122,7 @@ private:
             } else if (!AddOne(document.Document(), passed, findings)) {
                 good = false;
             }
+            progress.Tell("added", ++tried, cards_.size(), "materials");
         }
         return good || (gate_.KeepsGoing() && !added_.empty());
     }

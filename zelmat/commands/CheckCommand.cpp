@@ -6,18 +6,21 @@
 #include "zelmat/checks/RulesPage.h"
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenLayups.h"
+#include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"
+#include "zelmat/text/QuotedText.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
 
 namespace {
 
-/// What one card came to.
+/// What one card, or one material or layup of a document, came to.
 struct CheckedCard {
     std::string file;
     std::string name;  ///< of the material or layup; empty when the card could not be read
@@ -33,12 +36,22 @@ std::string Verdict(const CheckedCard& card) {
     return text;
 }
 
-/// Reads cards and holds them against every rule. Writes nothing anywhere.
+/// The findings about one of the materials or layups of a document, where no line tells which one.
+Findings Named(const Findings& findings, const std::string& name) {
+    Findings named;
+    for (Finding finding : findings.All()) {
+        finding.text = QuotedText(name) + ": " + finding.text;
+        named.Add(std::move(finding));
+    }
+    return named;
+}
+
+/// Reads cards and documents and holds them against every rule. Writes nothing anywhere.
 class Check final : public Command {
 public:
     void Declare(CLI::App& line) override {
         auto* rules = line.add_flag("--rules", rules_, "Print every rule instead, as Markdown");
-        line.add_option("CARD", paths_, "Material cards or layup cards; - is standard input")
+        line.add_option("CARD", paths_, "Material cards, layup cards or documents; - is standard input")
             ->excludes(rules);
         DeclareCardReading(line, how_);
     }
@@ -53,13 +66,14 @@ public:
         }
         for (const std::string& path : paths_) {
             Findings own;
-            CheckedCard card{.file = path, .name = NameOfChecked(path, own)};
-            for (const Finding& finding : own.All()) {
-                if (finding.kind == FindingKind::NOTE) continue;
-                ++(finding.kind == FindingKind::WARNING ? card.warnings : card.errors);
+            const GivenFile given = OpenGiven(path, context.options, own);
+            if (given.document) {
+                context.findings.Add(own);
+                CheckDocument(path, *given.document, context.findings);
+            } else {
+                std::string name = given.text ? NameOfChecked(*given.text, path, own) : std::string();
+                Add(path, std::move(name), own, context.findings);
             }
-            cards_.push_back(std::move(card));
-            context.findings.Add(own);
         }
     }
 
@@ -84,17 +98,41 @@ public:
     }
 
 private:
-    /// Reads the card, whichever it is, and checks it: a material or layup, or several materials.
-    std::string NameOfChecked(const std::string& path, Findings& findings) const {
-        const auto text = ReadText(path, findings);
-        if (!text) return {};
+    void Add(const std::string& path, std::string name, const Findings& own, Findings& findings) {
+        CheckedCard card{.file = path, .name = std::move(name)};
+        for (const Finding& finding : own.All()) {
+            if (finding.kind == FindingKind::NOTE) continue;
+            ++(finding.kind == FindingKind::WARNING ? card.warnings : card.errors);
+        }
+        cards_.push_back(std::move(card));
+        findings.Add(own);
+    }
+
+    void CheckDocument(const std::string& path, DocumentToRead& document, Findings& findings) {
+        for (const DocumentMaterial& material : MaterialsOf(document.Document())) {
+            Findings own;
+            const Material read = ReadDocumentMaterial(material, document.Name(), own);
+            own.Add(CheckMaterial(read));
+            Add(path, material.name, Named(own, material.name), findings);
+        }
+        for (const DocumentLayup& layup : LayupsOf(document.Document())) {
+            Findings own;
+            if (const auto card = LayupCardOf(document, layup, own)) own.Add(CheckLayup(*card));
+            own = Named(own, layup.name);
+            ReportRemovedMaterials(layup, document.Name(), own);
+            Add(path, layup.name, own, findings);
+        }
+    }
+
+    /// Reads a card, whichever it is, and checks it: a material or layup, or several materials.
+    std::string NameOfChecked(const std::string& text, const std::string& path, Findings& findings) const {
         const std::string file = ShownPath(path);
-        const auto materials = ReadCardText(*text, file, findings, how_);
+        const auto materials = ReadCardText(text, file, findings, how_);
         // A layup card reads as a material card of unknown blocks.
         const bool doubtful = materials.empty() || !materials.front().kept.empty();
-        if (doubtful && FormOfText(*text) == FileForm::LAYUP_CARD) {
+        if (doubtful && FormOfText(text) == FileForm::LAYUP_CARD) {
             findings.RemoveAbout(file);
-            const auto layup = LayupCardReader(findings).ReadText(*text, file);
+            const auto layup = LayupCardReader(findings).ReadText(text, file);
             if (layup) findings.Add(CheckLayup(*layup));
             return layup ? layup->name : "";
         }
@@ -112,13 +150,15 @@ private:
 }  // namespace
 
 CommandKind CheckCommand() {
-    return {.name = "check",
-            .brief = "hold cards against the rules of physics and of plausibility",
-            .text =
-                "Hold material cards and layup cards against every rule that there is, and print a line for\n"
-                "each card. Errors are what cannot be, warnings what is hardly meant. Nothing is written.\n"
-                "--rules prints the rules, each with its bound and where that comes from.",
-            .make = &MakeCommand<Check>};
+    return {
+        .name = "check",
+        .brief = "hold cards and documents against the rules of physics and of plausibility",
+        .text =
+            "Hold material cards, layup cards and documents against every rule that there is, and print\n"
+            "a line for each card, and for each material and layup of a document. Errors are what cannot\n"
+            "be, warnings what is hardly meant. Nothing is written.\n"
+            "--rules prints the rules, each with its bound and where that comes from.",
+        .make = &MakeCommand<Check>};
 }
 
 }  // namespace zelmat

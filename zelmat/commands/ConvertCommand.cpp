@@ -6,6 +6,7 @@
 #include "zelmat/cards/WriteCard.h"
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/files/ReadText.h"
@@ -19,7 +20,8 @@ namespace {
 class Convert final : public Command {
 public:
     void Declare(CLI::App& line) override {
-        line.add_option("CARD", paths_, "Material cards of any form; - is standard input")->required();
+        line.add_option("CARD", paths_, "Material cards of any form, or documents; - is standard input")
+            ->required();
         line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(CardFormNames()));
         DeclareCardReading(line, how_);
         gate_.Declare(line);
@@ -29,13 +31,13 @@ public:
         const CardForm& form = *FindCardForm(form_);
         const std::string& output = context.options.output;
         if (!output.empty() && output != "-" && std::filesystem::is_directory(output)) {
-            for (const std::string& path : paths_) ConvertIntoFolder(form, path, output, context.findings);
+            for (const std::string& path : paths_) ConvertIntoFolder(form, path, output, context);
             return;
         }
         std::vector<Material> all;
         bool good = true;
         for (const std::string& path : paths_) {
-            auto cards = ReadGoodCards(path, context.findings);
+            auto cards = ReadGoodCards(path, context);
             good = good && cards.has_value();
             if (cards)
                 all.insert(all.end(), std::move_iterator(cards->begin()), std::move_iterator(cards->end()));
@@ -66,19 +68,20 @@ private:
     }
 
     /// Nothing when one of the card's materials has a mistake, or an error that the user does not overrule.
-    std::optional<std::vector<Material>> ReadGoodCards(const std::string& path, Findings& findings) const {
+    std::optional<std::vector<Material>> ReadGoodCards(const std::string& path,
+                                                       CommandContext& context) const {
         Findings own;
-        auto cards = ReadGivenCards(path, own, how_);
+        auto cards = ReadGivenMaterials(path, context.options, own, how_);
         bool good = !own.HasErrors();
         for (const Material& card : cards) good = gate_.Passes(card, own) && good;
-        findings.Add(own);
+        context.findings.Add(own);
         return good ? std::optional(std::move(cards)) : std::nullopt;
     }
 
     void ConvertIntoFolder(const CardForm& form, const std::string& path, const std::string& folder,
-                           Findings& findings) {
-        if (const auto cards = ReadGoodCards(path, findings)) {
-            WriteIntoFolder(form, *cards, path, folder, findings);
+                           CommandContext& context) {
+        if (const auto cards = ReadGoodCards(path, context)) {
+            WriteIntoFolder(form, *cards, path, folder, context.findings);
         }
     }
 
@@ -132,9 +135,10 @@ CommandKind ConvertCommand() {
         .name = "convert",
         .brief = "bring material cards into another form",
         .text =
-            "Bring material cards into another form: JSON, CSV or FCMat. The form of a card is told by its\n"
-            "content. Numbers and units are carried as they were written; what the new form cannot hold is\n"
-            "listed. A card on which the checks find errors is not written without --keep-going.\n"
+            "Bring material cards, or the materials of documents, into another form: JSON, CSV or FCMat.\n"
+            "The form of a card is told by its content. Numbers and units are carried as they were\n"
+            "written; what the new form cannot hold is listed. A card on which the checks find errors is\n"
+            "not written without --keep-going.\n"
             "Without --output the text goes to standard output.",
         .output = "File for the converted cards, or a folder for a file each",
         .make = &MakeCommand<Convert>};

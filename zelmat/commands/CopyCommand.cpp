@@ -3,6 +3,7 @@
 #include "platform/disk/KORDiskCopy.h"
 #include "zelmat/commands/ChangeReport.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/documents/DocumentForm.h"
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/documents/MaterialUses.h"
 #include "zelmat/documents/WholeMaterial.h"
@@ -13,10 +14,6 @@
 namespace zelmat {
 
 namespace {
-
-bool IsDocumentName(const std::string& word) {
-    return word.ends_with(".zeldoc");
-}
 
 /// Copies a material within its document or into another one; or a whole document.
 class Copy final : public Command {

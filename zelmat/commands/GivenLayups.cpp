@@ -8,6 +8,7 @@
 #include "zelmat/commands/MaterialChoice.h"
 #include "zelmat/commands/WrongForm.h"
 #include "zelmat/documents/DocumentForm.h"
+#include "zelmat/documents/MaterialUses.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/WholeLayup.h"
@@ -103,6 +104,17 @@ std::vector<LayupCard> LayupCardsOf(DocumentToRead& document, Findings& findings
     return cards;
 }
 
+void ReportRemovedMaterials(const DocumentLayup& layup, const std::string& file, Findings& findings) {
+    for (const std::string& name : RemovedMaterialsOf(layup.feature)) {
+        findings.Add({FindingKind::WARNING,
+                      {file, 0},
+                      "removed-material",
+                      "layers of " + QuotedText(layup.name) + " are of " + QuotedText(name) +
+                          ", which was removed from the document",
+                      {"undo brings it back; layup " + file + " set gives the layup other layers"}});
+    }
+}
+
 GivenContent ReadGiven(const std::string& path, const CommonOptions& options, Findings& findings) {
     GivenContent content;
     if (IsLayupCard(path)) {
@@ -111,12 +123,15 @@ GivenContent ReadGiven(const std::string& path, const CommonOptions& options, Fi
     }
     GivenFile given = OpenGiven(path, options, findings);
     if (given.document) {
-        content.materials = given.document->Materials(findings);
-        content.layups = LayupCardsOf(*given.document, findings);
+        content = ContentOf(*given.document, findings);
     } else if (given.text) {
         content.materials = CardsOfText(std::move(*given.text), path, findings);
     }
     return content;
+}
+
+GivenContent ContentOf(DocumentToRead& document, Findings& findings) {
+    return {document.Materials(findings), LayupCardsOf(document, findings)};
 }
 
 bool IsLayupCard(const std::string& path) {

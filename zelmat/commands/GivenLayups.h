@@ -25,6 +25,9 @@ std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLay
 /// All of them, in the order in which they were made; those without a mistake.
 std::vector<LayupCard> LayupCardsOf(DocumentToRead& document, Findings& findings);
 
+/// A warning for each material that the layup has layers of and that the document holds no more.
+void ReportRemovedMaterials(const DocumentLayup& layup, const std::string& file, Findings& findings);
+
 /// What a command for materials and layups alike was given.
 struct GivenContent {
     std::vector<Material> materials;
@@ -35,7 +38,10 @@ struct GivenContent {
 /// content. Standard input can be read once: a layup card is not taken from there.
 GivenContent ReadGiven(const std::string& path, const CommonOptions& options, Findings& findings);
 
-/// Whether it is a layup card. Never standard input.
+/// The materials and layups of a document.
+GivenContent ContentOf(DocumentToRead& document, Findings& findings);
+
+/// Whether it is a layup card, by its content. Never standard input.
 bool IsLayupCard(const std::string& path);
 
 /// Whether an argument is meant as a stacking notation: it begins with a bracket or has no letter, and names

@@ -22,6 +22,11 @@ bool IsDoubtful(const std::vector<Material>& cards) {
            std::any_of(cards.begin(), cards.end(), [](const Material& card) { return !card.kept.empty(); });
 }
 
+/// By its name a document, by its content nothing at all: empty, or without its beginning.
+bool IsBrokenDocument(const std::string& path, const std::string& text) {
+    return IsDocumentName(path) && !FormOfText(text);
+}
+
 std::vector<std::string> NamesOf(const std::vector<Material>& materials) {
     std::vector<std::string> names;
     for (const Material& material : materials) names.push_back(material.name);
@@ -35,8 +40,11 @@ GivenFile OpenGiven(const std::string& path, const CommonOptions& options, Findi
         return {DocumentToRead::Open(path, options.catalogs, findings), std::nullopt};
     }
     auto text = ReadText(path, findings);
-    if (!text || !IsTextDocument(*text)) return {nullptr, std::move(text)};
-    return {DocumentToRead::OpenText(*text, ShownPath(path), options.catalogs, findings), std::nullopt};
+    if (!text) return {};
+    if (IsTextDocument(*text))
+        return {DocumentToRead::OpenText(*text, ShownPath(path), options.catalogs, findings), std::nullopt};
+    if (!IsBrokenDocument(path, *text)) return {nullptr, std::move(text)};
+    return {DocumentToRead::Open(path, options.catalogs, findings), std::nullopt};
 }
 
 std::vector<Material> CardsOfText(std::string text, const std::string& path, Findings& findings,

@@ -116,7 +116,10 @@ void LayupActions::List(CommandContext& context, const std::string& path) {
     for (const DocumentLayup& layup : layups) {
         auto whole = ReadWholeLayup(document->Document(), layup, path, findings);
         if (!whole) continue;
-        if (action_ == "show") ReportValidity(whole->card, whole->stored, findings);
+        if (action_ == "show") {
+            ReportValidity(whole->card, whole->stored, findings);
+            ReportRemovedMaterials(layup, path, findings);
+        }
         layups_.push_back(std::move(*whole));
     }
     read_ = action_ == "list" || !layups_.empty();

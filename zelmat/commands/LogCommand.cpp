@@ -1,13 +1,13 @@
 #include <CLI/CLI.hpp>
 
+#include "platform/disk/KORDiskDocument.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/materials/HostPlatform.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
-
-#include "platform/disk/KORDiskDocument.h"
 
 namespace zelmat {
 
@@ -19,6 +19,15 @@ public:
     void Declare(CLI::App& line) override { line.add_option("DOC", document_, "Document")->required(); }
 
     void Work(CommandContext& context) override {
+        if (!IsDocumentFile(document_) && IsDocument(document_)) {
+            context.findings.Add(
+                {FindingKind::USAGE,
+                 {document_, 0},
+                 "text-document",
+                 "a document in its text form keeps no steps",
+                 {"zelmat upgrade " + document_ + " --output NEW.zeldoc makes one that does"}});
+            return;
+        }
         HostPlatform host(context.options.catalogs);
         if (!host.OpenCatalog(context.findings)) return;
         KORFileError error;

@@ -4,8 +4,7 @@
 #include "zelmat/cards/CardEdit.h"
 #include "zelmat/cards/CardJson.h"
 #include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/MaterialChange.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/materials/CardExtras.h"
 #include "zelmat/materials/MaterialWriter.h"
@@ -38,62 +37,53 @@ std::vector<const Block*> ChangedBlocks(const Material& before, const Material& 
 }
 
 /// Changes values of one material of a document. All of them or, with a mistake in one, none.
-class Set final : public Command {
+class SetValues final : public MaterialChange {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DOC", document_, "Document")->required();
-        line.add_option("MATERIAL", wanted_, "Its name, a beginning that no other has, or #number")
-            ->required();
+    nlohmann::ordered_json Json() const override {
+        nlohmann::ordered_json json = MaterialChange::Json();
+        json["material"] = nullptr;
+        if (!Changed().empty()) json["material"] = Changed();
+        return json;
+    }
+
+protected:
+    void DeclareFurther(CLI::App& line) override {
         line.add_option("KEY=VALUE", changes_, "density=\"7.85 g/cm^3\", plastic=curve.csv, ...")->required();
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }
 
-    void Work(CommandContext& context) override {
-        Findings& findings = context.findings;
-        const auto document = DocumentToChange::Open(document_, context.options.catalogs, findings);
-        if (!document) return;
-        const auto material = ChosenMaterial(document->Document(), wanted_, document_, findings);
-        if (!material) return;
-        KORStep step(document->Document(), "Set " + Keys() + " of " + material->name);
-        if (!Change(document->Document(), *material, findings)) return;
-        step.Commit();
-        change_ = SaveChange(*document, context);
-        material_ = material->name;
+    std::string StepName(const DocumentMaterial& material) const override {
+        return "Set " + Keys() + " of " + material.name;
     }
 
-    void Print(std::ostream& out) const override {
-        if (change_) PrintChange(out, *change_);
-    }
-
-    nlohmann::ordered_json Json() const override {
-        nlohmann::ordered_json json;
-        AddChange(json, change_);
-        json["material"] = nullptr;
-        if (change_) json["material"] = material_;
-        return json;
-    }
-
-private:
-    std::string Keys() const {
-        return WordList(changes_,
-                        [](const std::string& change) { return change.substr(0, change.find('=')); });
-    }
-
-    bool Change(KORMemoryDocument& document, const DocumentMaterial& material, Findings& findings) {
+    bool Change(KORMemoryDocument& document, const DocumentMaterial& material, Findings& findings) override {
         Findings own;
-        const Material before = ReadDocumentMaterial(material, document_, own);
-        CardEdit edit(before, document_, how_);
+        const Material before = ReadDocumentMaterial(material, Path(), own);
+        CardEdit edit(before, Path(), how_);
         for (const std::string& change : changes_) edit.Set(change, own);
         const auto now = own.HasErrors() ? std::nullopt : edit.Read(own);
         findings.Add(own);
         if (!now) return false;
         if (edit.Switched().empty() && JsonCardText({before}) == JsonCardText({*now})) return true;
         if (!gate_.PassesChange(before, *now, findings)) return false;
+        for (const std::string& table : edit.TablesOfOldSource()) {
+            findings.Add({FindingKind::NOTE,
+                          {Path(), 0},
+                          "old-source",
+                          "the source of " + table + " stays and told of the old numbers",
+                          {table + ".source=... names another, " + table + ".source= takes it away"}});
+        }
         Findings answers;
         const bool written = Write(document, material, edit, before, *now, answers);
         findings.Add(answers);
         return written && !answers.HasErrors();
+    }
+
+private:
+    std::string Keys() const {
+        return WordList(changes_,
+                        [](const std::string& change) { return change.substr(0, change.find('=')); });
     }
 
     bool Write(KORMemoryDocument& document, const DocumentMaterial& material, const CardEdit& edit,
@@ -104,11 +94,11 @@ private:
             const Block block{.kind = kind, .enabled = on};
             WriteBlocks(feature, now, {&block}, findings);
         }
-        const Material held = ReadHeldMaterial(material, document_, findings);
+        const Material held = ReadHeldMaterial(material, Path(), findings);
         for (const auto& [kind, on] : edit.Switched()) {
             if (on && !HasData(held, *kind)) {
                 findings.Add({FindingKind::ERROR,
-                              {document_, 0},
+                              {Path(), 0},
                               "no-data",
                               kind->name + " of " + material.name + " has no data to be switched on",
                               {"give it some: zelmat set with a number or a table"}});
@@ -127,30 +117,25 @@ private:
                            [](const Table& table) { return table.Rows() > 0; });
     }
 
-    std::string document_;
-    std::string wanted_;
     std::vector<std::string> changes_;
     CardReading how_;
     WriteGate gate_;
-    std::string material_;
-    std::optional<SavedChange> change_;
 };
 
 }  // namespace
 
 CommandKind SetCommand() {
-    return {
-        .name = "set",
-        .brief = "change values of a material of a document",
-        .text =
-            "Change values of a material of a document, in one step that undo takes back. A value is\n"
-            "named as on a card: density=\"7.85 g/cm^3\", elastic.youngs_modulus=205GPa,\n"
-            "thermal_expansion.reference_temperature=20degC, plastic=curve.csv (a whole table from a\n"
-            "file with a header line), thermal_expansion.enabled=off, class=metal, heat_generation=on. A\n"
-            "number has its unit with it. One number for a table of several rows is refused. The result\n"
-            "is checked; with an error that was not there before, or a value that is refused, nothing\n"
-            "changes.",
-        .make = &MakeCommand<Set>};
+    return {.name = "set",
+            .brief = "change values of a material of a document",
+            .text =
+                "Change values of a material of a document, in one step that undo takes back. A value is\n"
+                "named as on a card: density=\"7.85 g/cm^3\", elastic.youngs_modulus=205GPa,\n"
+                "thermal_expansion.reference_temperature=20degC, plastic=curve.csv (a whole table from a\n"
+                "file with a header line), thermal_expansion.enabled=off, class=metal, heat_generation=on,\n"
+                "density.source=\"own test\". A number has its unit with it. One number for a table of\n"
+                "several rows is refused. The result is checked; with an error that was not there before,\n"
+                "or a value that is refused, nothing changes.",
+            .make = &MakeCommand<SetValues>};
 }
 
 }  // namespace zelmat

@@ -4,6 +4,7 @@
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenMaterials.h"
 #include "zelmat/commands/JsonReport.h"
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/text/Printable.h"
@@ -56,7 +57,8 @@ void PrintTable(std::ostream& out, const std::deque<StoredMaterial>& materials) 
 class Summary final : public Command {
 public:
     void Declare(CLI::App& line) override {
-        line.add_option("CARD.json", paths_, "Material cards, JSON files")->required();
+        line.add_option("CARD", paths_, "Material cards of any form, or documents; - is standard input")
+            ->required();
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }
@@ -64,7 +66,7 @@ public:
     void Work(CommandContext& context) override {
         units_ = context.units;
         MaterialHost host(context.options.catalogs);
-        for (const std::string& path : paths_) Add(host, path, context.findings);
+        for (const std::string& path : paths_) Add(host, path, context);
     }
 
     void Print(std::ostream& out) const override { PrintTable(out, materials_); }
@@ -77,8 +79,9 @@ public:
     }
 
 private:
-    void Add(MaterialHost& host, const std::string& path, Findings& findings) {
-        for (Material& card : ReadGivenCards(path, findings, how_)) {
+    void Add(MaterialHost& host, const std::string& path, CommandContext& context) {
+        Findings& findings = context.findings;
+        for (Material& card : ReadGivenMaterials(path, context.options, findings, how_)) {
             Findings own;  // apart from what the checks said
             if (!gate_.Passes(card, findings)) continue;
             cards_.push_back(std::move(card));

@@ -141,7 +141,7 @@ private:
     void UpgradeText(CommandContext& context) {
         Findings& findings = context.findings;
         const std::string& output = context.options.output;
-        const bool file = output.ends_with(".zeldoc") && !dryRun_;
+        const bool file = IsDocumentName(output) && !dryRun_;
         // Made first: with a file in the way nothing is to be done.
         const auto made =
             file ? DocumentToChange::Create(output, context.options.catalogs, findings) : nullptr;

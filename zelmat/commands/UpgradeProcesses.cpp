@@ -1,7 +1,6 @@
 #include "zelmat/commands/UpgradeProcesses.h"
 
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
@@ -12,7 +11,7 @@
 #include <thread>
 #include <utility>
 
-#include "zelmat/commands/Terminal.h"
+#include "zelmat/commands/Progress.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/ShellWord.h"
 
@@ -90,7 +89,7 @@ std::vector<UpgradedDocument> UpgradeDocuments(const std::vector<std::string>& p
                                                const std::vector<std::string>& further,
                                                CommandContext& context) {
     const std::size_t atOnce = std::max(1u, std::thread::hardware_concurrency());
-    const bool shown = IsTerminal(STDERR_FILENO);
+    Progress progress(context.notes);
     std::deque<std::unique_ptr<UpgradeProcess>> running;
     std::vector<UpgradedDocument> upgraded;
     for (std::size_t next = 0; upgraded.size() < paths.size();) {
@@ -99,10 +98,7 @@ std::vector<UpgradedDocument> UpgradeDocuments(const std::vector<std::string>& p
         }
         upgraded.push_back(running.front()->Take(context.findings));
         running.pop_front();
-        if (!shown) continue;
-        context.notes << "\r" << upgraded.size() << " of " << paths.size();
-        if (upgraded.size() == paths.size()) context.notes << "\r\033[K";
-        context.notes.flush();
+        progress.Tell("upgraded", upgraded.size(), paths.size(), "documents");
     }
     return upgraded;
 }

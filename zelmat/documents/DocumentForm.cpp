@@ -17,11 +17,15 @@ constexpr std::string_view kBeginning("SQLite format 3\0", 16);
 bool IsDocumentFile(const std::string& path) {
     std::error_code none;
     // A pipe would lose what is read here.
-    if (!std::filesystem::is_regular_file(path, none)) return false;
+    if (path == "-" || !std::filesystem::is_regular_file(path, none)) return false;
     std::array<char, kBeginning.size()> bytes{};
     std::ifstream file(path, std::ios::binary);
     file.read(bytes.data(), bytes.size());
     return file && std::string_view(bytes.data(), bytes.size()) == kBeginning;
+}
+
+bool IsDocumentName(const std::string& path) {
+    return path.ends_with(".zeldoc");
 }
 
 bool IsTextDocument(const std::string& text) {

@@ -28,11 +28,19 @@ KORListValKORISpecObject_var PartsOf(const DocumentMaterial& material) {
     return parts;
 }
 
-bool IsOf(const KORISpecObject_var& layer, KORISpecObject* material) {
+/// The layer's material; null: it has none.
+KORVar<KORFeature> MaterialOf(const KORISpecObject_var& layer) {
     const ZELILayupLayer_var read(layer);
-    KORISpecObject_var own;
-    return read && SUCCEEDED(read->GetMaterial(own)) && own &&
-           KORVar<KORFeature>::Of(own.Get()).Get() == KORVar<KORFeature>::Of(material).Get();
+    KORISpecObject_var material;
+    const bool has = read && SUCCEEDED(read->GetMaterial(material)) && material;
+    return has ? KORVar<KORFeature>::Of(material.Get()) : KORVar<KORFeature>();
+}
+
+KORListValKORISpecObject_var LayersOf(KORISpecObject* layup) {
+    const auto read = ZELILayup_var::Of(layup);
+    KORListValKORISpecObject_var layers;
+    if (!read || FAILED(read->GetLayers(layers))) return {};
+    return layers;
 }
 
 }  // namespace
@@ -40,15 +48,25 @@ bool IsOf(const KORISpecObject_var& layer, KORISpecObject* material) {
 std::vector<std::string> LayupsThatUse(KORMemoryDocument& document, KORISpecObject* material) {
     std::vector<std::string> names;
     document.ForEachFeature(KORName::Intern(kLayup), [&](KORFeature& feature) {
-        const auto layup = ZELILayup_var::Of(static_cast<KORISpecObject*>(&feature));
-        KORListValKORISpecObject_var layers;
-        if (!layup || FAILED(layup->GetLayers(layers))) return;
+        const auto layers = LayersOf(&feature);
         for (int position = 1; position <= layers.Size(); ++position) {
-            if (!IsOf(layers[position], material)) continue;
+            if (MaterialOf(layers[position]).Get() != KORVar<KORFeature>::Of(material).Get()) continue;
             names.emplace_back(feature.GetAlias().View());
             return;
         }
     });
+    return names;
+}
+
+std::vector<std::string> RemovedMaterialsOf(const KORISpecObject_var& layup) {
+    std::vector<std::string> names;
+    const auto layers = LayersOf(layup.Get());
+    for (int position = 1; position <= layers.Size(); ++position) {
+        const auto material = MaterialOf(layers[position]);
+        if (!material || material->LiesInContainer()) continue;
+        const std::string name(material->GetAlias().View());
+        if (std::ranges::find(names, name) == names.end()) names.push_back(name);
+    }
     return names;
 }
 

@@ -11,6 +11,10 @@ namespace zelmat {
 /// The visible names of the layups of a document that have a layer of this material, in their order.
 std::vector<std::string> LayupsThatUse(KORMemoryDocument& document, KORISpecObject* material);
 
+/// The visible names of the materials that a layup has layers of and that were taken out of its document,
+/// each once.
+std::vector<std::string> RemovedMaterialsOf(const KORISpecObject_var& layup);
+
 /// Takes a material out of the document, with the features that it consists of: its analysis data, and what
 /// else hangs on it.
 void RemoveMaterial(KORMemoryDocument& document, const DocumentMaterial& material);

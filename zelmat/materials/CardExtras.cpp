@@ -70,28 +70,39 @@ void ReadHead(const FeatureValues& feature, Material& read) {
     read.kept = KeptOfText(feature.Text("Kept"));
 }
 
+/// A block of a card that hangs on a material already.
+struct HungBlock {
+    KORISpecObject_var feature;
+    std::optional<ExtraBlock> extra;  ///< nothing: some other program made it
+};
+
+std::vector<HungBlock> BlocksOf(const FeatureValues& feature) {
+    std::vector<HungBlock> hung;
+    for (auto& block : feature.Features("Blocks")) {
+        auto extra = ReadExtraBlock(block.Get());
+        hung.push_back({std::move(block), std::move(extra)});
+    }
+    return hung;
+}
+
 /// Whether a block stays though the card has no such: its behavior is, or was until now, switched off; or
 /// some other program made it.
-bool Stays(KORISpecObject* block, const Material& card) {
-    const auto extra = ReadExtraBlock(block);
+bool Stays(const HungBlock& hung, const Material& card) {
+    const auto& extra = hung.extra;
     if (!extra) return true;
     if (extra->use == ExtraUse::INFORMATION) return false;
     return extra->use == ExtraUse::BEHAVIOR ? !card.Find(extra->block.kind->name) : card.fits.empty();
 }
 
-/// Takes the blocks of a card away, but for those that stay; answers these.
-std::vector<KORISpecObject_var> TakeBlocksAway(KORMemoryDocument& document, const FeatureValues& feature,
-                                               const Material& card) {
-    std::vector<KORISpecObject_var> stay;
-    for (const auto& block : feature.Features("Blocks")) {
-        if (Stays(block.Get(), card)) {
-            stay.push_back(block);
-        } else {
-            RemoveExtraBlock(document, block.Get());
-        }
-    }
-    feature.Empty("Blocks");
-    return stay;
+/// Takes the first feature that holds such a block of the card out of `hung`; null when there is none.
+KORISpecObject_var TakeSuch(const ExtraBlock& wanted, std::vector<HungBlock>& hung) {
+    const auto found = std::find_if(hung.begin(), hung.end(), [&](const HungBlock& each) {
+        return each.extra && each.extra->use == wanted.use && each.extra->block.kind == wanted.block.kind;
+    });
+    if (found == hung.end()) return nullptr;
+    KORISpecObject_var feature = found->feature;
+    hung.erase(found);
+    return feature;
 }
 
 /// The feature that hangs on a material for its card, a new one if there is none; null when it cannot be
@@ -132,14 +143,19 @@ bool WriteCardExtras(KORMemoryDocument& document, KORISpecObject* material, cons
     if (!feature) return false;
     const FeatureValues values(feature.Get());
     WriteHead(values, card);
-    const auto stay = TakeBlocksAway(document, values, card);
-    for (const auto& block : stay) values.Append("Blocks", block.Get());
+    std::vector<HungBlock> others = BlocksOf(values);
+    std::vector<KORISpecObject_var> blocks;
+    for (const HungBlock& hung : others) {
+        if (Stays(hung, card)) blocks.push_back(hung.feature);
+    }
+    std::erase_if(others, [&](const HungBlock& hung) { return Stays(hung, card); });
     for (const ExtraBlock& extra : ExtrasOf(card, stored, held)) {
         if (SaysNothing(extra)) continue;
-        const auto made = WriteExtraBlock(document, extra);
-        if (!made) return false;
-        values.Append("Blocks", made.Get());
+        blocks.push_back(WriteExtraBlock(document, extra, TakeSuch(extra, others)));
+        if (!blocks.back()) return false;
     }
+    for (const HungBlock& hung : others) RemoveExtraBlock(document, hung.feature.Get());
+    values.SetFeatures("Blocks", blocks);
     return true;
 }
 

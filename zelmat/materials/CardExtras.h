@@ -10,7 +10,8 @@ namespace zelmat {
 /// stored, keys that mean nothing to the program, and numbers and units as they were written. What the
 /// module's data hold is not there a second time.
 
-/// Hangs what `card` says on a material of the platform, in place of what hung there. `stored`: the fit of
+/// Hangs what `card` says on a material of the platform, in place of what hung there, of which only
+/// what differs is written. `stored`: the fit of
 /// the card that the behavior was given; null when it was given none. `held`: what the document holds of the
 /// material by now, as ReadMaterial answers it; so that a value of it that the card left out can be told.
 /// What hung there of a behavior that the card does not have, because it is switched off, stays. False when

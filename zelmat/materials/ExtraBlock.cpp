@@ -61,32 +61,69 @@ bool SaysNothing(const Table& table) {
                         [](const Column& column) { return column.written.has_value(); });
 }
 
-KORISpecObject_var WriteColumn(KORMemoryDocument& document, const Column& column, bool whole) {
-    KORISpecObject_var feature(document.NewPlatformFeature(kColumnType, kColumnType));
+KORISpecObject_var Made(KORMemoryDocument& document, const KORISpecObject_var& known, const char* type) {
+    return known ? known : KORISpecObject_var(document.NewPlatformFeature(type, type));
+}
+
+/// Lists a feature for each of `items`, those that are listed already as far as they go; what is left of
+/// these goes out of the document with `remove`. `write` puts an item into one, or into a new one. False when
+/// it cannot.
+template <class Item, class Write, class Remove>
+bool WriteList(const FeatureValues& owner, const char* name, const std::vector<const Item*>& items,
+               Write write, Remove remove) {
+    const auto before = owner.Features(name);
+    std::vector<KORISpecObject_var> now;
+    for (const Item* item : items) {
+        now.push_back(write(*item, now.size() < before.size() ? before[now.size()] : nullptr));
+        if (!now.back()) return false;
+    }
+    for (std::size_t at = now.size(); at < before.size(); ++at) remove(before[at].Get());
+    owner.SetFeatures(name, now);
+    return true;
+}
+
+void RemoveColumn(KORMemoryDocument& document, KORISpecObject* column) {
+    static_cast<void>(document.Remove(column));
+}
+
+void RemoveTable(KORMemoryDocument& document, KORISpecObject* table) {
+    for (const auto& column : FeatureValues(table).Features("Columns")) RemoveColumn(document, column.Get());
+    static_cast<void>(document.Remove(table));
+}
+
+KORISpecObject_var WriteColumn(KORMemoryDocument& document, const Column& column, bool whole,
+                               const KORISpecObject_var& known) {
+    KORISpecObject_var feature = Made(document, known, kColumnType);
     if (!feature) return nullptr;
     const FeatureValues values(feature.Get());
     values.SetText("Name", column.kind.name);
-    if (column.written) values.SetText("Unit", column.written->unit);
+    values.SetText("Unit", column.written ? column.written->unit : "");
     const bool converted = column.written && !column.written->numbers.empty();
-    if (converted) values.SetNumbers("Numbers", column.written->numbers);
-    if (whole && !converted) values.SetNumbers("Numbers", column.values);
+    if (converted || whole) {
+        values.SetNumbers("Numbers", converted ? column.written->numbers : column.values);
+    } else if (values.Numbers("Numbers")) {
+        values.Empty("Numbers");
+    }
     return feature;
 }
 
-KORISpecObject_var WriteTable(KORMemoryDocument& document, const Table& table, bool whole) {
-    KORISpecObject_var feature(document.NewPlatformFeature(kTableType, kTableType));
+KORISpecObject_var WriteTable(KORMemoryDocument& document, const Table& table, bool whole,
+                              const KORISpecObject_var& known) {
+    KORISpecObject_var feature = Made(document, known, kTableType);
     if (!feature) return nullptr;
     const FeatureValues values(feature.Get());
     values.SetText("Name", table.kind->name);
     values.SetText("Source", table.source);
     values.SetFlag("TemperatureDependent", table.temperatureDependent);
+    std::vector<const Column*> columns;
     for (const Column& column : table.columns) {
-        if (!whole && !column.written) continue;
-        const auto made = WriteColumn(document, column, whole);
-        if (!made) return nullptr;
-        values.Append("Columns", made.Get());
+        if (whole || column.written) columns.push_back(&column);
     }
-    return feature;
+    const auto write = [&](const Column& column, const KORISpecObject_var& into) {
+        return WriteColumn(document, column, whole, into);
+    };
+    const auto remove = [&](KORISpecObject* column) { RemoveColumn(document, column); };
+    return WriteList(values, "Columns", columns, write, remove) ? feature : KORISpecObject_var();
 }
 
 /// Of a whole block: the numbers as written become those that are stored.
@@ -163,8 +200,9 @@ bool SaysNothing(const ExtraBlock& extra) {
                        [](const Table& table) { return SaysNothing(table); });
 }
 
-KORISpecObject_var WriteExtraBlock(KORMemoryDocument& document, const ExtraBlock& extra) {
-    KORISpecObject_var feature(document.NewPlatformFeature(kBlockType, kBlockType));
+KORISpecObject_var WriteExtraBlock(KORMemoryDocument& document, const ExtraBlock& extra,
+                                   const KORISpecObject_var& known) {
+    KORISpecObject_var feature = Made(document, known, kBlockType);
     if (!feature) return nullptr;
     const Block& block = extra.block;
     const FeatureValues values(feature.Get());
@@ -174,13 +212,15 @@ KORISpecObject_var WriteExtraBlock(KORMemoryDocument& document, const ExtraBlock
     values.SetText("Values", TextOfValues(block.values, block.written, HeldNames(extra)));
     values.SetText("NotGiven", TextOfValues(extra.notGiven, {}, AllNames(*block.kind)));
     values.SetText("Kept", TextOfKept(block.kept));
+    std::vector<const Table*> tables;
     for (const Table& table : block.tables) {
-        if (!extra.whole && SaysNothing(table)) continue;
-        const auto made = WriteTable(document, table, extra.whole);
-        if (!made) return nullptr;
-        values.Append("Tables", made.Get());
+        if (extra.whole || !SaysNothing(table)) tables.push_back(&table);
     }
-    return feature;
+    const auto write = [&](const Table& table, const KORISpecObject_var& into) {
+        return WriteTable(document, table, extra.whole, into);
+    };
+    const auto remove = [&](KORISpecObject* table) { RemoveTable(document, table); };
+    return WriteList(values, "Tables", tables, write, remove) ? feature : KORISpecObject_var();
 }
 
 std::optional<ExtraBlock> ReadExtraBlock(KORISpecObject* feature) {
@@ -203,12 +243,7 @@ std::optional<ExtraBlock> ReadExtraBlock(KORISpecObject* feature) {
 }
 
 void RemoveExtraBlock(KORMemoryDocument& document, KORISpecObject* feature) {
-    for (const auto& table : FeatureValues(feature).Features("Tables")) {
-        for (const auto& column : FeatureValues(table.Get()).Features("Columns")) {
-            static_cast<void>(document.Remove(column.Get()));
-        }
-        static_cast<void>(document.Remove(table.Get()));
-    }
+    for (const auto& table : FeatureValues(feature).Features("Tables")) RemoveTable(document, table.Get());
     static_cast<void>(document.Remove(feature));
 }
 

@@ -26,8 +26,11 @@ Values NotGiven(const Block& given, const Block& held);
 /// Nothing of it is worth a feature.
 bool SaysNothing(const ExtraBlock& extra);
 
-/// A feature of the document that holds it; null when the document does not know the late types.
-KORISpecObject_var WriteExtraBlock(KORMemoryDocument& document, const ExtraBlock& extra);
+/// Puts it into a feature of the document: into `known`, which holds another one by now and of which only
+/// what differs is written, or, where that is null, into a new one. Answers the feature; null when the
+/// document does not know the late types.
+KORISpecObject_var WriteExtraBlock(KORMemoryDocument& document, const ExtraBlock& extra,
+                                   const KORISpecObject_var& known = nullptr);
 
 /// Nothing when it is of a kind that there is not, or not of a table's form: some other program made it.
 std::optional<ExtraBlock> ReadExtraBlock(KORISpecObject* feature);

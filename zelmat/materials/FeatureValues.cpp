@@ -5,6 +5,14 @@
 
 namespace zelmat {
 
+namespace {
+
+bool IsSame(const KORISpecObject_var& a, const KORISpecObject_var& b) {
+    return KORBaseUnknown_var::Of(a.Get()).Get() == KORBaseUnknown_var::Of(b.Get()).Get();
+}
+
+}  // namespace
+
 KORISpecAttrKey* FeatureValues::Key(const char* name) const {
     return access_ ? access_->GetAttrKey(name) : nullptr;
 }
@@ -69,6 +77,12 @@ void FeatureValues::Append(const char* name, KORISpecObject* feature) const {
     if (KORISpecAttrKey* const key = Key(name)) {
         access_->AppendComponent(key, KORBaseUnknown_var::Of(feature).Get());
     }
+}
+
+void FeatureValues::SetFeatures(const char* name, const std::vector<KORISpecObject_var>& features) const {
+    if (std::ranges::equal(Features(name), features, IsSame)) return;
+    Empty(name);
+    for (const auto& feature : features) Append(name, feature.Get());
 }
 
 void FeatureValues::Empty(const char* name) const {

@@ -26,6 +26,8 @@ public:
     void SetNumbers(const char* name, const std::vector<double>& numbers) const;
     void SetFeature(const char* name, KORISpecObject* feature) const;  ///< null: none
     void Append(const char* name, KORISpecObject* feature) const;
+    /// The whole list; one that is the same already is left alone.
+    void SetFeatures(const char* name, const std::vector<KORISpecObject_var>& features) const;
     void Empty(const char* name) const;  ///< a list
 
 private:

@@ -106,4 +106,14 @@ TEST_F(AddCommand, BringsOlderMaterialsOfAnotherDocumentUpToDate) {
     EXPECT_THAT(Names(document), ElementsAre("OFHC copper", "Vulcanised natural rubber"));
 }
 
+TEST_F(AddCommand, ShowsProgressOnATerminalAlone) {
+    const std::vector<std::string> cards = {File("steel.json", kSteel), File("copper.json", kCopper)};
+    const ProgramRun quiet = RunZelmat({"add", NewDocument("a.zeldoc"), cards[0], cards[1]});
+    const ProgramRun loud = RunZelmatOnTerminal({"add", NewDocument("b.zeldoc"), cards[0], cards[1]});
+
+    EXPECT_EQ(quiet.err, "");
+    EXPECT_THAT(loud.out, HasSubstr("read 1 of 2 cards"));
+    EXPECT_THAT(loud.out, HasSubstr("added 2 of 2 materials"));
+}
+
 }  // namespace

@@ -41,13 +41,6 @@ TEST(CheckCommand, KnowsALayupCardByItsContent) {
               "needs one)\n");
 }
 
-TEST(CheckCommand, NamesTheCommandThatReadsADocument) {
-    const ProgramRun run = RunZelmat({"check", Sample("older/copper_and_rubber.json")});
-
-    EXPECT_EQ(run.exitCode, 2);
-    EXPECT_THAT(run.err, HasSubstr("error[wrong-command]: this is a document"));
-}
-
 TEST(CheckCommand, EndsWithThreeWhenACardCannotBeRead) {
     const ProgramRun run = RunZelmat({"check", "missing.json", "two_tables.json"});
 

@@ -7,6 +7,7 @@
 #include <fstream>
 
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
 
@@ -29,25 +30,6 @@ TEST(ConvertCommand, WritesSuchACardWhenItIsToKeepGoing) {
     EXPECT_THAT(run.out, HasSubstr("\n[plastic]\n"));
     EXPECT_THAT(run.err, HasSubstr("error[first-plastic-strain]"));
 }
-
-/// A folder of its own for as long as a test needs it.
-class Folder {
-public:
-    Folder() { std::filesystem::create_directory(path_); }
-    ~Folder() { std::filesystem::remove_all(path_); }
-    std::string operator/(const std::string& file) const { return path_ + "/" + file; }
-    const std::string& Path() const { return path_; }
-    std::vector<std::string> Files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(path_))
-            names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-private:
-    std::string path_ = testing::TempDir() + "zelmat-convert-" + std::to_string(getpid());
-};
 
 void Write(const std::string& path, const std::string& text) {
     std::ofstream(path) << text;
@@ -105,7 +87,7 @@ TEST(ConvertCommand, PutsSeveralCardsIntoOneTextOrNone) {
 }
 
 TEST(ConvertCommand, WritesAFileForEachCardIntoAFolder) {
-    const Folder folder;
+    const TestFolder folder;
     Write(folder / "pair.json", R"([{"name": "A"}, {"name": "B"}])");
     const std::string out = folder / "out";
     std::filesystem::create_directory(out);
@@ -122,7 +104,7 @@ TEST(ConvertCommand, WritesAFileForEachCardIntoAFolder) {
 }
 
 TEST(ConvertCommand, PutsNoTwoCardsOfOneNameIntoOneFile) {
-    const Folder folder;
+    const TestFolder folder;
     std::filesystem::create_directory(folder / "one");
     std::filesystem::create_directory(folder / "out");
     Write(folder / "a.json", R"({"name": "first"})");
@@ -147,7 +129,7 @@ TEST(ConvertCommand, ListsWhatTheNewFormCannotHold) {
 }
 
 TEST(NewCommand, WritesATemplateInWhichEveryNumberIsMissing) {
-    const Folder folder;
+    const TestFolder folder;
     const std::string card = folder / "card.json";
     EXPECT_EQ(RunZelmat({"new", "--card", "Steel \"x\"", "--output", card}).exitCode, 0);
 

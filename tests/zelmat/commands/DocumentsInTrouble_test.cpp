@@ -3,11 +3,17 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <thread>
 
+#include "platform/store/KORStep.h"
+#include "tests/zelmat/support/CatalogFolder.h"
 #include "tests/zelmat/support/DocumentFolder.h"
+#include "zelmat/documents/DocumentToChange.h"
+#include "zelmat/materials/NewMaterial.h"
 
 namespace {
 
@@ -54,6 +60,21 @@ protected:
         }));
     }
 
+    /// Adds the material A as another program would, and does the work after the lock is taken and before
+    /// that is saved; what the work answers.
+    template <class Work>
+    pid_t WhileItIsChanged(Work work) const {
+        zelmat::Findings findings;
+        const auto changed = zelmat::DocumentToChange::Open(document_, CatalogFolderOfTheModule(), findings);
+        EXPECT_TRUE(changed);
+        KORStep step(changed->Document(), "Add A");
+        EXPECT_TRUE(zelmat::AddMaterial(changed->Document(), {.file = {}, .name = "A"}, nullptr, findings));
+        step.Commit();
+        const pid_t answer = work();
+        EXPECT_TRUE(changed->Save({}, findings));
+        return answer;
+    }
+
     /// Runs a command as a user who may write nothing here.
     int RunAsNobody(const std::vector<std::string>& arguments) const {
         return ExitOf(Start([&] {
@@ -82,6 +103,53 @@ TEST_F(DocumentsInTrouble, KeepTheChangesOfAllWhoChangeThemAtOnce) {
 
     EXPECT_THAT(Names(document_), testing::UnorderedElementsAreArray(names));
     EXPECT_THAT(Run({"undo", document_, "5"}), HasSubstr("undone: step 1: Add "));
+}
+
+TEST_F(DocumentsInTrouble, KeepEveryNumberThatManySetAtOnce) {
+    constexpr int kPrograms = 4, kChanges = 3;
+    std::vector<std::string> add = {"add", document_};
+    for (int i = 0; i < kPrograms; ++i) add.push_back(Card("M" + std::to_string(i)));
+    Run(add);
+    std::vector<pid_t> running;
+    for (int i = 0; i < kPrograms; ++i) {
+        running.push_back(Start([this, name = "M" + std::to_string(i)] {
+            for (int change = 1; change <= kChanges; ++change) {
+                const std::string density = "density=" + std::to_string(1000 * change) + " kg/m3";
+                if (RunZelmat({"set", document_, name, density}).exitCode != 0) return 1;
+            }
+            return 0;
+        }));
+    }
+    for (const pid_t child : running) EXPECT_EQ(ExitOf(child), 0);
+
+    EXPECT_THAT(Run({"find", document_, "density>=3000kg/m3 and density<=3000kg/m3"}), HasSubstr("found: 4"));
+    EXPECT_THAT(Run({"undo", document_, "13"}), HasSubstr("undone: step 1: Add 4 materials"));
+}
+
+TEST_F(DocumentsInTrouble, AreChangedBySomebodyWhoWaitedUntilAnotherHadSaved) {
+    const pid_t waiting = WhileItIsChanged([&] {
+        const std::string card = Card("B");
+        const pid_t second = Start([&] { return RunZelmat({"add", document_, card}).exitCode; });
+        std::this_thread::sleep_for(std::chrono::milliseconds(500));  // for it to come to the lock
+        EXPECT_EQ(::waitpid(second, nullptr, WNOHANG), 0);
+        return second;
+    });
+
+    EXPECT_EQ(ExitOf(waiting), 0);
+    EXPECT_THAT(Names(document_), ElementsAre("A", "B"));
+}
+
+TEST_F(DocumentsInTrouble, AreReadWhileAnotherChangesThemAndNotChangedWhenThatTakesLong) {
+    Run({"add", document_, Card("B")});
+    WhileItIsChanged([&] {
+        EXPECT_THAT(Run({"list", document_}), HasSubstr("materials: 1"));
+        EXPECT_THAT(
+            Refusal(3, {"undo", document_}),
+            testing::StartsWith("a.zeldoc: error[unreadable]: is in use: another program has held its "
+                                "lock for 5 s"));
+        return 0;
+    });
+    EXPECT_THAT(Names(document_), ElementsAre("B", "A"));
 }
 
 TEST_F(DocumentsInTrouble, AreTheOldOnesAfterACommandThatWasKilledInItsSave) {

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 #include "zelmat/text/Printable.h"
 
 // Text from cards, paths and options reaches a terminal as text, whatever it holds.
@@ -24,18 +25,13 @@ constexpr const char* kEvilShown = "\\x1b[31mX\\ncard.json: error[forged]: x\\x9
 class Card {
 public:
     explicit Card(const std::string& text, const std::string& name = "card.json")
-        : folder_(testing::TempDir() + "ForeignText_" + std::to_string(::getpid())),
-          path_(folder_ + "/" + name) {
-        std::filesystem::create_directories(folder_);
-        std::ofstream(path_, std::ios::binary) << text;
-    }
-    ~Card() { std::filesystem::remove_all(folder_); }
+        : path_(folder_.File(name, text)) {}
 
     const std::string& Path() const { return path_; }
 
 private:
-    std::string folder_;
-    std::string path_;
+    const TestFolder folder_;
+    const std::string path_;
 };
 
 /// Nothing but lines of printable UTF-8.

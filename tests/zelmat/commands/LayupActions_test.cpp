@@ -56,6 +56,32 @@ TEST_F(LayupActions, KeepAMaterialThatALayupUsesFromBeingRemoved) {
     EXPECT_THAT(Run({"layup", document_, "list"}), HasSubstr("layups: 2"));
 }
 
+TEST_F(LayupActions, TellWhichMaterialOfALayupWasRemoved) {
+    Add("Skin", "[0/90]s");
+    EXPECT_EQ(Refusal(0, {"layup", document_, "show", "Skin"}), "");
+    Refusal(0, {"remove", document_, "T300", "--force"});
+    const std::string warning =
+        "a.zeldoc: warning[removed-material]: layers of 'Skin' are of 'T300/5208', which was removed from "
+        "the "
+        "document (undo brings it back; layup a.zeldoc set gives the layup other layers)\n";
+
+    EXPECT_EQ(Refusal(0, {"layup", document_, "show", "Skin"}), warning);
+    EXPECT_EQ(Refusal(0, {"check", document_}), warning);
+    Run({"undo", document_});
+    EXPECT_EQ(Refusal(0, {"check", document_}), "");
+}
+
+TEST_F(LayupActions, TellWhichLayersOfALayupHaveNoMaterialAndWhenThereAreNone) {
+    Run({"add", document_, File("m.json", R"({"name": "M"})")});
+    Run({"layup", document_, "add", "layup_no_material.json"});
+    Run({"layup", document_, "add", "layup_no_layers.json"});
+
+    EXPECT_THAT(Refusal(1, {"layup", document_, "show", "Half a layup"}),
+                HasSubstr("a.zeldoc: error[invalid-layup]: layer 2 has no material ("));
+    EXPECT_THAT(Refusal(1, {"layup", document_, "show", "No layup"}),
+                HasSubstr("a.zeldoc: error[invalid-layup]: the layup has no layers ("));
+}
+
 TEST_F(LayupActions, SetTheLayersAnewAndUndoBringsTheOldOnesBack) {
     Add("Skin", "[0/90]s");
     Run({"layup", document_, "set", "Skin", "[45/-45]s", "--material", "Core", "--thickness", "1mm"});

@@ -9,6 +9,7 @@
 #include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/CatalogFolder.h"
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
 
@@ -17,11 +18,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
-
-std::string Contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 ProgramRun RunNotation(const std::string& notation, std::vector<std::string> more = {}) {
     std::vector<std::string> arguments = {"layup", notation, "--material", "T300", "--thickness", "0.125mm"};

@@ -1,13 +1,12 @@
 #include <gmock/gmock.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 #include "tests/zelmat/support/XmlProblem.h"
 
 namespace {
@@ -18,28 +17,8 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-std::string Contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// A folder for pictures, gone with the test.
-class PlotCommand : public testing::Test {
+class PlotCommand : public FolderTest {
 protected:
-    PlotCommand() : folder_(testing::TempDir() + "plot-" + std::to_string(getpid())) {
-        fs::create_directory(folder_);
-    }
-    ~PlotCommand() override { fs::remove_all(folder_); }
-
-    std::string In(const std::string& name) const { return folder_ + "/" + name; }
-
-    std::vector<std::string> Files(const std::string& name = "") const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(In(name))) names.push_back(entry.path().filename());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
     /// Copper, a laminate's material and a core of foam; layups of the latter two.
     std::string DocumentWithLayups() const {
         const std::string document = In("a.zeldoc");
@@ -55,8 +34,6 @@ protected:
         run({"layup", document, "add", "Core", "[0]", "--material", "PMI", "--thickness", "5mm"});
         return document;
     }
-
-    std::string folder_;
 };
 
 TEST_F(PlotCommand, FillsAFolderThatItMakes) {
@@ -117,7 +94,7 @@ TEST_F(PlotCommand, KeepsAScriptThatDrawsTheSameAgain) {
     ASSERT_THAT(Files(), ElementsAre("kept.gp", "kept.svg"));
     const std::string script = Contents(In("kept.gp"));
 
-    ASSERT_EQ(std::system(("cd '" + folder_ + "' && gnuplot -d kept.gp").c_str()), 0);
+    ASSERT_EQ(std::system(("cd '" + folder_.Path() + "' && gnuplot -d kept.gp").c_str()), 0);
 
     EXPECT_THAT(script, HasSubstr("$p1n0s0 << EOD\n0 90\n"));
     EXPECT_TRUE(fs::exists(In("plastic-hardening.svg"))) << "under the picture's own name";
@@ -244,7 +221,7 @@ TEST_F(PlotCommand, SaysThatThereIsNoSuchBlockOrNothingToDraw) {
 
 TEST_F(PlotCommand, EndsWith3WithoutGnuplotAndLeavesNothing) {
     const ProgramRun run =
-        RunZelmat({"plot", Sample("steel_s355.json"), "--output", In("a.svg")}, {"PATH=" + folder_});
+        RunZelmat({"plot", Sample("steel_s355.json"), "--output", In("a.svg")}, {"PATH=" + folder_.Path()});
 
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_THAT(run.err, StartsWith("gnuplot: error[program-missing]: drawing needs the program gnuplot"));
@@ -253,16 +230,17 @@ TEST_F(PlotCommand, EndsWith3WithoutGnuplotAndLeavesNothing) {
 
 TEST_F(PlotCommand, MakesNoFolderWhereNothingCanBeDrawn) {
     const ProgramRun run =
-        RunZelmat({"plot", Sample("steel_s355.json"), "--output", In("a/b")}, {"PATH=" + folder_});
+        RunZelmat({"plot", Sample("steel_s355.json"), "--output", In("a/b")}, {"PATH=" + folder_.Path()});
 
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_THAT(Files(), IsEmpty());
 }
 
 TEST_F(PlotCommand, LeavesNoIntermediateFiles) {
-    ASSERT_EQ(RunZelmat({"plot", Sample("copper_ofhc.json"), "--output", In("a.svg")}, {"TMPDIR=" + folder_})
-                  .exitCode,
-              0);
+    ASSERT_EQ(
+        RunZelmat({"plot", Sample("copper_ofhc.json"), "--output", In("a.svg")}, {"TMPDIR=" + folder_.Path()})
+            .exitCode,
+        0);
 
     EXPECT_THAT(Files(), ElementsAre("a.svg"));
 }

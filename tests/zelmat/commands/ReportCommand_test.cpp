@@ -1,12 +1,11 @@
 #include <gmock/gmock.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
 
@@ -16,27 +15,7 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-std::string Contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-class ReportCommand : public testing::Test {
-protected:
-    ReportCommand() : folder_(testing::TempDir() + "report-" + std::to_string(getpid())) {
-        fs::create_directory(folder_);
-    }
-    ~ReportCommand() override { fs::remove_all(folder_); }
-
-    std::string In(const std::string& name) const { return folder_ + "/" + name; }
-    std::vector<std::string> Files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder_)) names.push_back(entry.path().filename());
-        return names;
-    }
-
-    std::string folder_;
-};
+using ReportCommand = FolderTest;
 
 TEST_F(ReportCommand, PutsMaterialsAndLayupsOnOnePageAndTellsItsSize) {
     const ProgramRun run =
@@ -50,7 +29,8 @@ TEST_F(ReportCommand, PutsMaterialsAndLayupsOnOnePageAndTellsItsSize) {
     EXPECT_THAT(page, HasSubstr("<td>210000</td>\n<td>0.3</td>\n<td>20</td>"));
     EXPECT_THAT(page, HasSubstr("<td>80769.2</td>\n<td>175000</td>\n<td>20</td>")) << "G and K";
     EXPECT_THAT(page, HasSubstr("Sandwich: [0/90] faces of T300/5208, 10 mm Rohacell 71 core"));
-    EXPECT_THAT(page, HasSubstr("<td>in its plane</td>\n<td>4686.89</td>\n<td>4686.89</td>\n<td>377.143</td>"))
+    EXPECT_THAT(page,
+                HasSubstr("<td>in its plane</td>\n<td>4686.89</td>\n<td>4686.89</td>\n<td>377.143</td>"))
         << "4.6869 GPa on the card";
 }
 
@@ -80,8 +60,8 @@ TEST_F(ReportCommand, NeedsToKnowWhereThePageGoes) {
 }
 
 TEST_F(ReportCommand, WritesNothingWithoutGnuplot) {
-    const ProgramRun run =
-        RunZelmat({"report", Sample("copper_ofhc.json"), "--output", In("r.html")}, {"PATH=" + folder_});
+    const ProgramRun run = RunZelmat({"report", Sample("copper_ofhc.json"), "--output", In("r.html")},
+                                     {"PATH=" + folder_.Path()});
 
     EXPECT_EQ(run.exitCode, 3);
     EXPECT_THAT(run.err, HasSubstr("gnuplot: error[program-missing]"));

@@ -160,6 +160,45 @@ TEST_F(SetCommand, SaysWhenNothingChanges) {
     EXPECT_EQ(Run({"set", document_, "Steel", "class=metal"}), "nothing has changed\n");
 }
 
+TEST_F(SetCommand, SaysWhenABehaviorIsSwitchedAlready) {
+    EXPECT_EQ(Run({"set", document_, "Steel", "elastic.enabled=on"}), "nothing has changed\n");
+    EXPECT_EQ(Run({"set", document_, "Steel", "specific_heat.enabled=off"}), "nothing has changed\n");
+}
+
+TEST_F(SetCommand, KeepsInItsStepWhatItChangedAndNothingElse) {
+    Run({"set", document_, "Steel", "elastic.youngs_modulus=205GPa"});
+    Run({"set", document_, "Steel", "description=rolled"});
+    const json steps = json::parse(Run({"log", document_, "--json"}))["steps"];
+
+    // Each entry: the feature's number, slot, attribute and the old value, some bytes. Modulus: one in
+    // newtons per square metre and one as it was written.
+    EXPECT_LT(steps[1]["size"]["value"], 40);
+    EXPECT_LT(steps[2]["size"]["value"], 10);
+}
+
+TEST_F(SetCommand, GivesATableAnotherSource) {
+    Run({"set", document_, "Steel", "elastic.source=own test"});
+    EXPECT_EQ(Card()["elastic"]["source"], "own test");
+    Run({"set", document_, "Steel", "elastic.source=", "density.source=a balance"});
+    EXPECT_FALSE(Card()["elastic"].contains("source"));
+    EXPECT_EQ(Card()["density"]["source"], "a balance");
+    EXPECT_THAT(RefusalOf(2, {"specific_heat.source=own test"}), HasSubstr("error[no-table]"));
+}
+
+TEST_F(SetCommand, SaysThatASourceToldOfTheOldNumbers) {
+    EXPECT_EQ(Refusal(0, {"set", document_, "Steel", "elastic.youngs_modulus=205GPa"}),
+              "a.zeldoc: note[old-source]: the source of elastic stays and told of the old numbers "
+              "(elastic.source=... names another, elastic.source= takes it away)\n");
+    EXPECT_EQ(Refusal(0, {"set", document_, "Steel", "elastic.youngs_modulus=206GPa", "elastic.source=own"}),
+              "");
+    EXPECT_EQ(Refusal(0, {"set", document_, "Steel", "density=7800kg/m3"}), "");
+}
+
+TEST_F(SetCommand, RefusesAKeyThatIsGivenTwice) {
+    EXPECT_THAT(RefusalOf(2, {"density=1 g/cm^3", "density=2 g/cm^3"}),
+                HasSubstr("error[given-twice]: \"density\" is given twice"));
+}
+
 /// Two materials to be renamed, copied and removed.
 class DocumentOfTwo : public DocumentFolder {
 protected:

@@ -9,6 +9,7 @@
 #include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/CatalogFolder.h"
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
 
@@ -49,11 +50,8 @@ constexpr const char* kOlderRubber = R"({
   ]
 })";
 
-class UpgradeCommand : public testing::Test {
+class UpgradeCommand : public FolderTest {
 protected:
-    UpgradeCommand() { std::filesystem::create_directories(folder_); }
-    ~UpgradeCommand() override { std::filesystem::remove_all(folder_); }
-
     /// Puts a document into a file and runs the program on it.
     ProgramRun Upgrade(const std::string& text, std::vector<std::string> further = {}) {
         std::ofstream(older_) << text;
@@ -66,9 +64,8 @@ protected:
         return json::parse(file);
     }
 
-    std::string folder_ = testing::TempDir() + "zelmat-upgrade-" + std::to_string(getpid());
-    std::string older_ = folder_ + "/older.json";
-    std::string newer_ = folder_ + "/newer.json";
+    const std::string older_ = In("older.json");
+    const std::string newer_ = In("newer.json");
 };
 
 TEST_F(UpgradeCommand, TellsWhatChangedOnWhichFeature) {
@@ -92,8 +89,7 @@ TEST_F(UpgradeCommand, LeavesTheDocumentAloneAndWritesTheUpgradedOneElsewhere) {
 
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_THAT(run.out, HasSubstr("\nwritten: " + newer_ + "\n"));
-    std::ifstream original(older_);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(original), {}), kOlderCopper);
+    EXPECT_EQ(Contents(older_), kOlderCopper);
     const json features = Written()["features"];
     ASSERT_EQ(features.size(), 7u);
     EXPECT_EQ(features[1]["attributes"]["JohnsonCookData_v2"], json::parse(R"({"ref": 7})"));
@@ -204,11 +200,11 @@ TEST_F(UpgradeCommand, EndsWithThreeWithoutACatalog) {
 }
 
 TEST_F(UpgradeCommand, EndsWithThreeWhenTheUpgradedDocumentCannotBeWritten) {
-    const ProgramRun run = Upgrade(kOlderCopper, {"--output", folder_ + "/no/newer.json"});
+    const ProgramRun run = Upgrade(kOlderCopper, {"--output", In("no/newer.json")});
 
     EXPECT_EQ(run.exitCode, 3);
-    EXPECT_EQ(run.err, folder_ +
-                           "/no/newer.json: error[not-written]: cannot be written: No such file or "
+    EXPECT_EQ(run.err, In("no/newer.json") +
+                           ": error[not-written]: cannot be written: No such file or "
                            "directory\n");
     EXPECT_THAT(run.out, StartsWith("materials: 1, upgraded: 1\n"));
 }

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
 
@@ -50,11 +51,8 @@ struct OlderRubber {
     }
 };
 
-class UpgradeUnits : public testing::Test {
+class UpgradeUnits : public FolderTest {
 protected:
-    UpgradeUnits() { std::filesystem::create_directories(folder_); }
-    ~UpgradeUnits() override { std::filesystem::remove_all(folder_); }
-
     ProgramRun Upgrade(const OlderRubber& rubber, std::vector<std::string> further = {}) {
         std::ofstream(older_) << rubber.Text();
         further.insert(further.begin(), {"upgrade", older_, "--output", newer_});
@@ -78,9 +76,8 @@ protected:
         return written["features"][id.get<std::size_t>() - 1]["attributes"]["MaterialModelRowData"];
     }
 
-    std::string folder_ = testing::TempDir() + "zelmat-upgrade-units-" + std::to_string(getpid());
-    std::string older_ = folder_ + "/older.json";
-    std::string newer_ = folder_ + "/newer.json";
+    const std::string older_ = In("older.json");
+    const std::string newer_ = In("newer.json");
 };
 
 TEST_F(UpgradeUnits, TellEveryCoefficientBeforeAndAfter) {

@@ -13,8 +13,9 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <thread>
+
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
 
@@ -37,11 +38,6 @@ protected:
         std::ofstream(Path(name), std::ios::binary) << text;
         ::chmod(Path(name).c_str(), mode);
         return Path(name);
-    }
-
-    static std::string Contents(const std::string& path) {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     static mode_t ModeOf(const std::string& path) {

@@ -1,26 +1,14 @@
 #include "tests/zelmat/support/CardFile.h"
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
 #include <stdexcept>
 
 #include "tests/zelmat/support/CatalogFolder.h"
 
-CardFile::CardFile(const std::string& text)
-    : folder_(testing::TempDir() + "zelmat-card-" + std::to_string(getpid())), path_(folder_ + "/card.json") {
-    std::filesystem::create_directories(folder_);
-    std::ofstream(path_) << text;
-}
-
-CardFile::~CardFile() {
-    std::filesystem::remove_all(folder_);
-}
-
 std::string CardFile::Shorten(std::string line) const {
-    if (line.starts_with(folder_)) line.erase(0, folder_.size() + 1);
+    const std::string folder = folder_ / "";
+    if (line.starts_with(folder)) line.erase(0, folder.size());
     return line;
 }
 

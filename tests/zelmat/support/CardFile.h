@@ -3,16 +3,14 @@
 #include <string>
 #include <vector>
 
+#include "tests/zelmat/support/TestFolder.h"
 #include "zelmat/cards/ReadCard.h"
 #include "zelmat/materials/StoredMaterial.h"
 
 /// A card written to a file of its own for as long as a test needs it.
 class CardFile {
 public:
-    explicit CardFile(const std::string& text);
-    ~CardFile();
-    CardFile(const CardFile&) = delete;
-    CardFile& operator=(const CardFile&) = delete;
+    explicit CardFile(const std::string& text) : path_(folder_.File("card.json", text)) {}
 
     const std::string& Path() const { return path_; }
 
@@ -20,8 +18,8 @@ public:
     std::string Shorten(std::string line) const;
 
 private:
-    std::string folder_;
-    std::string path_;
+    const TestFolder folder_;
+    const std::string path_;
 };
 
 /// What reading the card finds, one line each.

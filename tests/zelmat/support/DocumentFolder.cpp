@@ -1,26 +1,8 @@
 #include "tests/zelmat/support/DocumentFolder.h"
 
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <nlohmann/json.hpp>
 
-DocumentFolder::DocumentFolder()
-    : folder_(testing::TempDir() + "zelmat-documents-" + std::to_string(getpid())) {
-    std::filesystem::remove_all(folder_);
-    std::filesystem::create_directories(folder_);
-}
-
-DocumentFolder::~DocumentFolder() {
-    std::filesystem::remove_all(folder_);
-}
-
-std::string DocumentFolder::File(const std::string& name, const std::string& text) const {
-    std::ofstream(Path(name), std::ios::binary) << text;
-    return Path(name);
-}
+#include "zelmat/text/ReplaceAll.h"
 
 std::string DocumentFolder::NewDocument(const std::string& name) const {
     Run({"new", Path(name)});
@@ -36,9 +18,7 @@ std::string DocumentFolder::DocumentOf(const std::vector<std::string>& samples,
 }
 
 std::string DocumentFolder::Shorten(std::string text) const {
-    for (auto at = text.find(folder_ + "/"); at != std::string::npos; at = text.find(folder_ + "/", at)) {
-        text.erase(at, folder_.size() + 1);
-    }
+    zelmat::ReplaceAll(text, folder_ / "", "");
     return text;
 }
 
@@ -59,9 +39,4 @@ std::vector<std::string> DocumentFolder::Names(const std::string& document) cons
     std::vector<std::string> names;
     for (const auto& material : list.at("materials")) names.push_back(material.at("name"));
     return names;
-}
-
-std::string DocumentFolder::Contents(const std::string& path) const {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }

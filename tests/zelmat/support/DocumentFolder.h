@@ -6,17 +6,17 @@
 #include <vector>
 
 #include "tests/zelmat/support/Program.h"
+#include "tests/zelmat/support/TestFolder.h"
 
 /// A test that works with documents in a folder of its own, which goes with it.
 class DocumentFolder : public testing::Test {
 protected:
-    DocumentFolder();
-    ~DocumentFolder() override;
-
-    std::string Path(const std::string& name) const { return folder_ + "/" + name; }
+    std::string Path(const std::string& name) const { return folder_ / name; }
 
     /// Writes a file into the folder; answers its path.
-    std::string File(const std::string& name, const std::string& text) const;
+    std::string File(const std::string& name, const std::string& text) const {
+        return folder_.File(name, text);
+    }
 
     /// Makes an empty document in the folder; answers its path.
     std::string NewDocument(const std::string& name = "a.zeldoc") const;
@@ -35,10 +35,8 @@ protected:
     /// The names of a document's materials, in their order.
     std::vector<std::string> Names(const std::string& document) const;
 
-    std::string Contents(const std::string& path) const;
-
 private:
     std::string Shorten(std::string text) const;
 
-    std::string folder_;
+    const TestFolder folder_;
 };

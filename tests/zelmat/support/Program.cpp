@@ -8,15 +8,10 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
+
+#include "tests/zelmat/support/TestFolder.h"
 
 namespace {
-
-std::string Contents(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 /// For the shell, which takes everything between single quotes as it stands.
 std::string Quoted(const std::string& text) {

@@ -1,0 +1,36 @@
+#include "zelmat/commands/MaterialChange.h"
+
+#include <CLI/CLI.hpp>
+
+namespace zelmat {
+
+void MaterialChange::Declare(CLI::App& line) {
+    line.add_option("DOC", document_, "Document")->required();
+    line.add_option("MATERIAL", wanted_, "Its name, a beginning that no other has, or #number")->required();
+    DeclareFurther(line);
+}
+
+void MaterialChange::Work(CommandContext& context) {
+    Findings& findings = context.findings;
+    const auto document = DocumentToChange::Open(document_, context.options.catalogs, findings);
+    if (!document) return;
+    const auto material = ChosenMaterial(document->Document(), wanted_, document_, findings);
+    if (!material) return;
+    KORStep step(document->Document(), StepName(*material));
+    if (!Change(document->Document(), *material, findings)) return;
+    step.Commit();
+    change_ = SaveChange(*document, context);
+    if (change_) changed_ = material->name;
+}
+
+void MaterialChange::Print(std::ostream& out) const {
+    if (change_) PrintChange(out, *change_);
+}
+
+nlohmann::ordered_json MaterialChange::Json() const {
+    nlohmann::ordered_json json;
+    AddChange(json, change_);
+    return json;
+}
+
+}  // namespace zelmat
