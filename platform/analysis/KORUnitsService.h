@@ -16,6 +16,9 @@ public:
     /// False, and nothing changes, for an unknown unit type or a symbol that is none of its units.
     bool SetCurrentUnit(std::string_view unitType, std::string_view symbol);
 
+    /// Back to the unit that the type starts with, as if nobody had set another.
+    void ForgetCurrentUnit(const KORUnitType& type) { current_.erase(&type); }
+
     /// Whether somebody has set the current unit of that type: it is not just the one it starts with.
     bool IsChosen(const KORUnitType& type) const { return current_.contains(&type); }
 

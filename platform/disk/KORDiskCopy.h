@@ -6,7 +6,7 @@
 
 /// Whole documents as files: written anew beside the place where they are to lie, made durable, and then
 /// given their name. So there is the old file or the new one at any time. A killed copy leaves its unfinished
-/// file behind, whose name begins with a dot and ends in ".tmp"; nothing ever reads it.
+/// file behind (KORFileBeside); nothing ever reads it, and the next one to the same place takes it away.
 namespace KORDiskCopy {
 
 /// Writes a document anew without the room that removed features left in it. Others can read it meanwhile,

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/analysis/KORUnitTypes.h"
 #include "platform/disk/KORDiskReader.h"
 #include "platform/disk/KORDiskSchema.h"
 
@@ -149,4 +150,10 @@ bool KORDiskDocument::GoToStep(std::uint32_t number) {
 void KORDiskDocument::SetHistoryBounds(std::int64_t steps, std::int64_t bytes) {
     index_.head.mostSteps = steps;
     index_.head.mostBytes = bytes;
+}
+
+bool KORDiskDocument::SetPressureUnit(const std::string& symbol) {
+    if (!symbol.empty() && !KORFindUnit(*KORFindUnitType("PRESSURE"), symbol)) return false;
+    index_.head.pressureUnit = symbol;
+    return true;
 }

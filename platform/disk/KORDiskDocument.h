@@ -22,8 +22,7 @@ public:
                                                                  const std::string& path,
                                                                  KORFileError& error);
 
-    /// Reads a document. The file is free for others again when this answers. The unit of pressure that the
-    /// document was saved with, if one was chosen, becomes the platform's current one.
+    /// Reads a document. The file is free for others again when this answers.
     [[nodiscard]] static std::unique_ptr<KORDiskDocument> OpenToRead(KORPlatform& platform,
                                                                      const std::string& path,
                                                                      KORFileError& error,
@@ -71,6 +70,13 @@ public:
     void SetHistoryBounds(std::int64_t steps, std::int64_t bytes);
     std::int64_t MostSteps() const { return index_.head.mostSteps; }
     std::int64_t MostBytes() const { return index_.head.mostBytes; }
+
+    /// Symbol of the unit of pressure that numbers of older releases in the document are in; empty: nobody
+    /// said. It is the document's alone: the platform's current unit, of which there is one for all documents
+    /// that are open, neither becomes it nor is saved.
+    const std::string& PressureUnit() const { return index_.head.pressureUnit; }
+    /// From the next Save on. False, and nothing changes, when that is no unit of pressure.
+    [[nodiscard]] bool SetPressureUnit(const std::string& symbol);
 
     /// What users should know and is no error: a newer format, catalogs that cannot be opened. Sentences
     /// without the file's name.

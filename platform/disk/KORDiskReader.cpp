@@ -3,6 +3,7 @@
 #include <limits>
 #include <stdexcept>
 
+#include "platform/analysis/KORUnitTypes.h"
 #include "platform/disk/KORReachedFeatures.h"
 
 namespace {
@@ -46,8 +47,8 @@ void KORDiskReader::ReadHead() {
     if (row.Step()) return Damaged("it has its counters twice");
     index_.savedHead = index_.head;
     const std::string& unit = index_.head.pressureUnit;
-    if (unit.empty() || document_.Platform().Units().SetCurrentUnit("PRESSURE", unit)) return;
-    Damaged(KORShownText(unit) + " is no unit of pressure");
+    if (!unit.empty() && !KORFindUnit(*KORFindUnitType("PRESSURE"), unit))
+        Damaged(KORShownText(unit) + " is no unit of pressure");
 }
 
 void KORDiskReader::ReadNames() {

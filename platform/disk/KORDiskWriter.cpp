@@ -184,9 +184,6 @@ void KORDiskWriter::WriteHead() {
     head.lastFeature = document_.Features().LastNumber();
     head.lastStep = log.LastNumber();
     head.done = log.Done() > 0 ? log.Steps()[log.Done() - 1].number : 0;
-    const KORUnitType& pressure = *KORFindUnitType("PRESSURE");
-    KORUnitsService& units = document_.Platform().Units();
-    if (units.IsChosen(pressure)) head.pressureUnit = units.CurrentUnit(pressure).symbol;
     if (head == index_.savedHead) return;
     KORSqliteStatement row(file_, "INSERT OR REPLACE INTO document VALUES(1,?,?,?,?,?,?)");
     row.Run(head.lastFeature, head.lastStep, head.done, head.mostSteps, head.mostBytes, head.pressureUnit);

@@ -42,13 +42,9 @@ inline std::vector<std::uint32_t> KORNumbersOf(const KORListValKORISpecObject_va
     return numbers;
 }
 
-/// An empty document, and the shortest way to features of the late type above.
-class KORTestDocument : public testing::Test {
+/// The keys of the attributes above.
+class KORTestKeys {
 protected:
-    KORVar<KORFeature> NewFeature(const char* name = "Feature") {
-        return KORFeature::New(*document, layout, name, *container);
-    }
-
     const KORName* const flag = KORName::Intern("Flag");
     const KORName* const count = KORName::Intern("Count");
     const KORName* const length = KORName::Intern("Length");
@@ -56,6 +52,14 @@ protected:
     const KORName* const numbers = KORName::Intern("Numbers");
     const KORName* const other = KORName::Intern("Other");
     const KORName* const others = KORName::Intern("Others");
+};
+
+/// An empty document, and the shortest way to features of the late type above.
+class KORTestDocument : public testing::Test, protected KORTestKeys {
+protected:
+    KORVar<KORFeature> NewFeature(const char* name = "Feature") {
+        return KORFeature::New(*document, layout, name, *container);
+    }
 
     const KORLayoutHandle layout = KORTestLayout();
     KORPlatform platform{"."};

@@ -30,9 +30,12 @@ public:
     void Print(std::ostream& out) const override {
         if (!settings_) return;
         out << "configuration: " << (file_.Path().empty() ? "none" : Printable(file_.Path()))
-            << (file_.Exists() ? "" : " (not there)") << '\n'
-            << "units: " << (settings_->units.empty() ? "not set" : settings_->units) << "\n\n"
-            << "Text shows\n";
+            << (file_.Exists() ? "" : " (not there)") << '\n';
+        for (const UserSetting& kind : UserSettings()) {
+            const std::string& value = (*settings_).*kind.value;
+            out << kind.name << ": " << (value.empty() ? "not set" : Printable(value)) << '\n';
+        }
+        out << "\nText shows\n";
         TablePrinter printer({"quantity", "in"});
         for (const std::size_t words : {0u, 1u}) printer.SetLeft(words);
         const UnitChoice units = settings_->TextUnits();
@@ -47,7 +50,10 @@ public:
                                        {"settings", nlohmann::ordered_json::object()},
                                        {"text_units", nlohmann::ordered_json::object()}};
         if (!settings_) return json;
-        if (!settings_->units.empty()) json["settings"]["units"] = settings_->units;
+        for (const UserSetting& kind : UserSettings()) {
+            const std::string& value = (*settings_).*kind.value;
+            if (!value.empty()) json["settings"][kind.name] = value;
+        }
         const UnitChoice units = settings_->TextUnits();
         for (const Quantity& quantity : Quantities()) {
             json["text_units"][std::string(quantity.name)] = units.For(quantity).Spelling();
@@ -82,7 +88,10 @@ CommandKind ConfigCommand() {
             .text =
                 "Show your settings, or change them: zelmat config units=us; units= takes a setting away.\n"
                 "units takes what the option --units of other commands takes, and counts for text only:\n"
-                "--json and --csv are SI whatever is set.",
+                "--json and --csv are SI whatever is set. history-steps and history-bytes (64MB) bound the\n"
+                "history of every document that you change from then on, its oldest steps going first;\n"
+                "where they are not set, a document keeps what it was told to last, 1000 steps and 64 MB to\n"
+                "begin with.",
             .make = &MakeCommand<Config>};
 }
 

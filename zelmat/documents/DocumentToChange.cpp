@@ -5,6 +5,7 @@
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/files/UnreadableFile.h"
+#include "zelmat/settings/ConfigurationFile.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/WordList.h"
 
@@ -12,9 +13,21 @@ namespace zelmat {
 
 namespace {
 
+/// False, and a finding, for "-", which stands for a stream in every other place of a command line.
+bool IsPath(const std::string& path, Findings& findings) {
+    if (path != "-") return true;
+    findings.Add({FindingKind::USAGE,
+                  {path, 0},
+                  "no-path",
+                  "a document that is made or changed is a file, not a stream",
+                  {"./- is a file of that name"}});
+    return false;
+}
+
 /// False, and a finding, for what is there and no document of the form that can be changed in place.
 bool CanBeChanged(const std::string& path, Findings& findings) {
     std::error_code none;
+    if (!IsPath(path, findings)) return false;
     if (IsDocumentFile(path) || !std::filesystem::is_regular_file(path, none)) return true;
     Findings unread;  // told when it is opened
     const auto text = ReadText(path, unread);
@@ -33,7 +46,8 @@ std::unique_ptr<DocumentToChange> DocumentToChange::Open(const std::string& path
                                                          Findings& findings, Older older) {
     if (!CanBeChanged(path, findings)) return nullptr;
     std::unique_ptr<DocumentToChange> opened(new DocumentToChange(path, catalogs));
-    if (!opened->host_.OpenCatalog(findings)) return nullptr;
+    opened->settings_ = ConfigurationFile().Read(findings);
+    if (!opened->settings_ || !opened->host_.OpenCatalog(findings)) return nullptr;
     KORFileError error;
     opened->file_ = KORDiskDocument::OpenToChange(opened->host_.Platform(), path, error);
     if (!opened->file_) {
@@ -43,14 +57,17 @@ std::unique_ptr<DocumentToChange> DocumentToChange::Open(const std::string& path
     for (const std::string& note : opened->file_->Notes()) {
         findings.Add({FindingKind::NOTE, {path, 0}, "document", note, {}});
     }
+    ChoosePressureUnit(opened->Document(), opened->file_->PressureUnit());
     if (older == Older::UPGRADED && !opened->BringUpToDate(findings)) return nullptr;
     return opened;
 }
 
 std::unique_ptr<DocumentToChange> DocumentToChange::Create(const std::string& path,
                                                            const std::string& catalogs, Findings& findings) {
+    if (!IsPath(path, findings)) return nullptr;
     std::unique_ptr<DocumentToChange> made(new DocumentToChange(path, catalogs));
-    if (!made->host_.OpenCatalog(findings)) return nullptr;
+    made->settings_ = ConfigurationFile().Read(findings);
+    if (!made->settings_ || !made->host_.OpenCatalog(findings)) return nullptr;
     KORFileError error;
     made->file_ = KORDiskDocument::Create(made->host_.Platform(), path, error);
     if (!made->file_) {
@@ -80,9 +97,17 @@ bool DocumentToChange::BringUpToDate(Findings& findings) {
     return true;
 }
 
+void DocumentToChange::KeepHistoryBounds() {
+    const auto steps = settings_->HistorySteps();
+    const auto bytes = settings_->HistoryBytes();
+    if (!steps && !bytes) return;
+    file_->SetHistoryBounds(steps.value_or(file_->MostSteps()), bytes.value_or(file_->MostBytes()));
+}
+
 bool DocumentToChange::Save(const KORHistoryOrigin& origin, Findings& findings) {
     KORFileError error;
-    if (file_->Save(origin, error)) return true;
+    KeepHistoryBounds();
+    if (file_->SetPressureUnit(ChosenPressureUnit(Document())) && file_->Save(origin, error)) return true;
     findings.Add({FindingKind::UNREADABLE, {path_, 0}, "not-saved", error.Sentence(), {}});
     return false;
 }

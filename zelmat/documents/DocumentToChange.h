@@ -7,6 +7,7 @@
 #include "zelmat/documents/UpgradeMaterials.h"
 #include "zelmat/findings/Findings.h"
 #include "zelmat/materials/HostPlatform.h"
+#include "zelmat/settings/Settings.h"
 
 namespace zelmat {
 
@@ -19,7 +20,8 @@ public:
 
     /// Null, and findings, when it cannot be changed: a document in its text form, one of a newer release,
     /// one that somebody else changes, a file that is none. Materials of an older release are brought up to
-    /// date in a step of their own, told as a note; it is saved with the first change.
+    /// date in a step of their own, told as a note; it is saved with the first change. Also none when the
+    /// user's settings cannot be read: they say how much history is kept.
     static std::unique_ptr<DocumentToChange> Open(const std::string& path, const std::string& catalogs,
                                                   Findings& findings, Older older = Older::UPGRADED);
 
@@ -40,10 +42,12 @@ private:
     DocumentToChange(const std::string& path, const std::string& catalogs) : path_(path), host_(catalogs) {}
 
     bool BringUpToDate(Findings& findings);
+    void KeepHistoryBounds();
 
     const std::string path_;
     HostPlatform host_;
     std::unique_ptr<KORDiskDocument> file_;
+    std::optional<Settings> settings_;  // always there once it is opened
     UpgradeReport upgrade_;
 };
 

@@ -7,14 +7,14 @@
 
 namespace zelmat {
 
-std::unique_ptr<DocumentToRead> DocumentToRead::Open(const std::string& path, const std::string& catalogs,
-                                                     Findings& findings, std::optional<std::uint32_t> step) {
+using History = KORDiskDocument::History;
+
+std::unique_ptr<DocumentToRead> DocumentToRead::OpenFile(const std::string& path, const std::string& catalogs,
+                                                         History history, Findings& findings) {
     std::unique_ptr<DocumentToRead> opened(new DocumentToRead(path, catalogs));
     if (!opened->host_.OpenCatalog(findings)) return nullptr;
-    using History = KORDiskDocument::History;
     KORFileError error;
-    opened->file_ = KORDiskDocument::OpenToRead(opened->host_.Platform(), path, error,
-                                                step ? History::Steps : History::Names);
+    opened->file_ = KORDiskDocument::OpenToRead(opened->host_.Platform(), path, error, history);
     if (!opened->file_) {
         findings.Add(UnreadableFile(path, error, "broken-document"));
         return nullptr;
@@ -22,8 +22,21 @@ std::unique_ptr<DocumentToRead> DocumentToRead::Open(const std::string& path, co
     for (const std::string& note : opened->file_->Notes()) {
         findings.Add({FindingKind::NOTE, {path, 0}, "document", note, {}});
     }
-    if (step && !opened->GoToStep(*step, findings)) return nullptr;
-    return opened->Begin(findings) ? std::move(opened) : nullptr;
+    return opened;
+}
+
+std::unique_ptr<DocumentToRead> DocumentToRead::Open(const std::string& path, const std::string& catalogs,
+                                                     Findings& findings, std::optional<std::uint32_t> step) {
+    auto opened = OpenFile(path, catalogs, step ? History::Steps : History::Names, findings);
+    const bool good = opened && (!step || opened->GoToStep(*step, findings)) && opened->Begin(findings);
+    return good ? std::move(opened) : nullptr;
+}
+
+std::unique_ptr<DocumentToRead> DocumentToRead::OpenWithSteps(const std::string& path,
+                                                              const std::string& catalogs,
+                                                              Findings& findings) {
+    auto opened = OpenFile(path, catalogs, History::Steps, findings);
+    return opened && opened->Begin(findings) ? std::move(opened) : nullptr;
 }
 
 std::unique_ptr<DocumentToRead> DocumentToRead::OpenText(const std::string& text, const std::string& name,
@@ -42,6 +55,11 @@ KORMemoryDocument& DocumentToRead::Document() {
     return file_ ? file_->Document() : host_.Document();
 }
 
+bool DocumentToRead::GoTo(std::uint32_t step, Findings& findings) {
+    looking_.reset();
+    return GoToStep(step, findings) && Begin(findings);
+}
+
 bool DocumentToRead::GoToStep(std::uint32_t step, Findings& findings) {
     if (file_->GoToStep(step)) return true;
     const std::string numbers =
@@ -55,6 +73,7 @@ bool DocumentToRead::GoToStep(std::uint32_t step, Findings& findings) {
 }
 
 bool DocumentToRead::Begin(Findings& findings) {
+    if (file_) ChoosePressureUnit(Document(), file_->PressureUnit());
     looking_.emplace(Document(), "look");
     Findings own;
     const UpgradeReport report = UpgradeMaterials(Document(), name_, own);

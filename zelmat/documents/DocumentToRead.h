@@ -25,12 +25,20 @@ public:
                                                 Findings& findings,
                                                 std::optional<std::uint32_t> step = std::nullopt);
 
+    /// The same as it is, with what its steps changed read, too: for GoTo.
+    static std::unique_ptr<DocumentToRead> OpenWithSteps(const std::string& path, const std::string& catalogs,
+                                                         Findings& findings);
+
     /// The same of a text that was read already; `name` is what findings call it.
     static std::unique_ptr<DocumentToRead> OpenText(const std::string& text, const std::string& name,
                                                     const std::string& catalogs, Findings& findings);
 
     const std::string& Name() const { return name_; }  ///< what findings call it
     KORMemoryDocument& Document();
+
+    /// Looks at it as it was after the step of that number; handles of its features are good no more. False,
+    /// and findings, when there is no such step, or a material cannot be brought up to date.
+    [[nodiscard]] bool GoTo(std::uint32_t step, Findings& findings);
 
     /// In the shape in which cards give them.
     std::vector<Material> Materials(Findings& findings);
@@ -43,6 +51,8 @@ public:
 private:
     DocumentToRead(std::string name, const std::string& catalogs) : name_(std::move(name)), host_(catalogs) {}
 
+    static std::unique_ptr<DocumentToRead> OpenFile(const std::string& path, const std::string& catalogs,
+                                                    KORDiskDocument::History history, Findings& findings);
     bool GoToStep(std::uint32_t step, Findings& findings);
     /// Begins the step and brings the materials up to date. False, and findings, when that cannot be done.
     bool Begin(Findings& findings);

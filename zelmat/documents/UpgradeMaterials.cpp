@@ -54,17 +54,20 @@ void ReportUpgrade(const UpgradeReport& report, const std::string& file, Finding
     }
 }
 
-KeptPressureUnit::KeptPressureUnit(KORMemoryDocument& document) : units_(document.Platform().Units()) {
+std::string ChosenPressureUnit(KORMemoryDocument& document) {
+    const KORUnitsService& units = document.Platform().Units();
     const KORUnitType& type = *KORFindUnitType(kPressure);
-    if (units_.IsChosen(type)) named_ = units_.CurrentUnit(type).symbol;
+    return units.IsChosen(type) ? std::string(units.CurrentUnit(type).symbol) : std::string();
 }
 
-KeptPressureUnit::~KeptPressureUnit() {
-    if (!named_.empty()) units_.SetCurrentUnit(kPressure, named_);
+void ChoosePressureUnit(KORMemoryDocument& document, const std::string& symbol) {
+    KORUnitsService& units = document.Platform().Units();
+    units.ForgetCurrentUnit(*KORFindUnitType(kPressure));
+    if (!symbol.empty()) units.SetCurrentUnit(kPressure, symbol);
 }
 
 void SetStoredPressureUnit(KORMemoryDocument& document) {
-    document.Platform().Units().SetCurrentUnit(kPressure, KORFindUnitType(kPressure)->units.front().symbol);
+    ChoosePressureUnit(document, std::string(KORFindUnitType(kPressure)->units.front().symbol));
 }
 
 }  // namespace zelmat

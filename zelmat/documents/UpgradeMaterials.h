@@ -29,18 +29,26 @@ UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& f
 /// A finding for each material whose upgrade failed or that needs one still.
 void ReportUpgrade(const UpgradeReport& report, const std::string& file, Findings& findings);
 
+/// The platform's current unit of pressure: its symbol; empty where nobody has chosen one. On a platform that
+/// is one document's alone it is the one that the document names.
+std::string ChosenPressureUnit(KORMemoryDocument& document);
+void ChoosePressureUnit(KORMemoryDocument& document, const std::string& symbol);
+
 /// Keeps the unit of pressure that a document names through an upgrade, at the end of its scope. With the
 /// upgrade undone the older coefficients are in it again; converted ones say so themselves.
 class KeptPressureUnit {
 public:
-    explicit KeptPressureUnit(KORMemoryDocument& document);
-    ~KeptPressureUnit();
+    explicit KeptPressureUnit(KORMemoryDocument& document)
+        : document_(document), named_(ChosenPressureUnit(document)) {}
+    ~KeptPressureUnit() {
+        if (!named_.empty()) ChoosePressureUnit(document_, named_);
+    }
     KeptPressureUnit(const KeptPressureUnit&) = delete;
     KeptPressureUnit& operator=(const KeptPressureUnit&) = delete;
 
 private:
-    KORUnitsService& units_;
-    std::string named_;  // symbol; empty: none
+    KORMemoryDocument& document_;
+    const std::string named_;
 };
 
 /// Coefficients in this document are in the stored unit of pressure.

@@ -112,7 +112,9 @@ bool ConfigurationFile::Write(const Settings& settings, Findings& findings) cons
         return false;
     }
     nlohmann::ordered_json json = nlohmann::ordered_json::object();
-    if (!settings.units.empty()) json["units"] = settings.units;
+    for (const UserSetting& kind : UserSettings()) {
+        if (!(settings.*kind.value).empty()) json[kind.name] = settings.*kind.value;
+    }
     return WriteOutputFile(path_, json.dump(2) + "\n", {}, findings).has_value();
 }
 

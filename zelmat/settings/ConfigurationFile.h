@@ -9,7 +9,7 @@
 namespace zelmat {
 
 /// Where a user's settings live: zelmat/config.json in $XDG_CONFIG_HOME, or in ~/.config where that is not
-/// set to an absolute path. The file is one JSON object, {"units": "us"}.
+/// set to an absolute path. The file is one JSON object with a text for each setting, {"units": "us"}.
 class ConfigurationFile {
 public:
     ConfigurationFile();

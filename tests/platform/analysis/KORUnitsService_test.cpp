@@ -168,4 +168,15 @@ TEST(KORPlatformUnits, AreInThePlatformsServices) {
     EXPECT_TRUE(platform.Units().SetCurrentUnit("PRESSURE", "MPa"));
 }
 
+TEST(KORUnitsService, ForgetsAChoice) {
+    KORPlatform platform(".");
+    const KORUnitType& pressure = *KORFindUnitType("PRESSURE");
+    ASSERT_TRUE(platform.Units().SetCurrentUnit("PRESSURE", "MPa"));
+
+    platform.Units().ForgetCurrentUnit(pressure);
+
+    EXPECT_FALSE(platform.Units().IsChosen(pressure));
+    EXPECT_EQ("Pa", platform.Units().CurrentUnit(pressure).symbol);
+}
+
 }  // namespace

@@ -1,10 +1,13 @@
 #include "platform/disk/KORDiskCopy.h"
 
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
 
 #include "platform/disk/KORDoctor.h"
+#include "platform/disk/KORFileBeside.h"
 #include "tests/platform/disk/KORDiskTest.h"
 
 namespace {
@@ -106,6 +109,44 @@ TEST_F(KORDiskCopyTest, ACopyReplacesNothing) {
     EXPECT_FALSE(KORDiskCopy::To(Path(), Path("no/folder"), error));
 
     EXPECT_THAT(Files(), testing::ElementsAre("d.zeldoc", "link", "taken"));
+}
+
+TEST_F(KORDiskCopyTest, WhatKilledOnesLeftBesideItGoesAndNothingElse) {
+    MakeDocument();
+    const std::string own = std::to_string(getpid());
+    for (const char* left : {".d.zeldoc.12.tmp", ".copy.zeldoc.7.tmp"}) Touch(left, "unfinished");
+    Touch(".d.zeldoc." + own + ".tmp");  // of a program that had this one's number
+    const std::vector<std::string> foreign = {".d.zeldoc..tmp", ".d.zeldoc.1x.tmp",    ".d.zeldoc.12",
+                                              ".d.zeldoc.tmp",  ".other.zeldoc.1.tmp", "d.zeldoc.12.tmp"};
+    for (const std::string& name : foreign) Touch(name, "somebody's");
+    std::filesystem::create_symlink(Path("d.zeldoc"), Path(".d.zeldoc.13.tmp"));
+    std::filesystem::create_directory(Path(".d.zeldoc.14.tmp"));
+    KORFileError error;
+
+    ASSERT_TRUE(KORDiskCopy::Compact(Path(), error)) << error.Text();
+
+    std::vector<std::string> there = {".copy.zeldoc.7.tmp", ".d.zeldoc.13.tmp", ".d.zeldoc.14.tmp",
+                                      "d.zeldoc"};
+    there.insert(there.end(), foreign.begin(), foreign.end());
+    EXPECT_THAT(Files(), testing::UnorderedElementsAreArray(there));
+    ASSERT_TRUE(KORDiskCopy::To(Path(), Path("copy.zeldoc"), error)) << error.Text();
+    EXPECT_THAT(Files(), testing::Not(testing::Contains(".copy.zeldoc.7.tmp")));
+}
+
+TEST_F(KORDiskCopyTest, WhatAProgramThatRunsIsWritingStays) {
+    KORFileBeside writing(Path());
+    ASSERT_TRUE(writing.Make());
+    const std::string name = std::filesystem::path(writing.Path()).filename();
+    const pid_t second = fork();
+    if (second == 0) {
+        KORFileBeside beside(Path());
+        _exit(beside.Make() && access(writing.Path().c_str(), F_OK) == 0 ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(second, &status, 0);
+
+    EXPECT_EQ(0, status);
+    EXPECT_THAT(Files(), testing::Contains(name));
 }
 
 TEST_F(KORDiskCopyTest, WhatIsNoDocumentIsNeitherCompactedNorCopied) {

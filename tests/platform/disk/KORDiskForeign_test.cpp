@@ -35,15 +35,6 @@ protected:
         Save(*made);
     }
 
-    /// Changes the file with SQLite itself.
-    void Sql(const char* sql) {
-        sqlite3* file = nullptr;
-        ASSERT_EQ(SQLITE_OK, sqlite3_open(Path().c_str(), &file));
-        char* problem = nullptr;
-        EXPECT_EQ(SQLITE_OK, sqlite3_exec(file, sql, nullptr, nullptr, &problem)) << problem;
-        sqlite3_close(file);
-    }
-
     int Number(const char* sql) {
         KORSqlite file(Path());
         EXPECT_TRUE(file.Open(Path()));

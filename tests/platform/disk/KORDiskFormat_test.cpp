@@ -16,14 +16,6 @@ using testing::Optional;
 /// The file as docs/document.md describes it, seen with SQLite alone.
 class KORDiskFormatTest : public KORDiskTest {
 protected:
-    void Sql(const std::string& sql) {
-        sqlite3* file = nullptr;
-        ASSERT_EQ(SQLITE_OK, sqlite3_open(Path().c_str(), &file));
-        char* problem = nullptr;
-        EXPECT_EQ(SQLITE_OK, sqlite3_exec(file, sql.c_str(), nullptr, nullptr, &problem)) << problem;
-        sqlite3_close(file);
-    }
-
     /// The rows of a query, their columns with a "|" between them.
     std::vector<std::string> Rows(const std::string& sql) {
         std::vector<std::string> rows;
@@ -252,15 +244,34 @@ TEST_F(KORDiskFormatTest, TheDocumentsOwnCatalogsAreOpenedAgainAndAMissingOneIsN
 
 TEST_F(KORDiskFormatTest, ThePressureUnitThatWasChosenComesBack) {
     {
-        ASSERT_TRUE(platform->Units().SetCurrentUnit("PRESSURE", "MPa"));
         auto made = Create();
+        EXPECT_EQ("", made->PressureUnit());
+        EXPECT_FALSE(made->SetPressureUnit("furlong"));
+        ASSERT_TRUE(made->SetPressureUnit("MPa"));
         Save(*made);
     }
-    ASSERT_TRUE(platform->Units().SetCurrentUnit("PRESSURE", "Pa"));
+    EXPECT_EQ("MPa", OpenToRead()->PressureUnit());
+    EXPECT_THAT(Rows("SELECT pressure_unit FROM document"), ElementsAre("MPa"));
+}
 
-    OpenToRead();
+TEST_F(KORDiskFormatTest, PressureUnitsOfDocumentsThatAreOpenAtOnceAreTheirOwn) {
+    for (const auto& [name, unit] : {std::pair("mpa.zeldoc", "MPa"), std::pair("none.zeldoc", "")}) {
+        auto made = Create(name);
+        ASSERT_TRUE(made->SetPressureUnit(unit));
+        Save(*made);
+    }
+    ASSERT_TRUE(platform->Units().SetCurrentUnit("PRESSURE", "GPa"));
 
-    EXPECT_EQ("MPa", platform->Units().CurrentUnit(*KORFindUnitType("PRESSURE")).symbol);
+    auto first = OpenToChange("mpa.zeldoc");
+    auto second = OpenToChange("none.zeldoc");
+    Material(first->Document(), "Steel");
+    Material(second->Document(), "Steel");
+    Save(*second);
+    Save(*first);
+
+    EXPECT_EQ("MPa", OpenToRead("mpa.zeldoc")->PressureUnit());
+    EXPECT_EQ("", OpenToRead("none.zeldoc")->PressureUnit());
+    EXPECT_EQ("GPa", platform->Units().CurrentUnit(*KORFindUnitType("PRESSURE")).symbol);
 }
 
 TEST_F(KORDiskFormatTest, NumbersOfFeaturesAndStepsAreNeverGivenTwice) {

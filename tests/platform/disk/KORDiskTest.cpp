@@ -1,5 +1,6 @@
 #include "tests/platform/disk/KORDiskTest.h"
 
+#include <sqlite3.h>
 #include <stdlib.h>
 #include <unistd.h>
 
@@ -128,6 +129,14 @@ void KORDiskTest::Touch(const std::string& name, const std::string& content) con
 std::string KORDiskTest::Content(const std::string& name) const {
     std::ifstream file(Path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void KORDiskTest::Sql(const std::string& statements) const {
+    sqlite3* file = nullptr;
+    ASSERT_EQ(SQLITE_OK, sqlite3_open(Path().c_str(), &file));
+    char* problem = nullptr;
+    EXPECT_EQ(SQLITE_OK, sqlite3_exec(file, statements.c_str(), nullptr, nullptr, &problem)) << problem;
+    sqlite3_close(file);
 }
 
 std::unique_ptr<KORDiskDocument> KORDiskTest::Create(const std::string& name) {

@@ -12,7 +12,7 @@ std::string KORShownValue(const KORValue& value);
 
 /// A folder of the test's own, a platform whose shared catalog declares a late type with one attribute of
 /// every kind, and the shortest way to documents in files.
-class KORDiskTest : public testing::Test {
+class KORDiskTest : public testing::Test, protected KORTestKeys {
 protected:
     KORDiskTest();
     ~KORDiskTest() override;
@@ -22,6 +22,7 @@ protected:
     std::vector<std::string> Files() const;  ///< the folder's, sorted, without the catalog
     void Touch(const std::string& name, const std::string& content = "") const;
     std::string Content(const std::string& name = "d.zeldoc") const;
+    void Sql(const std::string& statements) const;  ///< changes d.zeldoc with SQLite itself
 
     // Null, and the test has failed, when it does not work.
     std::unique_ptr<KORDiskDocument> Create(const std::string& name = "d.zeldoc");
@@ -46,14 +47,6 @@ protected:
         change();
         step.Commit();
     }
-
-    const KORName* const flag = KORName::Intern("Flag");
-    const KORName* const count = KORName::Intern("Count");
-    const KORName* const length = KORName::Intern("Length");
-    const KORName* const text = KORName::Intern("Text");
-    const KORName* const numbers = KORName::Intern("Numbers");
-    const KORName* const other = KORName::Intern("Other");
-    const KORName* const others = KORName::Intern("Others");
 
     std::unique_ptr<KORPlatform> platform;
 

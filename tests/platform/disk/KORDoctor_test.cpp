@@ -1,7 +1,5 @@
 #include "platform/disk/KORDoctor.h"
 
-#include <sqlite3.h>
-
 #include "tests/platform/disk/KORDiskTest.h"
 
 namespace {
@@ -21,14 +19,6 @@ protected:
             first->AppendComponent(others, Material(made->Document(), "Second").Get());
         });
         Save(*made);
-    }
-
-    void Sql(const char* sql) {
-        sqlite3* file = nullptr;
-        ASSERT_EQ(SQLITE_OK, sqlite3_open(Path().c_str(), &file));
-        char* problem = nullptr;
-        EXPECT_EQ(SQLITE_OK, sqlite3_exec(file, sql, nullptr, nullptr, &problem)) << problem;
-        sqlite3_close(file);
     }
 
     /// "kind: text -> repair", each.

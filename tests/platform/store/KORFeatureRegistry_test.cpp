@@ -1,6 +1,7 @@
 #include "platform/store/KORFeatureRegistry.h"
 
 #include "KORTestDocument.h"
+#include "platform/store/KORStep.h"
 
 namespace {
 
@@ -74,6 +75,71 @@ TEST_F(KORFeatureRegistryTest, ListsWhatUndoAndRedoChange) {
     document->Features().Clean();
     document->Redo();
     EXPECT_EQ((std::vector<std::uint32_t>{1}), document->Features().Dirty());
+}
+
+/// Every way to write a feature, each of them alone since the last save.
+TEST_F(KORFeatureRegistryTest, ListsAFeatureHoweverItWasWritten) {
+    const auto feature = NewFeature();
+    const auto target = NewFeature();
+    const auto isListedAfter = [&](const auto& write) {
+        document->Features().Clean();
+        write();
+        return document->Features().Dirty() == std::vector<std::uint32_t>{1};
+    };
+    EXPECT_TRUE(isListedAfter([&] { feature->SetBoolean(flag, false, 0); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetInteger(count, 8, 0); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetDouble(length, 2.5, 0); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetString(text, "words", 0); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetListOfDouble(numbers, KORNumbers({1.0})); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetComponent(other, target.Get(), 0); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->AppendComponent(others, target.Get()); }));  // makes the list
+    EXPECT_TRUE(isListedAfter([&] { feature->AppendComponent(others, target.Get()); }));  // lengthens it
+    EXPECT_TRUE(isListedAfter([&] { feature->AppendComponent(others, nullptr); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->RemoveAllValues(numbers); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->RemoveValue(numbers); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetAlias("alias"); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetUndeclared("Late", KORValue::OfDouble(1.0)); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->RemoveUndeclared("Late"); }));
+    EXPECT_TRUE(isListedAfter([&] { feature->SetContainer(nullptr); }));
+}
+
+TEST_F(KORFeatureRegistryTest, ListsAFeatureWhoseListGrowsInsideAStep) {
+    const auto feature = NewFeature();
+    feature->AppendComponent(others, nullptr);
+    KORStep step(*document, "Grow");
+    feature->AppendComponent(others, nullptr);
+    document->Features().Clean();
+
+    feature->AppendComponent(others, nullptr);  // longer than what the step keeps already
+
+    EXPECT_EQ((std::vector<std::uint32_t>{1}), document->Features().Dirty());
+}
+
+TEST_F(KORFeatureRegistryTest, CountsNumbersThatAreSkippedAsGiven) {
+    document->Features().SkipTo(1000);
+    EXPECT_EQ(1000u, document->Features().LastNumber());
+    EXPECT_EQ(0u, document->Features().Size());
+    EXPECT_TRUE(document->Features().Dirty().empty());
+    EXPECT_EQ(nullptr, document->Features().Find(700));
+    EXPECT_EQ(1001u, NewFeature()->Number());
+
+    document->Features().SkipTo(10);
+
+    EXPECT_EQ(1001u, document->Features().LastNumber());
+    EXPECT_EQ(1002u, NewFeature()->Number());
+}
+
+TEST_F(KORFeatureRegistryTest, ListsNumbersThatAreGoneUntilTheyAreSavedAlsoWhereNothingLives) {
+    for (int i = 0; i < 600; ++i) {
+        const auto feature = NewFeature();
+        if (i < 500) document->Remove(feature.Get());
+    }
+
+    EXPECT_EQ(600u, document->Features().Dirty().size());
+    document->Features().Clean();
+    EXPECT_TRUE(document->Features().Dirty().empty());
+    EXPECT_EQ(nullptr, document->Features().Find(100));
+    EXPECT_EQ(501u, document->Features().Find(501)->Number());
 }
 
 }  // namespace

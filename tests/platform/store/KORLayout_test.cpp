@@ -60,4 +60,15 @@ TEST(KORLayout, HasANumberOfItsOwnAlsoUnderTheSameName) {
     EXPECT_EQ(one.Ordinal() + 1, two.Ordinal());
 }
 
+TEST(KORLayout, OfATypeThatNoCatalogDeclaresHasNoAttributesAndIsOnePerName) {
+    const KORName* const name = KORName::Intern("KORNobodysLT");
+
+    const KORLayoutHandle layout = KORLayout::OfUndeclaredType(name);
+
+    EXPECT_EQ(name, layout->Name());
+    EXPECT_TRUE(layout->Attributes().empty());
+    EXPECT_EQ(layout, KORLayout::OfUndeclaredType(name));
+    EXPECT_NE(layout, KORLayout::OfUndeclaredType(KORName::Intern("KORNobodysOtherLT")));
+}
+
 }  // namespace

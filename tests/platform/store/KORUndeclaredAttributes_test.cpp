@@ -215,4 +215,26 @@ TEST_F(KORUndeclaredAttributesTest, CostNothingWhereThereAreNone) {
               sizeof(KORFeature));
 }
 
+TEST_F(KORUndeclaredAttributesTest, HaveSlotsThatAreVisitedBehindThoseOfTheType) {
+    const auto feature = NewFeature();
+    const std::string_view odd("a\0b", 3);
+    feature->SetUndeclared(KORUnicodeString(odd), KORValue::OfDouble(2.0));
+    feature->SetUndeclared("Gone", KORValue::OfDouble(3.0));
+    feature->RemoveUndeclared("Gone");
+
+    std::vector<std::string> visited;
+    feature->ForEachSlot([&](KORSlot slot) {
+        const bool absent = feature->At(slot).State() == KORValueState::Absent;
+        visited.push_back(std::string(feature->SlotText(slot)) + (absent ? " absent" : ""));
+    });
+
+    EXPECT_EQ((std::vector<std::string>{"Flag", "Count", "Length", "Text", "Numbers", "Other", "Others",
+                                        std::string(odd), "Gone absent"}),
+              visited);
+    const KORSlot slot = feature->UndeclaredSlot(KORUnicodeString(odd));
+    EXPECT_GE(slot, KORLayout::kFirstUndeclared);
+    EXPECT_EQ(2.0, feature->At(slot).Double());
+    EXPECT_STREQ("a", feature->SlotName(slot));
+}
+
 }  // namespace

@@ -90,11 +90,63 @@ TEST_F(ConfigCommand, StopsWhatWouldShowNumbersWhenItCannotBeRead) {
     EXPECT_EQ(Run({"unit", "5 mil", "mm"}).exitCode, 0);
 }
 
+TEST_F(ConfigCommand, BoundsTheHistoryOfTheDocumentsThatAreChanged) {
+    const std::string document = folder_ + "/a.zeldoc";
+    EXPECT_THAT(Run({"config"}).out, HasSubstr("\nhistory-steps: not set\nhistory-bytes: not set\n"));
+    EXPECT_THAT(Run({"config", "history-steps=2", "history-bytes=1 MB"}).out,
+                HasSubstr("\nhistory-steps: 2\nhistory-bytes: 1 MB\n"));
+    Run({"new", document});
+    Run({"add", document, "two_tables.json"});
+    for (const char* change : {"description=a", "description=b"}) Run({"set", document, "Two", change});
+    const auto numbers = [&] {
+        std::vector<int> all;
+        const json log = json::parse(Run({"log", document, "--json"}).out);
+        for (const json& step : log["steps"]) all.push_back(step["number"]);
+        return all;
+    };
+    EXPECT_THAT(numbers(), testing::ElementsAre(2, 3));
+
+    // A document keeps what it was told, where a user says nothing.
+    Run({"config", "history-steps=", "history-bytes="});
+    Run({"set", document, "Two", "description=c"});
+    EXPECT_THAT(numbers(), testing::ElementsAre(3, 4));
+
+    Run({"config", "history-steps=1000", "history-bytes=0"});
+    Run({"set", document, "Two", "description=d"});
+    EXPECT_THAT(numbers(), testing::ElementsAre(5));
+}
+
+TEST_F(ConfigCommand, RefusesAWrongAmountOfHistoryByItsName) {
+    const ProgramRun run = Run({"config", "history-steps=many", "history-bytes=big"});
+
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.err,
+                HasSubstr("error[wrong-setting]: history-steps: expected a whole number from 0 to "));
+    EXPECT_THAT(run.err, HasSubstr("error[wrong-setting]: history-bytes: expected a number of bytes"));
+    EXPECT_FALSE(std::filesystem::exists(folder_));
+}
+
+TEST_F(ConfigCommand, KeepsDocumentsFromBeingChangedWhenItCannotBeRead) {
+    const std::string document = folder_ + "/a.zeldoc";
+    std::filesystem::create_directories(folder_ + "/zelmat");
+    Run({"new", document});
+    Run({"add", document, "two_tables.json"});
+    std::ofstream(file_) << R"({"history-steps": "few"})";
+
+    const ProgramRun run = Run({"set", document, "Two", "description=a"});
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_THAT(run.err, StartsWith(file_ + ":1: error[bad-configuration]: history-steps: expected"));
+    EXPECT_EQ(Run({"undo", document}).exitCode, 3);
+    EXPECT_EQ(Run({"new", folder_ + "/b.zeldoc"}).exitCode, 3);
+    EXPECT_FALSE(std::filesystem::exists(folder_ + "/b.zeldoc"));
+    EXPECT_EQ(Run({"list", document}).exitCode, 0);
+}
+
 TEST_F(ConfigCommand, PrintsOneJsonObject) {
-    const json told = json::parse(Run({"config", "units=us", "--json"}).out);
+    const json told = json::parse(Run({"config", "units=us", "history-bytes=1MB", "--json"}).out);
 
     EXPECT_EQ(told["configuration"], file_);
-    EXPECT_EQ(told["settings"], json::parse(R"({"units": "us"})"));
+    EXPECT_EQ(told["settings"], json::parse(R"({"units": "us", "history-bytes": "1MB"})"));
     EXPECT_EQ(told["text_units"]["stress"], "psi");
 }
 
