@@ -4,31 +4,20 @@
 #include <filesystem>
 
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/ComparedPairs.h"
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/MaterialPairs.h"
-#include "zelmat/layups/LayupDifferences.h"
-#include "zelmat/layups/WholeLayup.h"
-#include "zelmat/materials/Differences.h"
+#include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/text/Printable.h"
 
 namespace zelmat {
 
 namespace {
 
-/// A material or layup of both sides, or of one.
-struct DiffPair {
-    std::string name;
-    bool inA = false;
-    bool inB = false;
-    std::vector<Difference> differences = {};  // where it is in both
-
-    bool IsSame() const { return inA && inB && differences.empty(); }
-};
-
-/// What one side holds.
+/// What one side holds; nothing of what it has no place for, which is not compared then.
 struct DiffContent {
-    std::vector<Material> materials = {};
-    std::vector<LayupCard> layups = {};
+    std::optional<std::vector<Material>> materials;
+    std::optional<std::vector<LayupCard>> layups;
 };
 
 /// "DOC#3": the document as it was after its step 3, unless there is a file of that name.
@@ -53,20 +42,19 @@ struct DiffSide {
         if (step) {
             return Held(DocumentToRead::Open(path, context.options.catalogs, findings, step).get(), findings);
         }
+        if (IsLayupCard(path)) {
+            auto card = LayupCardReader(findings).Read(path);
+            return {std::nullopt, card ? std::vector{std::move(*card)} : std::vector<LayupCard>()};
+        }
         GivenFile given = OpenGiven(path, context.options, findings);
-        if (given.text) return {.materials = CardsOfText(std::move(*given.text), path, findings)};
+        if (given.text) return {CardsOfText(std::move(*given.text), path, findings), std::nullopt};
         return Held(given.document.get(), findings);
     }
 
 private:
     static DiffContent Held(DocumentToRead* document, Findings& findings) {
-        DiffContent content;
-        if (!document) return content;
-        content.materials = document->Materials(findings);
-        for (WholeLayup& layup : ReadWholeLayups(document->Document(), document->Name(), findings)) {
-            content.layups.push_back(std::move(layup.card));
-        }
-        return content;
+        if (!document) return {};
+        return {document->Materials(findings), ComparedLayupsOf(*document, findings)};
     }
 };
 
@@ -75,30 +63,6 @@ nlohmann::ordered_json SideJson(const DifferenceSide& side) {
     nlohmann::ordered_json json = {{"value", side.text}};
     if (!side.unit.empty()) json["unit"] = side.unit;
     return json;
-}
-
-/// Pairs by name, of equal names the first with the first; two alone whatever their names. `compare` answers
-/// in what two differ.
-template <class Each, class Compare>
-std::vector<DiffPair> Pairs(const std::vector<Each>& a, const std::vector<Each>& b, Compare compare) {
-    if (a.size() == 1 && b.size() == 1) {
-        return {{a.front().name, true, true, compare(a.front(), b.front())}};
-    }
-    std::vector<DiffPair> pairs;
-    std::vector<bool> taken(b.size(), false);
-    for (const Each& before : a) {
-        DiffPair pair{before.name, true, false};
-        for (std::size_t at = 0; at < b.size() && !pair.inB; ++at) {
-            if (taken[at] || b[at].name != before.name) continue;
-            taken[at] = pair.inB = true;
-            pair.differences = compare(before, b[at]);
-        }
-        pairs.push_back(std::move(pair));
-    }
-    for (std::size_t at = 0; at < b.size(); ++at) {
-        if (!taken[at]) pairs.push_back({b[at].name, false, true});
-    }
-    return pairs;
 }
 
 /// Compares materials and layups value for value.
@@ -110,29 +74,32 @@ public:
     }
 
     void Work(CommandContext& context) override {
-        const DiffContent a = DiffSide(before_).Read(context);
-        const DiffContent b = DiffSide(after_).Read(context);
+        a_ = DiffSide(before_).Read(context);
+        b_ = DiffSide(after_).Read(context);
         if (context.findings.HasErrors()) return;
-        materials_ = Pairs(a.materials, b.materials, [&](const Material& before, const Material& after) {
-            return Differences(before, after, context.units);
-        });
-        layups_ = Pairs(a.layups, b.layups, [&](const LayupCard& before, const LayupCard& after) {
-            return LayupDifferences(before, after, context.units);
-        });
+        if (!(a_.materials && b_.materials) && !(a_.layups && b_.layups)) {
+            context.findings.Add({FindingKind::USAGE,
+                                  {"zelmat diff", 0},
+                                  "not-comparable",
+                                  "a material card and a layup card have nothing to compare",
+                                  {}});
+            return;
+        }
+        if (a_.materials && b_.materials) materials_ = Compared(*a_.materials, *b_.materials, context.units);
+        if (a_.layups && b_.layups) layups_ = Compared(*a_.layups, *b_.layups, context.units);
         compared_ = true;
     }
 
     ExitCode Outcome() const override {
-        const auto same = [](const std::vector<DiffPair>& pairs) {
-            return std::all_of(pairs.begin(), pairs.end(),
-                               [](const DiffPair& pair) { return pair.IsSame(); });
+        const auto same = [](const auto& pairs) {
+            return std::all_of(pairs.begin(), pairs.end(), [](const auto& pair) { return pair.IsSame(); });
         };
         return !compared_ || (same(materials_) && same(layups_)) ? EXIT_CLEAN : EXIT_FINDINGS;
     }
 
     void Print(std::ostream& out) const override {
-        for (const DiffPair& pair : materials_) PrintPair(out, "", pair);
-        for (const DiffPair& pair : layups_) PrintPair(out, "layup ", pair);
+        for (const auto& pair : materials_) PrintPair(out, "", pair);
+        for (const auto& pair : layups_) PrintPair(out, "layup ", pair);
     }
 
     nlohmann::ordered_json Json() const override {
@@ -143,23 +110,25 @@ public:
     }
 
 private:
-    void PrintPair(std::ostream& out, const char* noun, const DiffPair& pair) const {
+    template <class Each>
+    void PrintPair(std::ostream& out, const char* noun, const ComparedPair<Each>& pair) const {
         if (pair.IsSame()) return;
-        out << noun << Printable(pair.name);
-        if (!pair.inB) out << ": only in " << Printable(before_);
-        if (!pair.inA) out << ": only in " << Printable(after_);
+        out << noun << Printable(pair.Name());
+        if (!pair.after) out << ": only in " << Printable(before_);
+        if (!pair.before) out << ": only in " << Printable(after_);
         out << '\n';
         for (const Difference& difference : pair.differences) {
             out << "  " << Printable(DifferenceText(difference)) << '\n';
         }
     }
 
-    static nlohmann::ordered_json PairsJson(const std::vector<DiffPair>& pairs) {
+    template <class Each>
+    static nlohmann::ordered_json PairsJson(const std::vector<ComparedPair<Each>>& pairs) {
         nlohmann::ordered_json json = nlohmann::ordered_json::array();
-        for (const DiffPair& pair : pairs) {
+        for (const ComparedPair<Each>& pair : pairs) {
             if (pair.IsSame()) continue;
-            nlohmann::ordered_json& one = json.emplace_back(
-                nlohmann::ordered_json{{"name", pair.name}, {"in_a", pair.inA}, {"in_b", pair.inB}});
+            nlohmann::ordered_json& one = json.emplace_back(nlohmann::ordered_json{
+                {"name", pair.Name()}, {"in_a", pair.before != nullptr}, {"in_b", pair.after != nullptr}});
             one["differences"] = nlohmann::ordered_json::array();
             for (const Difference& difference : pair.differences) {
                 one["differences"].push_back({{"key", difference.key},
@@ -173,8 +142,10 @@ private:
 
     std::string before_;
     std::string after_;
-    std::vector<DiffPair> materials_;
-    std::vector<DiffPair> layups_;
+    DiffContent a_;  // which the pairs point into
+    DiffContent b_;
+    std::vector<ComparedPair<Material>> materials_;
+    std::vector<ComparedPair<LayupCard>> layups_;
     bool compared_ = false;
 };
 
@@ -184,10 +155,11 @@ CommandKind DiffCommand() {
     return {.name = "diff",
             .brief = "compare cards, documents or steps of a document, value for value",
             .text =
-                "Compare the materials and layups of two cards, documents or steps of a document (DOC#3 "
-                "DOC#7; #0: before\n"
-                "the first that is kept), value for value, with units. Materials are compared by name, one\n"
-                "with one whatever their names. Exit code 0: they are the same, 1: they differ.",
+                "Compare the materials and layups of two cards, documents or steps of a document (DOC#3\n"
+                "DOC#7; #0: before the first that is kept), value for value, with units. They are compared\n"
+                "by name, one alone with one alone whatever their names; with a material card materials "
+                "alone, with a\n"
+                "layup card layups alone. Exit code 0: they are the same, 1: they differ.",
             .units = true,
             .make = &MakeCommand<Diff>};
 }

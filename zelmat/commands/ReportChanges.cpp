@@ -1,9 +1,6 @@
 #include "zelmat/commands/ReportChanges.h"
 
-#include <algorithm>
-
-#include "zelmat/commands/GivenLayups.h"
-#include "zelmat/commands/MaterialPairs.h"
+#include "zelmat/commands/ComparedPairs.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/quantities/ShownQuantity.h"
 #include "zelmat/text/WordList.h"
@@ -13,24 +10,6 @@ namespace zelmat {
 namespace {
 
 constexpr int kDigits = 6;
-
-/// A document at one of its steps.
-struct DocumentState {
-    GivenContent content;
-    std::vector<KORHistoryStep> steps;
-    bool read = false;
-};
-
-DocumentState StateOf(const std::string& path, std::optional<std::uint32_t> step,
-                      const CommandContext& context, Findings& findings) {
-    DocumentState state;
-    const auto document = DocumentToRead::Open(path, context.options.catalogs, findings, step);
-    if (!document) return state;
-    state.content = {document->Materials(findings), LayupCardsOf(*document, findings)};
-    state.steps = document->Steps();
-    state.read = true;
-    return state;
-}
 
 /// The steps that were done after this one.
 ReportChange StepsAfter(std::uint32_t step, const std::vector<KORHistoryStep>& steps) {
@@ -43,20 +22,6 @@ ReportChange StepsAfter(std::uint32_t step, const std::vector<KORHistoryStep>& s
     return change;
 }
 
-void AddMaterials(const GivenContent& before, const GivenContent& after, const UnitChoice& units,
-                  std::vector<ReportChange>& changes) {
-    for (const MaterialPair& pair : PairMaterials(before.materials, after.materials, units)) {
-        if (pair.IsSame()) continue;
-        ReportChange& change = changes.emplace_back();
-        change.title = "Material " + pair.Name();
-        if (!pair.before) change.lines.emplace_back("added");
-        if (!pair.after) change.lines.emplace_back("removed");
-        for (const Difference& difference : pair.differences) {
-            change.lines.push_back(DifferenceText(difference));
-        }
-    }
-}
-
 /// "[0/90]s, 4 layers, 0.5 mm, of T300/5208"
 std::string StackText(const LayupCard& card, const UnitChoice& units) {
     const StoredLayup stack = LayupOf(card);
@@ -67,42 +32,43 @@ std::string StackText(const LayupCard& card, const UnitChoice& units) {
     return WordList(words) + (plies.empty() ? "" : ", of " + plies);
 }
 
-const LayupCard* Named(const std::vector<LayupCard>& cards, const std::string& name) {
-    const auto found =
-        std::find_if(cards.begin(), cards.end(), [&](const LayupCard& card) { return card.name == name; });
-    return found == cards.end() ? nullptr : &*found;
+std::string WordsOf(const Material&, const UnitChoice&) {
+    return "";
 }
 
-void AddLayups(const GivenContent& before, const GivenContent& after, const UnitChoice& units,
-               std::vector<ReportChange>& changes) {
-    for (const LayupCard& card : before.layups) {
-        const LayupCard* const now = Named(after.layups, card.name);
-        if (!now) {
-            changes.push_back({"Layup " + card.name, {"removed"}});
-        } else if (LayupOf(card).layers != LayupOf(*now).layers) {
-            changes.push_back({"Layup " + card.name,
-                               {"layers: " + StackText(card, units) + " -> " + StackText(*now, units)}});
+std::string WordsOf(const LayupCard& card, const UnitChoice& units) {
+    return ": " + StackText(card, units);
+}
+
+template <class Each>
+void AddPairs(const std::string& noun, const std::vector<ComparedPair<Each>>& pairs, const UnitChoice& units,
+              std::vector<ReportChange>& changes) {
+    for (const ComparedPair<Each>& pair : pairs) {
+        if (pair.IsSame()) continue;
+        ReportChange& change = changes.emplace_back();
+        change.title = noun + " " + pair.Name();
+        if (!pair.before) change.lines.push_back("added" + WordsOf(*pair.after, units));
+        if (!pair.after) change.lines.emplace_back("removed");
+        for (const Difference& difference : pair.differences) {
+            change.lines.push_back(DifferenceText(difference));
         }
-    }
-    for (const LayupCard& card : after.layups) {
-        if (Named(before.layups, card.name)) continue;
-        changes.push_back({"Layup " + card.name, {"added: " + StackText(card, units)}});
     }
 }
 
 }  // namespace
 
-void AddChangesSince(std::uint32_t step, const std::string& path, const CommandContext& context,
-                     const UnitChoice& units, ReportContent& content) {
-    const DocumentState before = StateOf(path, step, context, context.findings);
-    if (!before.read) return;
-    Findings known;  // told when the document was read for its sheets
-    const DocumentState now = StateOf(path, std::nullopt, context, known);
+bool AddChangesSince(std::uint32_t step, DocumentToRead& document, const std::vector<Material>& now,
+                     const UnitChoice& units, ReportContent& content, Findings& findings) {
+    const std::vector<LayupCard> layupsNow = ComparedLayupsOf(document, findings);
+    ReportChange steps = StepsAfter(step, document.Steps());
+    if (!document.GoTo(step, findings)) return false;
     content.since = step == 0 ? "of all steps that are kept" : "since step " + std::to_string(step);
-    ReportChange steps = StepsAfter(step, now.steps);
     if (!steps.lines.empty()) content.changes.push_back(std::move(steps));
-    AddMaterials(before.content, now.content, units, content.changes);
-    AddLayups(before.content, now.content, units, content.changes);
+    const std::vector<Material> then = document.Materials(findings);
+    AddPairs("Material", Compared(then, now, units), units, content.changes);
+    const std::vector<LayupCard> layupsThen = ComparedLayupsOf(document, findings);
+    AddPairs("Layup", Compared(layupsThen, layupsNow, units), units, content.changes);
+    return true;
 }
 
 }  // namespace zelmat

@@ -63,13 +63,13 @@ public:
         ReportContent content;
         Progress progress(context.notes);
         ReportGathering gathering(context, *units, content);
-        for (std::size_t i = 0; i < paths_.size(); ++i) {
-            gathering.Add(paths_[i]);
-            progress.Tell("read", i + 1, paths_.size(), "files");
-        }
         if (since_) {
-            AddChangesSince(*since_, paths_.front(), context, *units, content);
-            if (content.since.empty()) return;
+            if (!AddWithChanges(context, *units, content, gathering)) return;
+        } else {
+            for (std::size_t i = 0; i < paths_.size(); ++i) {
+                gathering.Add(paths_[i]);
+                progress.Tell("read", i + 1, paths_.size(), "files");
+            }
         }
         if (content.materials.empty() && content.layups.empty() && content.changes.empty()) {
             if (!findings.HasErrors()) {
@@ -113,6 +113,19 @@ public:
     }
 
 private:
+    /// The document with its changes, read once.
+    bool AddWithChanges(CommandContext& context, const UnitChoice& units, ReportContent& content,
+                        ReportGathering& gathering) const {
+        Findings& findings = context.findings;
+        const auto document =
+            DocumentToRead::OpenWithSteps(paths_.front(), context.options.catalogs, findings);
+        if (!document) return false;
+        GivenContent now = ContentOf(*document, findings);
+        if (!AddChangesSince(*since_, *document, now.materials, units, content, findings)) return false;
+        gathering.Add(std::move(now));
+        return true;
+    }
+
     std::string Title(const ReportContent& content) const {
         if (!title_.empty()) return title_;
         if (content.materials.size() + content.layups.size() != 1) return "Material data sheets";

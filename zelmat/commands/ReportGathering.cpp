@@ -4,7 +4,6 @@
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/checks/Checks.h"
-#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/KeptReport.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/pictures/MaterialPictures.h"
@@ -33,8 +32,7 @@ bool HasFits(const Material& material) {
 
 }  // namespace
 
-void ReportGathering::Add(const std::string& path) {
-    GivenContent given = ReadGiven(path, context_.options, context_.findings);
+void ReportGathering::Add(GivenContent given) {
     for (Material& material : given.materials) AddMaterial(std::move(material));
     for (LayupCard& card : given.layups) AddLayup(std::move(card));
 }

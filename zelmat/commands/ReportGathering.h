@@ -3,6 +3,7 @@
 #include <string>
 
 #include "zelmat/commands/Command.h"
+#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/commands/Progress.h"
 #include "zelmat/report/ReportContent.h"
 
@@ -17,7 +18,8 @@ public:
     ReportGathering(CommandContext& context, const UnitChoice& units, ReportContent& content)
         : context_(context), units_(units), content_(content) {}
 
-    void Add(const std::string& path);
+    void Add(const std::string& path) { Add(ReadGiven(path, context_.options, context_.findings)); }
+    void Add(GivenContent given);
 
     /// Draws every picture of what was added; false, and a finding, when that fails.
     [[nodiscard]] bool Draw(Progress& progress);

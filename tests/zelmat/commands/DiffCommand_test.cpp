@@ -87,6 +87,44 @@ TEST_F(DiffCommand, TellsItsDifferencesAsJson) {
               json::parse(R"({"value": "7850", "unit": "kg/m3"})"));
 }
 
+TEST_F(DiffCommand, ComparesLayupCardsWithEachOtherAndWithTheLayupsOfADocument) {
+    const auto card = [&](const std::string& name, const std::string& angle) {
+        return File(name, R"({"name": "Skin", "ply_materials": {"P": {"E1": 181e9}}, "layers": [
+            {"material": "P", "thickness": 0.001, "angle_deg": 0},
+            {"material": "P", "thickness": 0.001, "angle_deg": )" +
+                              angle + "}]}");
+    };
+    const std::string one = card("one.json", "90");
+    const std::string other = card("other.json", "45");
+    const std::string document = NewDocument();
+    Run({"add", document, File("p.json", R"({"name": "P"})"), Steel("s.json", "7850 kg/m3")});
+    Run({"layup", document, "add", one});
+
+    EXPECT_EQ(Diff(0, one, one), "");
+    EXPECT_EQ(Diff(1, one, other), "layup Skin\n  layers.angle_deg row 2: 90 deg -> 45 deg\n");
+    EXPECT_EQ(Diff(0, one, document), "");
+    EXPECT_EQ(Diff(1, document, other), "layup Skin\n  layers.angle_deg row 2: 90 deg -> 45 deg\n");
+    EXPECT_EQ(json::parse(Diff(1, one, other, {"--json"}))["layups"][0]["differences"][0]["row"], 2);
+    EXPECT_THAT(Refusal(2, {"diff", one, Steel("s.json", "7850 kg/m3")}), HasSubstr("error[not-comparable]"));
+}
+
+TEST_F(DiffCommand, ComparesAMaterialCardWithTheMaterialsOfADocumentAlone) {
+    const std::string steel = Steel("s.json", "7850 kg/m3");
+    const std::string document = NewDocument();
+    Run({"add", document, steel});
+    Run({"layup", document, "add", "Plate", "[0]", "--material", "Steel", "--thickness", "1mm"});
+
+    EXPECT_EQ(Diff(0, steel, document), "");
+}
+
+TEST_F(DiffCommand, TellsThatTheOnlyMaterialHasAnotherName) {
+    const std::string document = NewDocument();
+    Run({"add", document, Steel("s.json", "7850 kg/m3")});
+    Run({"rename", document, "Steel", "Iron"});
+
+    EXPECT_EQ(Diff(1, document + "#1", document), "Steel\n  name: Steel -> Iron\n");
+}
+
 TEST_F(DiffCommand, EndsWithThreeWhenOneSideCannotBeRead) {
     EXPECT_THAT(Refusal(3, {"diff", Path("none"), Steel("a.json", "1 kg/m3")}), HasSubstr("none: error"));
 }

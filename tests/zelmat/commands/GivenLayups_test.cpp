@@ -103,8 +103,8 @@ TEST_F(GivenLayups, AndMaterialsThatHaveChangedSinceAStepAreListed) {
     EXPECT_THAT(page, Not(HasSubstr("Material graphite/epoxy</h3>")));
     EXPECT_THAT(page, HasSubstr("<li>added</li>"));
     EXPECT_THAT(page, HasSubstr("Layup Bare</h3>\n<ul>\n<li>removed</li>"));
-    EXPECT_THAT(page, HasSubstr("<li>layers: [0/30/-45], 3 layers, 15 mm, of graphite/epoxy -&gt; [0/90]s, 4 "
-                                "layers, 20 mm, of graphite/epoxy</li>"));
+    EXPECT_THAT(page, HasSubstr("<li>layers: 3 -&gt; 4</li>\n<li>layers.angle_deg row 2: 30 deg -&gt; 90 "
+                                "deg</li>\n<li>layers.angle_deg row 3: -45 deg -&gt; 90 deg</li>"));
     EXPECT_THAT(Page({"--since", "7"}, 0), HasSubstr("<p>No changes.</p>"));
 }
 
