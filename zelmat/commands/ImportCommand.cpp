@@ -5,7 +5,9 @@
 #include "zelmat/commands/WriteGate.h"
 #include "zelmat/commands/WrittenReport.h"
 #include "zelmat/exchange/calculix/ReadCalculix.h"
+#include "zelmat/exchange/calculix/ReadCalculixLayup.h"
 #include "zelmat/files/OutputFile.h"
+#include "zelmat/layups/LayupCardText.h"
 
 namespace zelmat {
 
@@ -16,6 +18,8 @@ class Import final : public Command {
 public:
     void Declare(CLI::App& line) override {
         line.add_option("DECK", deck_, "CalculiX deck; - is standard input")->required();
+        line.add_option("--layup", layup_,
+                        "Read the composite shell section of this element set into a layup card instead");
         gate_.Declare(line);
     }
 
@@ -29,17 +33,27 @@ public:
                           {"as in --units mm-t-s"}});
             return;
         }
+        if (!layup_.empty() && deck_ == "-") {
+            findings.Add({FindingKind::USAGE,
+                          {"--layup", 0},
+                          "usage",
+                          "a deck on standard input can be read once, for its materials alone",
+                          {}});
+            return;
+        }
         const auto units = DeckUnits::Read(context.options.units, findings);
         if (!units) return;
         const auto materials = ReadCalculix(deck_, *units, findings);
         bool passes = !materials.empty();
         for (const Material& material : materials) passes = gate_.Passes(material, findings) && passes;
         if (!passes) return;
-        std::string text = JsonCardText(materials);
+        auto text =
+            layup_.empty() ? std::optional(JsonCardText(materials)) : LayupText(materials, *units, findings);
+        if (!text) return;
         if (context.options.output.empty()) {
             text_ = std::move(text);
         } else {
-            written_ = WriteOutputFile(context.options.output, text, {deck_}, findings);
+            written_ = WriteOutputFile(context.options.output, *text, {deck_}, findings);
         }
     }
 
@@ -56,7 +70,14 @@ public:
     }
 
 private:
+    std::optional<std::string> LayupText(const std::vector<Material>& materials, const DeckUnits& units,
+                                         Findings& findings) const {
+        const auto layup = ReadCalculixLayup(deck_, layup_, materials, units, findings);
+        return layup ? std::optional(LayupCardText(*layup)) : std::nullopt;
+    }
+
     std::string deck_;
+    std::string layup_;  // element set; empty: the materials
     WriteGate gate_;
     std::optional<std::string> text_;  // when it goes to no file
     std::optional<WrittenFile> written_;
@@ -70,7 +91,8 @@ CommandKind ImportCommand() {
         .brief = "read the materials of a solver's deck into a card",
         .text =
             "Read the material cards of a CalculiX deck into a card, several materials as a list. A deck\n"
-            "names no units: --units says in which its numbers are. Other keywords are skipped and named.",
+            "names no units: --units says in which its numbers are. Other keywords are skipped and named.\n"
+            "With --layup the composite shell section of an element set becomes a layup card.",
         .output = "File for the card; without it, standard output",
         .units = true,
         .make = &MakeCommand<Import>};

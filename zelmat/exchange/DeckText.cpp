@@ -19,11 +19,6 @@ std::string WithDigits(double number, int digits) {
     return {buffer.data(), end.ptr};
 }
 
-std::string Upper(std::string text) {
-    for (char& letter : text) letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
-    return text;
-}
-
 bool IsPlain(char character, const DeckNameRule& rule) {
     const auto code = static_cast<unsigned char>(character);
     return code < 0x80 && (std::isalnum(code) != 0 || character == '_' ||
@@ -57,6 +52,11 @@ std::string RealDeckNumber(double number) {
     return text.find_first_of(".e") == std::string::npos ? text + "." : text;
 }
 
+std::string InCapitals(std::string text) {
+    for (char& letter : text) letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+    return text;
+}
+
 std::string DeckName(std::string_view name, const DeckNameRule& rule, std::set<std::string>& taken) {
     std::string plain;
     for (const char character : name) {
@@ -71,7 +71,7 @@ std::string DeckName(std::string_view name, const DeckNameRule& rule, std::set<s
     if (rule.letterFirst && std::isalpha(static_cast<unsigned char>(plain.front())) == 0) plain = "M" + plain;
     plain.resize(std::min(plain.size(), rule.longest));
     std::string unique = plain;
-    for (int number = 2; !taken.insert(Upper(unique)).second; ++number) {
+    for (int number = 2; !taken.insert(InCapitals(unique)).second; ++number) {
         const std::string ending = "_" + std::to_string(number);
         unique = plain.substr(0, rule.longest - ending.size()) + ending;
     }

@@ -32,6 +32,9 @@ struct DeckNameRule {
 /// case, into which it is put: such a name gets a number at its end.
 std::string DeckName(std::string_view name, const DeckNameRule& rule, std::set<std::string>& taken);
 
+/// The letters of ASCII as capital ones, as solvers compare names.
+std::string InCapitals(std::string text);
+
 /// Text as ASCII on one line: control characters become blanks, every other character that is not ASCII "?",
 /// but for degrees and micro, which are spelled.
 std::string AsciiLine(std::string_view text);

@@ -9,7 +9,7 @@ inline const std::string kExchangeGuide = R"(# Exchange with solvers
 
 ```
 zelmat export CARD|DOC... [MATERIAL|LAYUP] --to SOLVER [--units SYSTEM] --output FILE|FOLDER
-zelmat import DECK --units SYSTEM [--output CARD]
+zelmat import DECK --units SYSTEM [--layup ELSET] [--output CARD]
 zelmat prove CARD|DOC [MATERIAL] --solver ccx [--units SYSTEM] [--deck DECK] [--keep-deck FOLDER]
 ```
 
@@ -31,8 +31,11 @@ has a material of its own. A material that is nothing but a ply is no material w
 
 **Import** reads material cards of CalculiX back: several materials in one deck, continued lines, any case, blanks and
 comments. Keywords that describe no material are skipped and named, once each. A deck is read line by line, however
-large. What a card has no place for is a finding with its line; a line that cannot be read
-stops the import. Export, import and export give the same cards again, but for the comments.
+large. Numbers may be Fortran's (`2.1D5`, `2.1+5`). Constants with directions (`*ELASTIC, TYPE=ENGINEERING CONSTANTS` or
+`ORTHO`, `*EXPANSION, TYPE=ORTHO`, for one temperature) become ply constants. `--layup ELSET` makes a layup card of that
+set's `*SHELL SECTION, COMPOSITE`, whose orientations lie in the plane x-y. What a card has no place for is a finding with
+its line, as is a file of `*INCLUDE`, a number that CalculiX cuts off or takes for 0; a line that cannot be read stops the
+import. Export, import and export give the same cards again, but for the comments.
 
 **Prove** writes the material's CalculiX deck, runs the solver on models of one or two elements in a temporary folder and
 holds what it prints against the formulas: tension, shear, hardening, free expansion, mass, conduction, a bar that is

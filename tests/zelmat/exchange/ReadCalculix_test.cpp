@@ -7,6 +7,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 
 #include "tests/zelmat/exchange/SampleDeck.h"
 #include "tests/zelmat/properties/SampleCard.h"
@@ -108,18 +109,113 @@ TEST(ReadCalculix, ReadsUserMaterialsWithTheirStateVariables) {
 
 TEST(ReadCalculix, TellsWhatACardHasNoPlaceFor) {
     const ReadDeck deck(
-        "*MATERIAL,NAME=M\n*DENSITY\n1\n*ELASTIC,TYPE=ORTHO\n1,2,3,4,5,6,7,8\n9,293.\n*CREEP\n1,2,3\n"
+        "*MATERIAL,NAME=M\n*DENSITY\n1\n*ELASTIC,TYPE=ANISO\n1,2,3,4,5,6,7,8\n9,293.\n*CREEP\n1,2,3\n"
         "*PLASTIC,HARDENING=JOHNSON COOK\n1,2,3,4,5,6\n*INCLUDE,INPUT=more.inp\n");
     EXPECT_THAT(
         deck.findings,
         ElementsAre(
-            "card.json:4: warning[not-imported]: *ELASTIC: TYPE=ORTHO has directions",
+            "card.json:4: warning[not-imported]: *ELASTIC: TYPE=ANISO has no place",
             "card.json:7: warning[not-imported]: *CREEP: a material has no place for it",
             "card.json:9: warning[not-imported]: *PLASTIC: HARDENING=JOHNSONCOOK is neither isotropic "
             "nor kinematic",
             "card.json:11: warning[not-included]: *INCLUDE is not followed: import that file by itself"));
     ASSERT_EQ(deck.materials.size(), 1U);
     EXPECT_EQ(deck.materials[0].blocks.size(), 1U);
+}
+
+TEST(ReadCalculix, ReadsWhatFortranReadsAsNumbers) {
+    const ReadDeck deck(
+        "\xef\xbb\xbf*MATERIAL,NAME=M\n*ELASTIC\n2.1D+11\t,\t3.d-1,20.\n1.9+11, "
+        "3-1,+30\n*DENSITY\n7.85E+03,\n");
+    EXPECT_THAT(deck.findings, IsEmpty());
+    EXPECT_EQ(Rows(deck.Block("elastic").tables[0]), (Lists{{2.1e11, 0.3, 20}, {1.9e11, 0.3, 30}}));
+}
+
+TEST(ReadCalculix, WarnsOfANumberThatTheSolverCuts) {
+    const ReadDeck deck("*MATERIAL,NAME=M\n*DENSITY\n7.851234567890123e+03\n");
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre("card.json:3: warning[long-number]: '7.851234567890123e+03' has more than 20 characters: "
+                    "CalculiX drops those behind them (read as a whole here)"));
+    EXPECT_EQ(Rows(deck.Block("density").tables[0]), (Lists{{7851.234567890123}}));
+}
+
+TEST(ReadCalculix, TellsNumbersThatAreMissing) {
+    const ReadDeck deck("*MATERIAL,NAME=M\n*ELASTIC\n2.1e11\n*MATERIAL,NAME=m\n*PLASTIC\n2e8,,20\n");
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre(
+            "card.json:3: warning[missing-number]: a number of *ELASTIC is missing: it is 0, as in the "
+            "solver",
+            "card.json:4: warning[name-twice]: 'm' is the name of two materials",
+            "card.json:6: warning[missing-number]: a number of *PLASTIC is missing: it is 0, as in the "
+            "solver"));
+}
+
+TEST(ReadCalculix, KnowsTheLineOfARow) {
+    const ReadDeck deck("*MATERIAL,NAME=M\n*ELASTIC\n2.1e11,.3,400\n** cooler\n2.2e11,.3,300\n");
+    const auto& table = deck.Block("elastic").tables[0];
+    EXPECT_EQ(table.origin.Line(1), 5);
+    EXPECT_EQ(table.origin.Line(), 2);
+}
+
+TEST(ReadCalculix, TellsThatTheSolverHasNoIncompressibleRubber) {
+    EXPECT_THAT(
+        ReadDeck("*MATERIAL,NAME=R\n*HYPERELASTIC,NEO HOOKE\n5e5\n").findings,
+        ElementsAre("card.json:2: note[no-compressibility]: D1 is 0, which is incompressible on a card; "
+                    "CalculiX takes one of its own, 4 to 7 % off"));
+}
+
+const char* OtherProperties(const ReadDeck& deck) {
+    return deck.materials.at(0).information.at(0).kept.at(0).json.c_str();
+}
+
+TEST(ReadCalculix, KeepsEngineeringConstantsAmongTheOtherProperties) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=P\n*ELASTIC,TYPE=ENGINEERING "
+        "CONSTANTS\n181000,10300,10200,.28,.27,.4,7170,7100\n3700,20.\n"
+        "*EXPANSION,TYPE=ORTHO\n1e-7,2e-5,2e-5\n",
+        "mm-t-s");
+    EXPECT_THAT(deck.findings, IsEmpty());
+    EXPECT_STREQ(
+        OtherProperties(deck),
+        R"({"E1":"181000 MPa","E2":"10300 MPa","E3":"10200 MPa","nu12":0.28,"nu13":0.27,"nu23":0.4,)"
+        R"("G12":"7170 MPa","G13":"7100 MPa","G23":"3700 MPa","alpha1":"1e-07 1/K","alpha2":"2e-05 1/K"})");
+}
+
+/// The stiffness of E 204, 18.5 and 17.5 GPa, nu12 0.23, nu13 0.25, nu23 0.4: the inverse of the compliance.
+TEST(ReadCalculix, MakesEngineeringConstantsOfAStiffness) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=P\n*ELASTIC,TYPE=ORTHO\n"
+        "207447871980,7195548494.41,22048948255,7171583303.76,8497161583.04,20868944558.6,5.59e9,5.2e9\n4."
+        "8e9\n");
+    EXPECT_THAT(deck.findings,
+                ElementsAre("card.json:2: note[changed-on-card]: TYPE=ORTHO becomes engineering constants"));
+    const auto constants = nlohmann::json::parse(OtherProperties(deck));
+    const auto modulus = [&](const char* name) { return std::stod(constants[name].get<std::string>()); };
+    EXPECT_NEAR(modulus("E1"), 204e9, 1.0);
+    EXPECT_NEAR(modulus("E2"), 18.5e9, 0.1);
+    EXPECT_NEAR(modulus("E3"), 17.5e9, 0.1);
+    EXPECT_NEAR(constants["nu12"].get<double>(), 0.23, 1e-10);
+    EXPECT_NEAR(constants["nu13"].get<double>(), 0.25, 1e-10);
+    EXPECT_NEAR(constants["nu23"].get<double>(), 0.4, 1e-10);
+    EXPECT_EQ(modulus("G12"), 5.59e9);
+    EXPECT_EQ(modulus("G13"), 5.2e9);
+    EXPECT_EQ(modulus("G23"), 4.8e9);
+}
+
+TEST(ReadCalculix, RefusesConstantsThatAreNoStiffness) {
+    EXPECT_THAT(
+        ReadDeck("*MATERIAL,NAME=P\n*ELASTIC,TYPE=ORTHO\n1,2,1,1,1,1,1,1\n1\n").findings,
+        ElementsAre("card.json:2: error[no-stiffness]: these constants are no stiffness of a material"));
+    EXPECT_THAT(ReadDeck("*MATERIAL,NAME=P\n*ELASTIC,TYPE=ORTHO\n1,2,1\n").findings,
+                ElementsAre("card.json:3: error[wrong-row]: *ELASTIC, TYPE=ORTHO takes 9 numbers"));
+}
+
+TEST(ReadCalculix, TellsConstantsWithDirectionsOverTemperature) {
+    EXPECT_THAT(ReadDeck("*MATERIAL,NAME=P\n*EXPANSION,TYPE=ORTHO\n1,2,2,20\n2,3,3,30\n").findings,
+                ElementsAre("card.json:2: warning[not-imported]: *EXPANSION: constants with directions over "
+                            "temperature"));
 }
 
 TEST(ReadCalculix, NamesLineAndReasonOfABadDeck) {

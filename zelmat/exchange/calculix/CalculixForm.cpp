@@ -1,4 +1,3 @@
-#include <cctype>
 #include <cmath>
 
 #include "zelmat/exchange/DeckForm.h"
@@ -63,8 +62,7 @@ std::vector<CarryRule> Rules() {
 
 /// The beginnings by which the solver finds the routines that a user writes.
 bool NamesARoutine(const std::string& name) {
-    std::string upper = name;
-    for (char& letter : upper) letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
+    const std::string upper = InCapitals(name);
     return upper.starts_with("USER") || upper.starts_with("ABAQUS");
 }
 

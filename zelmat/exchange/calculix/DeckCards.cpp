@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "zelmat/exchange/DeckText.h"
 #include "zelmat/quantities/PlainUnitText.h"
 #include "zelmat/quantities/ReadNumber.h"
 #include "zelmat/text/QuotedText.h"
@@ -12,11 +13,8 @@ namespace zelmat {
 namespace {
 
 std::string Upper(std::string_view text) {
-    std::string upper;
-    for (const char letter : text) {
-        const auto code = static_cast<unsigned char>(letter);
-        if (std::isspace(code) == 0) upper += static_cast<char>(std::toupper(code));
-    }
+    std::string upper = InCapitals(std::string(text));
+    std::erase_if(upper, [](char letter) { return std::isspace(static_cast<unsigned char>(letter)) != 0; });
     return upper;
 }
 
@@ -31,11 +29,16 @@ std::vector<std::string_view> Words(std::string_view line) {
     return words;
 }
 
-/// Fortran's exponent letter becomes the common one.
+/// Fortran's exponent becomes the common one: "1.5D3", and "1.5+3".
 std::string CommonNumber(std::string_view word) {
     std::string number(word);
     std::replace(number.begin(), number.end(), 'D', 'e');
     std::replace(number.begin(), number.end(), 'd', 'e');
+    const std::size_t sign = number.find_last_of("+-");
+    const bool bare =
+        sign != std::string::npos && sign > 0 &&
+        (number[sign - 1] == '.' || std::isdigit(static_cast<unsigned char>(number[sign - 1])) != 0);
+    if (bare) number.insert(sign, "e");
     return number;
 }
 
@@ -48,7 +51,7 @@ const std::string* DeckKeyword::Find(const std::string& parameter) const {
 
 DeckKeyword ReadKeyword(const std::string& line, int number) {
     const auto words = Words(line);
-    DeckKeyword keyword{.line = number, .keyword = {}, .parameters = {}, .name = {}};
+    DeckKeyword keyword{.line = number, .keyword = {}, .parameters = {}, .name = {}, .set = {}};
     keyword.keyword = Upper(words.front());
     for (std::size_t at = 1; at < words.size(); ++at) {
         const std::size_t equals = words[at].find('=');
@@ -59,6 +62,7 @@ DeckKeyword ReadKeyword(const std::string& line, int number) {
                                : WithoutBlanksAround(words[at].substr(equals + 1));
         keyword.parameters[name] = Upper(value);
         if (name == "NAME") keyword.name = value;
+        if (name == "ELSET") keyword.set = value;
     }
     return keyword;
 }
@@ -107,10 +111,28 @@ std::optional<DeckNumbers> DeckCards::NumbersOf(const std::string& line) {
                            {number.Error().text}});
             return std::nullopt;
         }
+        if (word.size() > kLongestDeckNumber) {
+            findings_.Add(
+                {FindingKind::WARNING,
+                 {path_, lines_.Number()},
+                 "long-number",
+                 QuotedText(word) + " has more than 20 characters: CalculiX drops those behind them",
+                 {"read as a whole here"}});
+        }
         numbers.numbers.emplace_back(*number);
     }
     while (!numbers.numbers.empty() && !numbers.numbers.back()) numbers.numbers.pop_back();
     return numbers;
+}
+
+std::vector<DeckWords> DeckCards::Lines() {
+    std::vector<DeckWords> all;
+    while (hasHeld_ ? !held_.starts_with('*') : NextLine() && !held_.starts_with('*')) {
+        DeckWords& line = all.emplace_back(DeckWords{lines_.Number(), {}});
+        for (const std::string_view word : Words(held_)) line.words.emplace_back(word);
+        hasHeld_ = false;
+    }
+    return all;
 }
 
 std::optional<std::vector<DeckNumbers>> DeckCards::Numbers() {

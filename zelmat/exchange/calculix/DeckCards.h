@@ -15,12 +15,19 @@ struct DeckNumbers {
     std::vector<std::optional<double>> numbers;
 };
 
+/// A data line as words between commas, without the blanks around them.
+struct DeckWords {
+    int line;
+    std::vector<std::string> words;
+};
+
 /// A keyword line with its parameters; names are in capital letters and without blanks.
 struct DeckKeyword {
     int line = 0;
     std::string keyword;                            ///< "*ELASTIC"
     std::map<std::string, std::string> parameters;  ///< "TYPE" to "ISO"; a word alone to ""
     std::string name;                               ///< NAME= as it was written
+    std::string set;                                ///< ELSET= as it was written
 
     const std::string* Find(const std::string& parameter) const;  ///< null when it is not given
 };
@@ -41,6 +48,9 @@ public:
     /// The data lines up to the next keyword. Nothing, and a finding with the line, where one holds something
     /// else than numbers.
     std::optional<std::vector<DeckNumbers>> Numbers();
+
+    /// The same where they hold names, too.
+    std::vector<DeckWords> Lines();
 
 private:
     bool NextLine();  ///< that is no comment and not empty; into held_

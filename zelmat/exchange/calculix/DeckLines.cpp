@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <string_view>
 
 #include "zelmat/files/ReadText.h"
 
@@ -67,6 +68,8 @@ bool DeckLines::Next() {
     }
     if (!any) return false;
     if (line_.ends_with('\r')) line_.pop_back();
+    constexpr std::string_view kByteOrderMark = "\xef\xbb\xbf";
+    if (number_ == 0 && line_.starts_with(kByteOrderMark)) line_.erase(0, kByteOrderMark.size());
     ++number_;
     return true;
 }

@@ -10,7 +10,8 @@
 namespace zelmat {
 
 /// The lines of a file one after the other, of which no more than one is held: a deck has any size. "-" is
-/// standard input. Ends of lines are "\n" or "\r\n".
+/// standard input. Ends of lines are "\n" or "\r\n"; a byte order mark of UTF-8
+/// is passed over.
 class DeckLines {
 public:
     /// A longer line than this is none of a deck.

@@ -4,10 +4,13 @@
 #include <array>
 #include <set>
 
+#include "zelmat/exchange/DeckText.h"
 #include "zelmat/exchange/calculix/CalculixCards.h"
 #include "zelmat/exchange/calculix/DeckCards.h"
+#include "zelmat/exchange/calculix/DeckPlies.h"
 #include "zelmat/exchange/calculix/MaterialKeywords.h"
 #include "zelmat/files/ReadText.h"
+#include "zelmat/layups/LayupCard.h"
 #include "zelmat/materials/BlockKind.h"
 #include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/ReadNumber.h"
@@ -85,10 +88,8 @@ private:
 
     bool Begin(const DeckKeyword& card) {
         if (card.name.empty()) return Error(card, "no-name", "*MATERIAL has no NAME");
-        for (const Material& other : materials_) {
-            if (other.name == card.name) {
-                Warn(card, "name-twice", QuotedText(card.name) + " is the name of two materials");
-            }
+        if (!names_.insert(InCapitals(card.name)).second) {
+            Warn(card, "name-twice", QuotedText(card.name) + " is the name of two materials");
         }
         materials_.push_back({.file = ShownPath(path_), .name = card.name});
         materials_.back().notes.emplace_back(
@@ -99,6 +100,12 @@ private:
     void Skip(const DeckKeyword& card) {
         if (IsMaterialKeyword(card.keyword) && !materials_.empty()) {
             Lost(card, "a material has no place for it");
+        } else if (card.keyword == "*SHELLSECTION" && card.Find("COMPOSITE") && !card.set.empty()) {
+            findings_.Add({FindingKind::NOTE,
+                           {ShownPath(path_), card.line},
+                           "composite-section",
+                           "a composite shell section of " + QuotedText(card.set),
+                           {"import --layup " + card.set + " makes a layup card of it"}});
         } else if (card.keyword == "*INCLUDE") {
             Warn(card, "not-included", "*INCLUDE is not followed: import that file by itself");
         } else if (skipped_.size() < kMostSkipped || skipped_.count(card.keyword) > 0) {
@@ -158,6 +165,7 @@ private:
                                       [&](const DeckNumbers& row) { return row.numbers.size() > width; });
         Table table = EmptyTable(block.kind->tables.front(), block.values, over);
         std::vector<std::vector<double>> columns(table.columns.size());
+        std::vector<int> lines;
         for (const DeckNumbers& row : rows) {
             if (row.numbers.empty() || row.numbers.size() > width + 1) {
                 return Error(row.line, "wrong-row",
@@ -168,6 +176,8 @@ private:
                 return Error(row.line, "no-temperature",
                              "this row has no temperature, others of " + card.keyword + " have");
             }
+            lines.push_back(row.line);
+            TellMissing(block, card, row, width);
             for (std::size_t at = 0; at < columns.size(); ++at) {
                 const bool given = at < row.numbers.size() && row.numbers[at];
                 columns[at].push_back(given ? *row.numbers[at] : 0.0);
@@ -181,9 +191,25 @@ private:
                 return Error(card, "too-large", "a number of " + card.keyword + " is too large for the unit");
             }
         }
-        table.origin = block.origin;
+        table.origin = Origin([lines = std::move(lines), whole = card.line](std::size_t row) {
+            return row < lines.size() ? lines[row] : whole;
+        });
         block.tables.push_back(std::move(table));
         return true;
+    }
+
+    /// Compressibilities may be left out.
+    void TellMissing(const Block& block, const DeckKeyword& card, const DeckNumbers& row, std::size_t width) {
+        const bool whole =
+            row.numbers.size() >= width &&
+            std::all_of(row.numbers.begin(), row.numbers.end(),
+                        [](const std::optional<double>& number) { return number.has_value(); });
+        if (whole || block.kind->name == "hyperelastic") return;
+        findings_.Add({FindingKind::WARNING,
+                       {ShownPath(path_), row.line},
+                       "missing-number",
+                       "a number of " + card.keyword + " is missing: it is 0, as in the solver",
+                       {}});
     }
 
     /// The deck's numbers and, where that is another one than is stored, their unit.
@@ -213,8 +239,55 @@ private:
     }
 
     bool Elastic(const DeckKeyword& card, const NumberRows& rows) {
-        if (!IsIsotropic(card)) return Lost(card, "TYPE=" + *card.Find("TYPE") + " has directions");
-        return Fill(*NewBlock(card, "elastic"), card, rows, 2);
+        if (IsIsotropic(card)) return Fill(*NewBlock(card, "elastic"), card, rows, 2);
+        const std::string& type = *card.Find("TYPE");
+        const bool stiffness = type == "ORTHO" || type == "ORTHOTROPIC";
+        if (!stiffness && type != "ENGINEERINGCONSTANTS") return Lost(card, "TYPE=" + type + " has no place");
+        const auto row = OnlyRow(card, Joined(rows, 10), 9);
+        if (!row) return !findings_.HasErrors();
+        const auto constants = stiffness ? EngineeringConstants(*row) : row;
+        if (!constants) return Error(card, "no-stiffness", "these constants are no stiffness of a material");
+        if (stiffness) {
+            findings_.Add({FindingKind::NOTE,
+                           {ShownPath(path_), card.line},
+                           "changed-on-card",
+                           "TYPE=" + type + " becomes engineering constants",
+                           {}});
+        }
+        constexpr std::array<const char*, 9> kNames = {"E1",   "E2",  "E3",  "nu12", "nu13",
+                                                       "nu23", "G12", "G13", "G23"};
+        for (std::size_t at = 0; at < kNames.size(); ++at) KeepConstant(card, kNames[at], (*constants)[at]);
+        return true;
+    }
+
+    /// The numbers of a card that knows one row; nothing, and a finding, for another one.
+    std::optional<std::vector<double>> OnlyRow(const DeckKeyword& card, const NumberRows& rows,
+                                               std::size_t width) {
+        const auto& numbers = rows.front().numbers;
+        const bool whole =
+            numbers.size() >= width && numbers.size() <= width + 1 &&
+            std::all_of(numbers.begin(), numbers.end(),
+                        [](const std::optional<double>& number) { return number.has_value(); });
+        if (!whole) {
+            Error(rows.front().line, "wrong-row",
+                  card.keyword + ", TYPE=" + *card.Find("TYPE") + " takes " + CountText(width, "number"));
+            return std::nullopt;
+        }
+        if (rows.size() > 1) {
+            Lost(card, "constants with directions over temperature");
+            return std::nullopt;
+        }
+        std::vector<double> row;
+        for (std::size_t at = 0; at < width; ++at) row.push_back(*numbers[at]);
+        return row;
+    }
+
+    /// Among the card's other properties.
+    void KeepConstant(const DeckKeyword& card, const char* name, double number) {
+        const std::string unit = units_.For(PlyConstantQuantity(name)).Spelling();
+        if (!KeepPlyConstant(materials_.back(), name, number, unit, card.line)) {
+            Warn(card, "card-twice", card.keyword + " stands twice in a material: the last one counts");
+        }
     }
 
     bool Plastic(const DeckKeyword& card, const NumberRows& rows) {
@@ -229,7 +302,7 @@ private:
     }
 
     bool Expansion(const DeckKeyword& card, const NumberRows& rows) {
-        if (!IsIsotropic(card)) return Lost(card, "TYPE=" + *card.Find("TYPE") + " has directions");
+        if (!IsIsotropic(card)) return DirectedExpansion(card, rows);
         Block& block = *NewBlock(card, "thermal_expansion");
         if (const std::string* zero = card.Find("ZERO")) {
             const auto number = ReadNumber(*zero);
@@ -242,6 +315,19 @@ private:
             Warn(card, "no-reference", "*EXPANSION has no ZERO: the solver takes 0, the card leaves it open");
         }
         return Fill(block, card, rows, 1);
+    }
+
+    /// A ply expands along the fibre and across it; its coefficients have no reference temperature, which
+    /// constant ones do not need.
+    bool DirectedExpansion(const DeckKeyword& card, const NumberRows& rows) {
+        const std::string& type = *card.Find("TYPE");
+        if (type != "ORTHO" && type != "ORTHOTROPIC") return Lost(card, "TYPE=" + type + " has no place");
+        const auto row = OnlyRow(card, rows, 3);
+        if (!row) return !findings_.HasErrors();
+        KeepConstant(card, "alpha1", (*row)[0]);
+        KeepConstant(card, "alpha2", (*row)[1]);
+        if ((*row)[2] != (*row)[1]) Lost(card, "the third coefficient, which is not the second one");
+        return true;
     }
 
     bool Hyperelastic(const DeckKeyword& card, const NumberRows& rows) {
@@ -260,7 +346,24 @@ private:
         block.values.Set("model", std::string(mechanics::Keyword(potential->model)));
         block.values.Set("order", order);
         const std::size_t width = EmptyTable(block.kind->tables.front(), block.values, false).columns.size();
-        return Fill(block, card, Joined(rows, width + 1), width);
+        if (!Fill(block, card, Joined(rows, width + 1), width)) return false;
+        TellOwnCompressibility(card, block);
+        return true;
+    }
+
+    void TellOwnCompressibility(const DeckKeyword& card, const Block& block) {
+        const Table& table = block.tables.front();
+        const auto first = std::find_if(table.columns.begin(), table.columns.end(), [](const Column& column) {
+            return column.kind.name == "D1" || column.kind.name == "D";
+        });
+        if (first == table.columns.end() || std::count(first->values.begin(), first->values.end(), 0.0) == 0)
+            return;
+        findings_.Add(
+            {FindingKind::NOTE,
+             {ShownPath(path_), card.line},
+             "no-compressibility",
+             "D1 is 0, which is incompressible on a card; CalculiX takes one of its own, 4 to 7 % off",
+             {}});
     }
 
     /// Rows that take more than a line, of which every one but the last is full.
@@ -334,6 +437,7 @@ private:
     Findings& findings_;
     DeckCards cards_;
     std::vector<Material> materials_;
+    std::set<std::string> names_;  // in capital letters, as the solver compares them
     std::map<std::string, std::pair<int, std::size_t>> skipped_;  // keyword to its first line and how often
 };
 
