@@ -17,7 +17,8 @@ std::optional<std::string> PrintedPage(const std::string& html, Findings& findin
                       "--user-data-dir=" + folder.Path() + "/profile", "--no-pdf-header-footer",
                       "--print-to-pdf=page.pdf", "file://" + folder.Path() + "/page.html"},
         .needed = "a report as PDF",
-        .package = "chromium"};
+        .package = "chromium",
+        .minutes = 20};  // of 500 materials it takes some
     // Its sandbox does not work for root.
     if (::geteuid() == 0) chromium.arguments.insert(chromium.arguments.begin(), "--no-sandbox");
     if (!RunChild(chromium, folder, findings)) return std::nullopt;

@@ -5,9 +5,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstring>
+#include <string_view>
 #include <system_error>
 #include <thread>
 
@@ -16,6 +18,31 @@ namespace zelmat {
 namespace {
 
 constexpr const char* kSaid = "said.txt";
+
+/// What spawning takes.
+std::vector<char*> Pointers(std::vector<std::string>& texts) {
+    std::vector<char*> pointers;
+    for (std::string& text : texts) pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+/// The user's environment as far as the program gets it, and its own settings.
+std::vector<std::string> SettingsFor(const ChildProgram& program) {
+    std::vector<std::string> settings;
+    for (char** at = environ; at && *at; ++at) {
+        const std::string_view setting(*at);
+        const bool isWithheld =
+            std::any_of(program.without.begin(), program.without.end(),
+                        [&](const std::string& prefix) { return setting.starts_with(prefix); });
+        const bool isReplaced = std::any_of(
+            program.with.begin(), program.with.end(),
+            [&](const std::string& own) { return setting.starts_with(own.substr(0, own.find('=') + 1)); });
+        if (!isWithheld && !isReplaced) settings.emplace_back(setting);
+    }
+    settings.insert(settings.end(), program.with.begin(), program.with.end());
+    return settings;
+}
 
 /// Its standard streams, its folder, and signals as in a fresh program.
 class SpawnSettings {
@@ -45,10 +72,9 @@ public:
     int Spawn(const ChildProgram& program, pid_t& child) const {
         std::vector<std::string> words = {program.name};
         words.insert(words.end(), program.arguments.begin(), program.arguments.end());
-        std::vector<char*> argv;
-        for (std::string& word : words) argv.push_back(word.data());
-        argv.push_back(nullptr);
-        return posix_spawnp(&child, program.name.c_str(), &files_, &attributes_, argv.data(), environ);
+        std::vector<std::string> settings = SettingsFor(program);
+        return posix_spawnp(&child, program.name.c_str(), &files_, &attributes_, Pointers(words).data(),
+                            Pointers(settings).data());
     }
 
 private:
@@ -64,15 +90,14 @@ bool IsToEnd() {
            sigismember(&pending, SIGHUP) == 1;
 }
 
-/// Waits for the program; it is killed when it takes minutes, or when this one is told to end.
-int StatusAtTheEnd(pid_t child) {
+/// Waits for the program; it is killed when it takes longer, or when this one is told to end.
+int StatusAtTheEnd(pid_t child, std::chrono::minutes longest) {
     using Clock = std::chrono::steady_clock;
-    constexpr auto kLongest = std::chrono::minutes(5);
     constexpr auto kBetweenLooks = std::chrono::milliseconds(2);
     const auto start = Clock::now();
     int status = 0;
     while (::waitpid(child, &status, WNOHANG) == 0) {
-        if (Clock::now() - start > kLongest || IsToEnd()) {
+        if (Clock::now() - start > longest || IsToEnd()) {
             ::kill(child, SIGKILL);
             ::waitpid(child, &status, 0);
             break;
@@ -115,7 +140,7 @@ bool RunChild(const ChildProgram& program, const ScratchFolder& folder, Findings
         ReportMissing(program, problem, findings);
         return false;
     }
-    const int status = StatusAtTheEnd(child);
+    const int status = StatusAtTheEnd(child, std::chrono::minutes(program.minutes));
     if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return true;
     std::vector<std::string> details;
     if (std::string said = Said(folder); !said.empty()) details.push_back(std::move(said));

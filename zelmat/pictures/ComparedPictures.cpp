@@ -82,7 +82,7 @@ private:
     void AddProperty(const BlockKind& kind, const std::vector<Property>& properties) {
         const ColumnKind& column = properties.front().table.columns[properties.front().column].kind;
         Picture picture{.name = PlainName("compared-" + kind.name + "-" + column.name),
-                        .title = kind.title + ": " + column.title,
+                        .title = PropertyTitle(kind, column),
                         .what = Title(properties.size())};
         const bool curves = std::any_of(properties.begin(), properties.end(), DependsOnTemperature);
         if (curves) {
@@ -95,7 +95,16 @@ private:
                                         property.table.columns[property.column].values.front()});
             }
         }
+        for (const Property& property : properties) {
+            const Material& material = materials_[property.material];
+            AddSource(material, property.table, picture);
+        }
         pictures_.push_back(std::move(picture));
+    }
+
+    static void AddSource(const Material& material, const Table& table, Picture& picture) {
+        const std::string source = SourceText(material, table);
+        if (!source.empty()) picture.notes.push_back(material.name + ": " + source);
     }
 
     void AddCurves(const std::vector<Property>& properties, const ColumnKind& column, Picture& picture) {
@@ -145,6 +154,7 @@ private:
             all.x = picture->x;
             all.y = picture->y;
             AddSeries(std::move(series), i, all);
+            AddSource(materials_[i], used->tables.front(), all);
         }
         if (all.series.size() < 2) return;
         all.what = Title(all.series.size()) + ", at the temperature next to 20 °C";

@@ -50,13 +50,12 @@ struct Unloading {
     const char* table;
     const char* title;
     const char* parameter;
-    const char* legend;
+    const char* from;  ///< what the parameter is, before its value
 };
 
 constexpr Unloading kUnloadings[] = {
-    {"unloading_elastic_plastic", "elastic-plastic unloading", "plastic_closure",
-     "unloading from plastic closure"},
-    {"unloading_damage", "unloading with damage", "max_closure", "unloading from closure"}};
+    {"unloading_elastic_plastic", "elastic-plastic unloading", "plastic_closure", "unloading, plastic "},
+    {"unloading_damage", "unloading with damage", "max_closure", "unloading from "}};
 
 Picture Loading(const Material& material, const Table& loading, std::optional<double> temperature) {
     const Column* closure = loading.Find("closure");
@@ -77,8 +76,8 @@ void AddUnloading(const Unloading& unloading, const Table& table, std::optional<
                   Picture& picture) {
     picture.name = PlainName(std::string("gasket-") + unloading.table);
     picture.what += std::string(", loading and ") + unloading.title;
-    picture.legend = unloading.legend;
     for (Series& series : Runs(table, temperature, unloading.parameter)) {
+        series.label = unloading.from + series.label;
         series.color = picture.series.size();
         picture.series.push_back(std::move(series));
     }
@@ -103,7 +102,7 @@ std::vector<Picture> GasketPictures(const Material& material, const Block& gaske
                                       WrittenUnit(loading.Find(TemperatureColumn().name)->kind.unit));
             }
             picture.notes.emplace_back("Points: the rows of the tables; lines: linear between them.");
-            if (std::string source = SourceNote(*stored); !source.empty()) picture.notes.push_back(source);
+            AddSourceNote(material, *stored, picture);
             pictures.push_back(std::move(picture));
         };
         const std::size_t before = pictures.size();

@@ -93,6 +93,11 @@ std::vector<Series> Curves(const JohnsonCook& law, const Shown& shown) {
     return curves;
 }
 
+/// As a reader writes the keyword.
+std::string HardeningText(const std::string& keyword) {
+    return keyword == "johnson-cook" ? "Johnson-Cook" : keyword;
+}
+
 }  // namespace
 
 mechanics::Outcome<Picture> HardeningPicture(const Material& material, const Block& plastic,
@@ -102,7 +107,8 @@ mechanics::Outcome<Picture> HardeningPicture(const Material& material, const Blo
     const Shown shown(units);
     Picture picture{.name = "plastic-hardening",
                     .title = material.name,
-                    .what = "Plastic, " + property->hardening + " hardening: true stress over plastic strain",
+                    .what = "Plastic, " + HardeningText(property->hardening) +
+                            " hardening: true stress over plastic strain",
                     .x = {.title = "plastic strain", .unit = shown.strain.Unit(), .fromZero = true},
                     .y = {.title = "true stress", .unit = shown.stress.Unit(), .fromZero = true},
                     .graded = true};
@@ -119,9 +125,7 @@ mechanics::Outcome<Picture> HardeningPicture(const Material& material, const Blo
     }
     const bool named = !picture.series.empty() && !picture.series.front().label.empty();
     if (named) picture.legend = "temperature";
-    if (std::string source = SourceNote(plastic.tables.front()); !source.empty()) {
-        picture.notes.push_back(std::move(source));
-    }
+    AddSourceNote(material, plastic.tables.front(), picture);
     return picture;
 }
 

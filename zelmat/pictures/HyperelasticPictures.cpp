@@ -14,6 +14,7 @@
 #include "zelmat/properties/TestCurves.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/ShownQuantity.h"
+#include "zelmat/text/WordList.h"
 
 namespace zelmat {
 
@@ -151,13 +152,16 @@ std::optional<double> TemperatureOf(const HyperelasticProperty& property) {
     return nearest->temperature;
 }
 
-void Finish(Picture& picture, const Block& fit, std::size_t tests) {
+void Finish(const Material& material, const Block& fit, bool tests, Picture& picture) {
     const bool dashed = std::any_of(picture.series.begin(), picture.series.end(),
                                     [](const Series& series) { return series.style == SeriesStyle::DASHED; });
     picture.notes.emplace_back(dashed ? "Dashed: not stable by Drucker's criterion."
                                       : "Stable by Drucker's criterion as far as it is drawn.");
-    if (tests > 0) picture.notes.emplace_back("Points: the tests on the card; lines: the potential.");
-    if (std::string source = SourceNote(fit.tables.front()); !source.empty()) picture.notes.push_back(source);
+    if (tests) {
+        picture.notes.emplace_back("Points: the tests on the card; lines: the potential.");
+        AddTestSource(material, picture);
+    }
+    AddSourceNote(material, fit.tables.front(), picture);
 }
 
 std::string FitText(const Block& fit) {
@@ -172,6 +176,19 @@ std::string FitText(const Block& fit) {
 }
 
 }  // namespace
+
+void AddTestSource(const Material& material, Picture& picture) {
+    std::vector<std::string> sources;
+    for (const Block& block : material.information) {
+        if (block.kind->name != "test_data") continue;
+        for (const Table& table : block.tables) {
+            const std::string source = SourceText(material, table);
+            if (!source.empty() && std::find(sources.begin(), sources.end(), source) == sources.end())
+                sources.push_back(source);
+        }
+    }
+    if (!sources.empty()) picture.notes.push_back("Source of the tests: " + WordList(sources));
+}
 
 mechanics::Outcome<std::vector<Picture>> ResponsePictures(const Material& material, const Block& fit,
                                                           const UnitChoice& units) {
@@ -194,14 +211,15 @@ mechanics::Outcome<std::vector<Picture>> ResponsePictures(const Material& materi
                       .y = {.title = "nominal stress", .unit = response.Unit()},
                       .legend = "mode"};
     for (std::size_t i = 0; i < std::size(kStretched); ++i) response.Add(kStretched[i], i, stretched);
-    Finish(stretched, fit, tests.size());
+    Finish(material, fit, !tests.empty(), stretched);
     Picture sheared{.name = name + "-shear",
                     .title = material.name,
                     .what = what + ": shear stress over amount of shear",
                     .x = {.title = "amount of shear"},
                     .y = {.title = "shear stress", .unit = response.Unit()}};
     response.Add(LoadingMode::SIMPLE_SHEAR, 0, sheared);
-    Finish(sheared, fit, 0);
+    if (sheared.series.size() == 1) sheared.series.front().label.clear();  // which one needs no legend
+    Finish(material, fit, false, sheared);
     return std::vector<Picture>{std::move(stretched), std::move(sheared)};
 }
 
@@ -227,6 +245,7 @@ Picture FitsPicture(const Material& material, const std::vector<Block>& fits, co
             picture.notes.push_back(FitText(fit) + ": no value at all points of the tests.");
         }
     }
+    AddTestSource(material, picture);
     std::stable_sort(picture.bars.begin(), picture.bars.end(),
                      [](const PictureBar& a, const PictureBar& b) { return a.value < b.value; });
     return picture;
@@ -246,6 +265,7 @@ Picture RankingPicture(const Material& material) {
         if (mechanics::HasOrder(fit.model)) label += ", order " + std::to_string(fit.order);
         if (fit.deviation.rmsRelative) picture.bars.push_back({label, *fit.deviation.rmsRelative});
     }
+    AddTestSource(material, picture);
     for (const auto& failed : ranking.failed) {
         picture.notes.push_back(std::string(Keyword(failed.model)) + ": " + failed.why + ".");
     }

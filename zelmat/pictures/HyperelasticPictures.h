@@ -16,6 +16,9 @@ namespace zelmat {
 mechanics::Outcome<std::vector<Picture>> ResponsePictures(const Material& material, const Block& fit,
                                                           const UnitChoice& units);
 
+/// A note that says where the material's tests come from, if it does say so.
+void AddTestSource(const Material& material, Picture& picture);
+
 /// How far each fit of a material lies from its tests, the nearest first: RMS of the relative deviations.
 /// Without bars where there are no tests.
 Picture FitsPicture(const Material& material, const std::vector<Block>& fits, const UnitChoice& units);

@@ -113,6 +113,7 @@ private:
             }
             picture.series.push_back(std::move(series));
         }
+        AddTestSource(material_, picture);
         Add(std::move(picture));
     }
 

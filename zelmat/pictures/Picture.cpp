@@ -60,12 +60,12 @@ std::optional<PictureRange> RangeOf(const Picture& picture, double PicturePoint:
 PictureRange WithMargin(PictureRange range, bool fromZero) {
     constexpr double kMargin = 0.05, kFlat = 1e-9;
     const double greatest = std::max(std::abs(range.lower), std::abs(range.upper));
+    const bool zero = fromZero && range.lower >= 0.0;
     if (range.upper - range.lower <= kFlat * greatest) {
         const double room = greatest > 0.0 ? 0.1 * greatest : 1.0;
-        return {range.lower - room, range.upper + room};
+        return {zero ? 0.0 : range.lower - room, range.upper + room};
     }
     const double room = kMargin * (range.upper - range.lower);
-    const bool zero = fromZero && range.lower >= 0.0;
     return {zero ? 0.0 : range.lower - room, range.upper + room};
 }
 

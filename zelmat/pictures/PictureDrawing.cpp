@@ -67,8 +67,12 @@ bool Draw(const std::vector<PictureSheet>& sheets, PictureFormat format, std::ve
     const ScratchFolder folder(findings);
     if (!folder.Exists() || !folder.Write(kScript, GnuplotScript(sheets, format), findings)) return false;
     // Without the user's own settings: a picture depends on its data alone.
-    const ChildProgram gnuplot{
-        .name = "gnuplot", .arguments = {"-d", kScript}, .needed = "drawing", .package = "gnuplot-nox"};
+    const ChildProgram gnuplot{.name = "gnuplot",
+                               .arguments = {"-d", kScript},
+                               .needed = "drawing",
+                               .package = "gnuplot-nox",
+                               .without = {"GNU"},  // GNUTERM, GNUPLOT_FONTPATH, ...
+                               .with = {"LC_ALL=C.UTF-8", "TZ=UTC0"}};
     if (!RunChild(gnuplot, folder, findings)) return false;
     for (const PictureSheet& sheet : sheets) {
         std::string bytes = folder.Read(sheet.file, kLargestPicture);

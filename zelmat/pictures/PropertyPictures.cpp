@@ -7,6 +7,7 @@
 #include "zelmat/materials/InUnits.h"
 #include "zelmat/pictures/GnuplotText.h"
 #include "zelmat/quantities/ShownQuantity.h"
+#include "zelmat/text/WordList.h"
 
 namespace zelmat {
 
@@ -31,7 +32,8 @@ Picture OfColumn(const Material& material, const Block& block, const Table& stor
     Picture picture{
         .name = PlainName(block.kind->name + (own ? "-" : "-" + stored.kind->name + "-") + values.kind.name),
         .title = material.name,
-        .what = block.kind->title + (own ? "" : ", " + stored.kind->title) + ": " + values.kind.title +
+        .what = (own ? PropertyTitle(*block.kind, values.kind)
+                     : block.kind->title + ", " + stored.kind->title + ": " + values.kind.title) +
                 " over temperature",
         .x = {.title = "temperature", .unit = temperature.kind.unit},
         .y = {.title = values.kind.title, .unit = values.kind.unit, .fromZero = false}};
@@ -46,7 +48,7 @@ Picture OfColumn(const Material& material, const Block& block, const Table& stor
     picture.series.push_back(std::move(rows));
     picture.notes.emplace_back("Points: the rows of the table; lines: linear between them.");
     AddBlockNotes(block, units, picture);
-    if (std::string source = SourceNote(stored); !source.empty()) picture.notes.push_back(std::move(source));
+    AddSourceNote(material, stored, picture);
     return picture;
 }
 
@@ -71,8 +73,20 @@ std::vector<Picture> PropertyPictures(const Material& material, const Block& blo
     return pictures;
 }
 
-std::string SourceNote(const Table& table) {
-    return table.source.empty() ? "" : "Source: " + table.source;
+std::string SourceText(const Material& material, const Table& table) {
+    return table.source.empty() ? WordList(material.sources) : table.source;
+}
+
+void AddSourceNote(const Material& material, const Table& table, Picture& picture) {
+    const std::string source = SourceText(material, table);
+    if (!source.empty()) picture.notes.push_back("Source: " + source);
+}
+
+std::string PropertyTitle(const BlockKind& block, const ColumnKind& column) {
+    const bool same =
+        std::equal(block.title.begin(), block.title.end(), column.title.begin(), column.title.end(),
+                   [](unsigned char a, unsigned char b) { return std::tolower(a) == std::tolower(b); });
+    return same ? block.title : block.title + ": " + column.title;
 }
 
 std::string PlainName(std::string_view text) {

@@ -16,8 +16,15 @@ std::vector<Picture> PropertyPictures(const Material& material, const Block& blo
 /// Whether its columns are properties over temperature.
 bool IsOfProperties(const Block& block);
 
-/// "Source: ..." of a table; empty where it names none.
-std::string SourceNote(const Table& table);
+/// "Elastic: Young's modulus"; "Density" where the block is called like its only property.
+std::string PropertyTitle(const BlockKind& block, const ColumnKind& column);
+
+/// Where a table's numbers come from: its own source, else those of its material; empty where neither has
+/// one.
+std::string SourceText(const Material& material, const Table& table);
+
+/// The same as a note below a picture; none where it is empty.
+void AddSourceNote(const Material& material, const Table& table, Picture& picture);
 
 /// "thermal_expansion" as part of a file's name: letters, digits, `-` and `_`.
 std::string PlainName(std::string_view text);

@@ -15,7 +15,8 @@ std::optional<std::string> ConvertedSvgs(const std::vector<std::string>& svgs, P
                            .arguments = {"--unlimited", "--accept-language=en", "--output=" + made,
                                          pdf ? "--format=pdf" : "--format=png"},
                            .needed = "a picture of a stack as PDF or PNG",
-                           .package = "librsvg2-bin"};
+                           .package = "librsvg2-bin",
+                           .with = {"LC_ALL=C.UTF-8", "TZ=UTC0"}};
     if (!pdf) converter.arguments.emplace_back("--zoom=2");
     for (const std::string& svg : svgs) {
         const std::string name = "p" + std::to_string(converter.arguments.size()) + ".svg";

@@ -23,6 +23,20 @@ double Ems(std::uint32_t point) {
     return wide ? 1.05 : 0.8;
 }
 
+/// As much of a line as there is room for beside the ellipsis.
+std::string WithEllipsis(std::string_view line, double ems) {
+    const double room = ems - TextWidth(kEllipsis, 1.0);
+    double used = 0.0;
+    auto end = line.begin();
+    for (auto at = line.begin(); at != line.end(); end = at) {
+        used += Ems(utf8::unchecked::next(at));
+        if (used > room) break;
+    }
+    std::string kept(line.begin(), end);
+    while (kept.ends_with(' ')) kept.pop_back();
+    return kept + std::string(kEllipsis);
+}
+
 /// Takes words as long as they fit.
 class Lines {
 public:
@@ -47,13 +61,7 @@ public:
     std::vector<std::string> Take(std::size_t most) {
         if (lines_.size() <= most) return std::move(lines_);
         lines_.resize(most);
-        std::string& last = lines_.back();
-        while (!last.empty() && TextWidth(last, 1.0) + TextWidth(kEllipsis, 1.0) > ems_) {
-            auto end = last.end();
-            utf8::unchecked::prior(end);
-            last.erase(end, last.end());
-        }
-        last += kEllipsis;
+        lines_.back() = WithEllipsis(lines_.back(), ems_);
         return std::move(lines_);
     }
 
@@ -76,6 +84,10 @@ double TextWidth(std::string_view utf8, double fontSize) {
     double ems = 0.0;
     for (auto at = utf8.begin(); at != utf8.end();) ems += Ems(utf8::unchecked::next(at));
     return ems * fontSize;
+}
+
+std::string ShortenedText(std::string_view utf8, double width, double fontSize) {
+    return TextWidth(utf8, fontSize) > width ? WithEllipsis(utf8, width / fontSize) : std::string(utf8);
 }
 
 std::vector<std::string> WrappedText(std::string_view utf8, double width, double fontSize,

@@ -16,4 +16,7 @@ double TextWidth(std::string_view utf8, double fontSize);
 std::vector<std::string> WrappedText(std::string_view utf8, double width, double fontSize,
                                      std::size_t mostLines);
 
+/// A text on one line, its end given up for "…" where it is wider than that. UTF-8.
+std::string ShortenedText(std::string_view utf8, double width, double fontSize);
+
 }  // namespace zelmat

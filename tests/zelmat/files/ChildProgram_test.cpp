@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 
 namespace {
@@ -40,6 +41,33 @@ TEST(ChildProgram, SaysHowItEndedAndWhatItSaid) {
 
     ASSERT_EQ(findings.All().size(), 1u);
     EXPECT_EQ(FindingLine(findings.All()[0]), "sh: error[program-failed]: the program ended with 4 (broken)");
+}
+
+TEST(ChildProgram, GetsTheEnvironmentButForWhatWouldChangeItsWork) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+    ::setenv("GNUTERM", "x11", 1);
+    ::setenv("TZ", "Asia/Tokyo", 1);
+    ::setenv("KEPT", "a=b", 1);
+    ChildProgram program = Shell("printf '%s,%s,%s' \"$GNUTERM\" \"$TZ\" \"$KEPT\" > got");
+    program.without = {"GNU"};
+    program.with = {"TZ=UTC0"};
+
+    EXPECT_TRUE(RunChild(program, folder, findings));
+
+    EXPECT_EQ(folder.Read("got", 100), ",UTC0,a=b");
+}
+
+TEST(ChildProgram, IsKilledWhenItTakesTooLong) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+    ChildProgram program = Shell("sleep 100");
+    program.minutes = 0;
+
+    EXPECT_FALSE(RunChild(program, folder, findings));
+
+    ASSERT_EQ(findings.All().size(), 1u);
+    EXPECT_EQ(findings.All()[0].text, "the program was ended by signal 9 (Killed)");
 }
 
 TEST(ChildProgram, IsNotReadFromTheTerminal) {

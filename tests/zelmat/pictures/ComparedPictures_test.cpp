@@ -24,7 +24,8 @@ Material Hot() {
 }
 
 Material Plain() {
-    return CardOf(R"({"name": "Plain", "density": {"temperature_dependent": false, "columns": ["density"],
+    return CardOf(
+        R"({"name": "Plain", "source": ["A handbook"], "density": {"temperature_dependent": false, "columns": ["density"],
         "rows": [[2700.0]]}, "elastic": {"temperature_dependent": false,
         "columns": ["youngs_modulus", "poissons_ratio"], "rows": [[70e9, 0.33]]}})");
 }
@@ -60,6 +61,8 @@ TEST(ComparedPictures, HaveBarsWhereNothingDependsOnTemperature) {
     EXPECT_EQ(pictures[0].bars[0].label, "Hot");
     EXPECT_EQ(pictures[0].bars[0].value, 7850.0);
     EXPECT_EQ(pictures[0].x.unit, "kg/m3");
+    EXPECT_EQ(pictures[0].title, "Density");
+    EXPECT_THAT(pictures[0].notes, ElementsAre("Plain: A handbook"));
 }
 
 TEST(ComparedPictures, NeedTwoMaterialsThatHaveTheProperty) {

@@ -97,6 +97,7 @@ TEST(MaterialPictures, DrawJohnsonAndCooksLawAtFourTemperatures) {
     const auto pictures = PicturesOf(SampleCard("copper_ofhc.json"), "plastic");
 
     ASSERT_THAT(pictures, SizeIs(1));
+    EXPECT_EQ(pictures[0].what, "Plastic, Johnson-Cook hardening: true stress over plastic strain");
     EXPECT_THAT(Labels(pictures[0]), ElementsAre("24.85 °C", "289.35 °C", "553.85 °C", "818.35 °C"));
     ExpectPoint(pictures[0].series[0].points.front(), 0.0, 90.0);
     EXPECT_EQ(pictures[0].series[0].points.back().x, 0.5);
@@ -135,6 +136,9 @@ TEST(MaterialPictures, StandBesideTheTests) {
     EXPECT_EQ(first.series[0].style, SeriesStyle::POINTS);
     EXPECT_EQ(first.series[1].label, "uniaxial");
     EXPECT_EQ(first.series[1].style, SeriesStyle::PLAIN) << "the marks are the tests'";
+    EXPECT_THAT(first.notes, Contains(testing::StartsWith("Source of the tests: L. R. G. Treloar, ")));
+    EXPECT_EQ(pictures[1].name, "hyperelastic-OGDEN-shear");
+    EXPECT_THAT(Labels(pictures[1]), ElementsAre("")) << "one curve needs no legend";
     EXPECT_EQ(pictures.back().name, "hyperelastic-fits");
     EXPECT_EQ(pictures.back().bars.front().label.substr(0, 14), "OGDEN, order 3");
     EXPECT_NEAR(pictures.back().bars.front().value, 0.08188, 5e-6);
@@ -158,10 +162,28 @@ TEST(MaterialPictures, DrawLoadingAndUnloadingOfAGasket) {
     const auto pictures = PicturesOf(SampleCard("gasket_fibre_illustrative.json"));
 
     ASSERT_THAT(Names(pictures), ElementsAre("gasket-unloading_elastic_plastic", "gasket-unloading_damage"));
-    EXPECT_THAT(Labels(pictures[0]), ElementsAre("loading", "0.06 mm", "0.1 mm", "0.1225 mm"));
+    EXPECT_THAT(Labels(pictures[0]),
+                ElementsAre("loading", "unloading, plastic 0.06 mm", "unloading, plastic 0.1 mm",
+                            "unloading, plastic 0.1225 mm"));
+    EXPECT_THAT(Labels(pictures[1]), Contains("unloading from 0.12 mm"));
     ExpectPoint(pictures[0].series[0].points.front(), 0.0, 0.0);
-    EXPECT_EQ(pictures[0].legend, "unloading from plastic closure");
+    EXPECT_EQ(pictures[0].legend, "") << "loading is among them";
     EXPECT_EQ(pictures[0].x.unit, "mm");
+}
+
+TEST(MaterialPictures, NameTheSourceOfTheTableElseThatOfTheCard) {
+    const Material steel = CardOf(R"({"name": "Steel", "source": ["A handbook", "a test"],
+        "density": {"temperature_dependent": true, "columns": ["density", "temperature"],
+        "rows": [[7850.0, 293.15], [7800.0, 393.15]]},
+        "conductivity": {"temperature_dependent": true, "source": "A table", "columns": ["conductivity",
+        "temperature"], "rows": [[50.0, 293.15], [45.0, 393.15]]}})");
+
+    const auto pictures = PicturesOf(steel);
+
+    ASSERT_THAT(pictures, SizeIs(2));
+    EXPECT_EQ(pictures[0].what, "Density over temperature");
+    EXPECT_EQ(pictures[0].notes.back(), "Source: A handbook, a test");
+    EXPECT_EQ(pictures[1].notes.back(), "Source: A table");
 }
 
 TEST(MaterialPictures, SayWhatCannotBeDrawn) {

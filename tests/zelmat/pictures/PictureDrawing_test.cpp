@@ -159,6 +159,60 @@ TEST(PictureDrawing, DrawsPdfAndPng) {
     EXPECT_EQ(*png, *again);
 }
 
+TEST(PictureDrawing, IsTheSameInEveryEnvironment) {
+    Picture line = Line("a line");
+    line.series.front().points = {{1.5, 2.25}, {2.5, 1.2345e-5}};
+    Findings findings;
+    const auto here = DrawSheets({{"line.svg", {&line}}}, PictureFormat::SVG, findings);
+
+    for (const auto& [name, value] : {std::pair{"GNUTERM", "x11"},
+                                      {"GNUPLOT_LIB", "/none"},
+                                      {"TZ", "Asia/Tokyo"},
+                                      {"LC_ALL", "de_DE.UTF-8"},
+                                      {"LC_NUMERIC", "de_DE.UTF-8"}}) {
+        ::setenv("LOCPATH", ZELMAT_LOCALES, 1);
+        ::setenv(name, value, 1);
+        const auto there = DrawSheets({{"line.svg", {&line}}}, PictureFormat::SVG, findings);
+        ::unsetenv(name);
+        ASSERT_TRUE(here && there) << name << ": " << Lines(findings);
+        EXPECT_EQ(*here, *there) << name;
+    }
+}
+
+TEST(PictureDrawing, HasTheWholeLegendHoweverLongItIs) {
+    Picture many = Line("many");
+    many.series.clear();
+    for (int i = 0; i < 60; ++i) {
+        many.series.push_back({.label = "material " + std::to_string(i),
+                               .style = SeriesStyle::ROWS,
+                               .color = static_cast<std::size_t>(i),
+                               .points = {{1.0, i + 0.0}, {2.0, i + 1.0}}});
+    }
+    Findings findings;
+
+    const auto drawn = DrawSheets({{"many.svg", {&many}}}, PictureFormat::SVG, findings);
+
+    ASSERT_TRUE(drawn) << Lines(findings);
+    for (int i = 0; i < 60; ++i) {
+        EXPECT_THAT(drawn->front(), HasSubstr(">material " + std::to_string(i) + "<"));
+    }
+}
+
+TEST(PictureDrawing, StaysSmallWithManyRows) {
+    Picture many = Line("many");
+    many.series.front().points.clear();
+    for (int i = 0; i < 100000; ++i) {
+        many.series.front().points.push_back({i + 0.0, std::sin(0.001 * i)});
+    }
+    Findings findings;
+
+    const auto drawn = DrawSheets({{"many.svg", {&many}}}, PictureFormat::SVG, findings);
+
+    ASSERT_TRUE(drawn) << Lines(findings);
+    EXPECT_LT(drawn->front().size(), 100000u);
+    EXPECT_THAT(drawn->front(), HasSubstr("Of more than 150 rows not every one is marked."));
+}
+
 TEST(PictureDrawing, TellsHowFarItIs) {
     const Picture line = Line("a line");
     std::vector<PictureSheet> sheets;

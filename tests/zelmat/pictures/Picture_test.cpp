@@ -58,6 +58,7 @@ TEST(Picture, LeavesRoomAroundAndIsNeverFlat) {
     EXPECT_EQ(WithMargin({-10.0, 90.0}, true).lower, -15.0) << "0 is inside";
     EXPECT_DOUBLE_EQ(WithMargin({0.3, 0.3}, false).upper, 0.33);
     EXPECT_EQ(WithMargin({0.0, 0.0}, true).upper, 1.0);
+    EXPECT_EQ(WithMargin({235.0, 235.0}, true).lower, 0.0) << "perfect plasticity begins at 0, too";
 }
 
 }  // namespace

@@ -8,6 +8,7 @@ namespace {
 
 using testing::ElementsAre;
 using testing::SizeIs;
+using zelmat::ShortenedText;
 using zelmat::TextWidth;
 using zelmat::WrappedText;
 
@@ -27,6 +28,14 @@ TEST(WrappedText, EndsInAnEllipsisWhereItIsTooLong) {
     const auto lines = WrappedText(std::string(10000, 'x'), 64.0, 10.0, 2);
 
     EXPECT_THAT(lines, ElementsAre("xxxxxxxxxx", "xxxxxxxx…"));
+}
+
+TEST(ShortenedText, GivesUpItsEndAlone) {
+    EXPECT_EQ(ShortenedText("xxxx", 26.0, 10.0), "xxxx");
+    EXPECT_EQ(ShortenedText("xxxx xxxx", 42.0, 10.0), "xxxx…") << "no blank before the ellipsis";
+    EXPECT_EQ(ShortenedText("xxxx xxxxxxxx", 60.0, 10.0), "xxxx xxx…") << "within a word";
+    EXPECT_EQ(ShortenedText("äää", 20.0, 10.0), "ä…");
+    EXPECT_EQ(ShortenedText("", 20.0, 10.0), "");
 }
 
 TEST(WrappedText, KeepsCharactersOfSeveralBytesWhole) {
