@@ -28,8 +28,7 @@ KORBaseUnknown::~KORBaseUnknown() {
     host_->Release();
 }
 
-std::uint32_t KORBaseUnknown::Release() {
-    if (--references_ > 0) return static_cast<std::uint32_t>(references_);
+std::uint32_t KORBaseUnknown::ReleaseLast() {
     references_ = kDying;
     if (host_) Unlink();  // first of all: a query from the destructor finds no half-destroyed extension
     Destroy();

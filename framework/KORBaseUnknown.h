@@ -30,7 +30,10 @@ public:
 
     HRESULT QueryInterface(KORIID iid, void** out) override;
     std::uint32_t AddRef() override { return static_cast<std::uint32_t>(++references_); }
-    std::uint32_t Release() override;
+    std::uint32_t Release() override {
+        if (--references_ > 0) return static_cast<std::uint32_t>(references_);
+        return ReleaseLast();
+    }
     HRESULT GetTypeInfoCount(std::uint32_t* count) override;
     HRESULT GetTypeInfo(std::uint32_t index, std::uint32_t locale, void** info) override;
     HRESULT GetIDsOfNames(const char* const* names, std::uint32_t count, std::int32_t* ids) override;
@@ -64,6 +67,7 @@ protected:
     virtual std::uint32_t Generation() const { return 0; }
 
 private:
+    std::uint32_t ReleaseLast();
     HRESULT AnswerQuery(KORIID iid, void** out);  ///< on a main object
     KORTieState* LivingTie(KORIID iid);
     void BecomeExtensionOf(KORBaseUnknown& host);

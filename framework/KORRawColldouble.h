@@ -31,7 +31,9 @@ public:
     const KORSharedBuffer<double>& Buffer() const { return values_; }
 
     /// Same size and the same bit patterns (NaN equals itself).
-    bool SameBits(const KORRawColldouble& other) const;
+    bool SameBits(const KORRawColldouble& other) const {
+        return KORSharedBuffer<double>::SameBytes(Data(), other.Data());
+    }
 
 private:
     KORSharedBuffer<double> values_;

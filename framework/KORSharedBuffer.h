@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <new>
+#include <type_traits>
 #include <utility>
+
+#include "framework/KORSmallBlocks.h"
 
 /// A growable array of elements numbered from 0, shared copy-on-write: copies count one block of memory until
 /// one of them is written to. It is the storage below strings and lists, not a list of its own: it checks no
@@ -42,10 +46,10 @@ public:
     }
 
     void Append(T element) {
-        const int size = Size();
-        if (size >= Room()) Grow(std::max(kFirstRoom, 2 * size));
-        new (first_ + size) T(std::move(element));
-        ++HeaderOf(first_).size;
+        if (!HasRoom()) Grow(std::max(kFirstRoom, 2 * Size()));
+        Header& header = HeaderOf(first_);
+        new (first_ + header.size) T(std::move(element));
+        ++header.size;
     }
 
     /// Appends `count` elements for the caller to fill, at once: they are not initialized. Good until the
@@ -94,7 +98,14 @@ public:
     static void Drop(T* first) noexcept {
         if (!first || --HeaderOf(first).count != 0) return;
         std::destroy_n(first, HeaderOf(first).size);
-        ::operator delete(&HeaderOf(first));
+        KORSmallBlocks::Give(&HeaderOf(first), BlockSize(HeaderOf(first).room));
+    }
+    static bool SameBytes(const T* first, const T* other) {  ///< elements are compared bit by bit
+        static_assert(std::is_trivially_copyable_v<T>);
+        const int size = SizeOf(first);
+        if (size != SizeOf(other)) return false;
+        return first == other || size == 0 ||
+               std::memcmp(first, other, sizeof(T) * static_cast<std::size_t>(size)) == 0;
     }
     static int SizeOf(const T* first) { return first ? HeaderOf(first).size : 0; }
 
@@ -107,6 +118,8 @@ private:
     static constexpr std::size_t kHeader = 16;  ///< the elements follow the header, aligned
     static_assert(sizeof(Header) <= kHeader && alignof(T) <= kHeader);
 
+    static std::size_t BlockSize(int room) { return kHeader + sizeof(T) * static_cast<std::size_t>(room); }
+
     /// 64 bytes with the header: most lists fit.
     static constexpr int kFirstRoom = std::max<int>(1, (64 - kHeader) / sizeof(T));
 
@@ -114,6 +127,13 @@ private:
         return *reinterpret_cast<Header*>(reinterpret_cast<std::byte*>(first) - kHeader);
     }
     static const Header& HeaderOf(const T* first) { return HeaderOf(const_cast<T*>(first)); }
+
+    /// For one element more, without another block.
+    bool HasRoom() const {
+        if (!first_) return false;
+        const Header& header = HeaderOf(first_);
+        return header.count == 1 && header.size < header.room;
+    }
 
     /// For how many elements there is room without another block; 0 as long as others share this one.
     int Room() const { return first_ && HeaderOf(first_).count == 1 ? HeaderOf(first_).room : 0; }
@@ -137,9 +157,9 @@ private:
     }
 
     /// A block of its own with this much room. The elements move there, or are copied if others share them.
-    void Grow(int room) {
-        auto* memory =
-            static_cast<std::byte*>(::operator new(kHeader + sizeof(T) * static_cast<std::size_t>(room)));
+    /// Apart from its callers, which are short without it.
+    [[gnu::noinline]] void Grow(int room) {
+        auto* memory = static_cast<std::byte*>(KORSmallBlocks::Take(BlockSize(room)));
         new (memory) Header{1, 0, room};
         auto grown = Adopt(reinterpret_cast<T*>(memory + kHeader));
         if (const int size = Size(); size > 0) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <vector>
+#include <array>
 
 #include "ZELMaterialModel/include/ZELModuleObject.h"
 #include "ZELMaterialModel/include/ZELRememberedFeature.h"
@@ -16,8 +16,10 @@
 /// never copied.
 class KOR_EXPORT ZELGasketBehavior : private ZELModuleObject {
 protected:
-    /// Takes a reference of its own on the material; null is tolerated. `keys` is how many it will take.
-    ZELGasketBehavior(KORISpecObject* material, std::size_t keys);
+    static constexpr std::size_t kMostKeys = 24;
+
+    explicit ZELGasketBehavior(
+        KORISpecObject* material);  ///< takes a reference of its own; null is tolerated
     ZELGasketBehavior(const ZELGasketBehavior&) = default;
     ZELGasketBehavior& operator=(const ZELGasketBehavior&) = default;
     virtual ~ZELGasketBehavior();
@@ -33,13 +35,15 @@ protected:
     static const KORISpecAttrAccess_var& ForWriting(const ZELRememberedFeature& feature,
                                                     const KORISpecAttrAccess_var& access);
 
-    /// Resolves the next key of the behavior; false when the feature lacks it or is not there.
+    /// Resolves the next key of the behavior, one of kMostKeys; false when the feature lacks it or is not
+    /// there.
     bool TakeKey(const KORISpecAttrAccess_var& feature, const KORUnicodeString& name);
 
     /// The key taken as the `index`-th, from 0; null when the binding stopped before it.
-    KORISpecAttrKey* Key(std::size_t index) const { return index < keys_.size() ? keys_[index] : nullptr; }
+    KORISpecAttrKey* Key(std::size_t index) const { return keys_[index]; }
 
 private:
     KORISpecObject* material_;
-    std::vector<KORISpecAttrKey*> keys_;
+    std::array<KORISpecAttrKey*, kMostKeys> keys_{};  ///< null behind those that were taken
+    std::size_t taken_ = 0;
 };

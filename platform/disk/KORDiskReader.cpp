@@ -216,7 +216,7 @@ bool KORDiskReader::ReadEntries(std::string_view packed, const KORDiskContainers
     while (!entries.AtEnd()) {
         auto entry = KORUnpackEntry(entries, containers, *slots_, document_);
         if (!entry) return false;
-        step.entries.push_back(std::move(*entry));
+        step.entries.Append(*entry->feature, entry->slot, std::move(entry->other));
     }
     return true;
 }

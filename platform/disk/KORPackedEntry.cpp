@@ -33,7 +33,7 @@ public:
         if (packed_.Failed() || (place >= kDeclared && !slots_.HasName(name))) return Nothing();
         const auto slot = SlotOf(*feature, place, name, value);
         if (!slot) return Nothing();
-        return KORUndoEntry{KORVar<KORFeature>(feature), *slot, std::move(value)};
+        return KORUndoEntry(*feature, *slot, std::move(value));
     }
 
 private:
@@ -50,8 +50,7 @@ private:
     std::optional<KORUndoEntry> ReadContainer(KORFeature& feature) {
         const std::uint64_t container = packed_.Count();
         if (packed_.Failed() || container > containers_.Count()) return Nothing();
-        return KORUndoEntry{KORVar<KORFeature>(&feature), KORLayout::kContainer,
-                            KORValue::OfComponent(containers_.At(container))};
+        return KORUndoEntry(feature, KORLayout::kContainer, KORValue::OfComponent(containers_.At(container)));
     }
 
     KORValue ReadValue() {

@@ -110,6 +110,7 @@ HRESULT KORMemoryContainer::Extract(const KORListValKORISpecObject_var& features
 HRESULT KORMemoryContainer::Paste(const KORListValKORISpecObject_var& extracted,
                                   KORListValKORISpecObject_var& copies) {
     std::vector<KORVar<KORFeature>> originals;
+    originals.reserve(static_cast<std::size_t>(extracted.Size()));
     for (int position = 1; position <= extracted.Size(); ++position) {
         KORVar<KORFeature> original(extracted[position]);
         if (!document_ || !original || original->StoreDocument() != document_) return E_FAIL;

@@ -29,15 +29,17 @@ KORVar<KORFeature> KORFeature::NewCopy(const KORFeature& original, KORBaseUnknow
 }
 
 void* KORFeature::operator new(std::size_t size, SlotCount slots) {
-    return ::operator new(size + slots.count * sizeof(KORValue));
+    return KORSmallBlocks::Take(size + slots.count * sizeof(KORValue));
 }
 
-void KORFeature::operator delete(void* memory, SlotCount) {
-    ::operator delete(memory);
+void KORFeature::operator delete(void* memory, SlotCount slots) {
+    KORSmallBlocks::Give(memory, sizeof(KORFeature) + slots.count * sizeof(KORValue));
 }
 
-void KORFeature::operator delete(void* memory) {
-    ::operator delete(memory);
+void KORFeature::operator delete(KORFeature* feature, std::destroying_delete_t) {
+    const SlotCount slots{feature->Layout().SlotCount()};
+    feature->~KORFeature();
+    operator delete(feature, slots);
 }
 
 KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t stamp,
@@ -135,7 +137,7 @@ void KORFeature::AppendComponent(KORISpecAttrKey* key, KORBaseUnknown* component
     if (list.Stamp() == document->Log().Stamp()) {
         // The list before this step is kept, or no step is open: a long list grows in place.
         list.Append(component);
-        document->Features().MarkDirty(number_);
+        if (!dirty_) MarkDirty();
         return;
     }
     KORValue longer(list);
@@ -223,30 +225,32 @@ void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&&
 
 void KORFeature::Write(KORSlot slot, KORValue&& value) {
     KORStoreDocument* document = StoreDocument();
-    const KORValue& stored = At(slot);
+    KORValue& stored = Stored(slot);
     if (!document || stored.SameAs(value)) return;
     KORUndoLog& log = document->Log();
     value.SetStamp(log.Stamp());
     if (stored.Stamp() == log.Stamp() || !log.IsOpen()) {
         Swap(slot, value);
     } else {
-        log.Log(*this, slot, std::move(value));
+        const KORValue& before = log.Log(*this, slot, std::move(stored));
+        stored.Swap(value);
+        Changed(slot, before);
     }
 }
 
-void KORFeature::Swap(KORSlot slot, KORValue& other) noexcept {
-    KORStoreDocument& document = *StoreDocument();
-    KORValue& stored = Stored(slot);
-    stored.Swap(other);
-    document.Features().MarkDirty(number_);
-    if (slot != KORLayout::kContainer) return;
-    const bool lies = stored.Component() != nullptr;
-    const bool lay = other.Component() != nullptr;
+void KORFeature::MarkDirty() noexcept {
+    dirty_ = true;
+    StoreDocument()->Features().MarkDirty(number_);
+}
+
+void KORFeature::ChangeMembership(const KORValue& before) noexcept {
+    const bool lies = LiesInContainer();
+    const bool lay = before.Component() != nullptr;
     if (lies && !lay) {
         AddRef();
-        document.MemberEntered();
+        StoreDocument()->MemberEntered();
     } else if (lay && !lies) {
-        document.MemberLeft();
+        StoreDocument()->MemberLeft();
         Release();
     }
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <new>
+
 #include "interfaces/KORIAlias.h"
 #include "interfaces/KORILinkableObject.h"
 #include "platform/store/KORAttributeReads.h"
@@ -103,7 +105,13 @@ public:
 
     /// Exchanges a slot's value for another: all there is to do, undo and redo a change. Marks the feature
     /// dirty. The caller holds a reference. The slot is there: see UndeclaredSlot and MakeNameSlots.
-    void Swap(KORSlot slot, KORValue& other) noexcept;
+    void Swap(KORSlot slot, KORValue& other) noexcept {
+        Stored(slot).Swap(other);
+        Changed(slot, other);
+    }
+
+    /// It is saved as it stands. Called by the registry, which keeps the numbers of what is dirty.
+    void MarkClean() noexcept { dirty_ = false; }
 
     /// Takes all values away, unlogged: its document is being closed.
     void Clear() noexcept;
@@ -113,8 +121,8 @@ public:
         KORSlot count;
     };
     static void* operator new(std::size_t size, SlotCount slots);
-    static void operator delete(void* memory, SlotCount);
-    static void operator delete(void* memory);
+    static void operator delete(void* memory, SlotCount slots);
+    static void operator delete(KORFeature* feature, std::destroying_delete_t);
 
 protected:
     void* OwnInterface(KORIID iid) override;
@@ -134,6 +142,14 @@ private:
     const KORValue& UndeclaredAt(KORSlot slot) const;
     void DropUndeclared() noexcept;
 
+    /// A slot was written that held another value before.
+    void Changed(KORSlot slot, const KORValue& before) noexcept {
+        if (!dirty_) MarkDirty();
+        if (slot == KORLayout::kContainer) ChangeMembership(before);
+    }
+    void MarkDirty() noexcept;
+    void ChangeMembership(const KORValue& before) noexcept;  ///< after its container slot has changed
+
     KORValue& Stored(KORSlot slot) { return const_cast<KORValue&>(At(slot)); }
     KORValue* Slots() { return reinterpret_cast<KORValue*>(this + 1); }
     const KORValue* Slots() const { return reinterpret_cast<const KORValue*>(this + 1); }
@@ -143,6 +159,7 @@ private:
     KORFeatureType* type_;  ///< counted
     std::uint32_t number_;
     bool hasUndeclared_ = false;  ///< the document keeps a table for it
+    bool dirty_ = true;           ///< its registry knows that it has changed; new features have
 };
 
 template <class Visitor>

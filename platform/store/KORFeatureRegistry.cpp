@@ -1,12 +1,10 @@
 #include "platform/store/KORFeatureRegistry.h"
 
-std::uint32_t KORFeatureRegistry::NextNumber() {
-    const std::uint32_t number = last_ + 1;
-    const std::uint32_t page = number / kPageSize;
+#include "platform/store/KORFeature.h"
+
+void KORFeatureRegistry::MakePage(std::uint32_t page) {
     if (page >= pages_.size()) pages_.resize(page + 1);
-    if (!pages_[page]) pages_[page] = std::make_unique<Page>();
-    last_ = number;
-    return number;
+    pages_[page] = std::make_unique<Page>();
 }
 
 void KORFeatureRegistry::SkipTo(std::uint32_t last) {
@@ -48,6 +46,10 @@ std::vector<std::uint32_t> KORFeatureRegistry::Dirty() const {
 void KORFeatureRegistry::Clean() noexcept {
     for (std::uint32_t page = 0; page < pages_.size(); ++page) {
         if (!pages_[page] || !pages_[page]->anyDirty) continue;
+        for (std::uint32_t i = 0; i < kPageSize; ++i) {
+            KORFeature* feature = pages_[page]->features[i];
+            if (feature && pages_[page]->dirty.test(i)) feature->MarkClean();
+        }
         pages_[page]->dirty.reset();
         pages_[page]->anyDirty = false;
         DropIfUnused(page);

@@ -14,7 +14,11 @@ class KORFeature;
 class KORFeatureRegistry {
 public:
     /// The next number of the document, with its place made ready; never one that was given before.
-    std::uint32_t NextNumber();
+    std::uint32_t NextNumber() {
+        const std::uint32_t page = (last_ + 1) / kPageSize;
+        if (page >= pages_.size() || !pages_[page]) MakePage(page);
+        return ++last_;
+    }
 
     /// The numbers up to this one count as given from now on, if they do not yet.
     void SkipTo(std::uint32_t last);
@@ -57,6 +61,7 @@ private:
     };
 
     Page& PageOf(std::uint32_t number) { return *pages_[number / kPageSize]; }
+    void MakePage(std::uint32_t page);
     void DropIfUnused(std::uint32_t page) noexcept;
 
     std::vector<std::unique_ptr<Page>> pages_;

@@ -4,11 +4,10 @@ KORStoreDocument::~KORStoreDocument() {
     CloseStore();
 }
 
-KORFeatureType& KORStoreDocument::TypeOf(const KORLayoutHandle& layout) {
+KORFeatureType& KORStoreDocument::MakeType(const KORLayoutHandle& layout) {
     const std::uint32_t ordinal = layout->Ordinal();
     if (ordinal >= types_.size()) types_.resize(ordinal + 1);
-    if (!types_[ordinal]) types_[ordinal] = new KORFeatureType(*this, layout);
-    return *types_[ordinal];
+    return *(types_[ordinal] = new KORFeatureType(*this, layout));
 }
 
 void KORStoreDocument::DropUndeclaredOf(std::uint32_t number) noexcept {

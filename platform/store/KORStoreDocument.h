@@ -29,7 +29,10 @@ public:
     void MemberEntered() { ++members_; }
     void MemberLeft() { --members_; }
 
-    KORFeatureType& TypeOf(const KORLayoutHandle& layout);
+    KORFeatureType& TypeOf(const KORLayoutHandle& layout) {
+        const std::uint32_t ordinal = layout->Ordinal();
+        return ordinal < types_.size() && types_[ordinal] ? *types_[ordinal] : MakeType(layout);
+    }
 
     /// The undeclared attributes of a living feature, by its number; an empty table is made when it has none.
     KORUndeclaredAttributes& UndeclaredOf(std::uint32_t number) { return undeclared_[number]; }
@@ -44,6 +47,8 @@ protected:
     void CloseStore() noexcept;
 
 private:
+    KORFeatureType& MakeType(const KORLayoutHandle& layout);
+
     KORFeatureRegistry features_;
     KORUndoLog log_;
     std::unordered_map<std::uint32_t, KORUndeclaredAttributes> undeclared_;  ///< of the few that have any

@@ -2,18 +2,12 @@
 
 #include <algorithm>
 
-void KORUndoLog::Log(KORFeature& feature, KORSlot slot, KORValue&& value) {
-    open_.push_back({KORVar<KORFeature>(&feature), slot, std::move(value)});
-    open_.back().Apply();
-}
-
 bool KORUndoLog::Undo() noexcept {
     if (!CanUndo()) return false;
     RaiseGeneration();
     KORUndoStep& step = steps_[--done_];
     step.changed = true;
-    auto& entries = step.entries;
-    std::for_each(entries.rbegin(), entries.rend(), [](KORUndoEntry& entry) { entry.Apply(); });
+    for (KORUndoEntry* entry = step.entries.end(); entry != step.entries.begin();) (--entry)->Apply();
     return true;
 }
 
@@ -22,8 +16,7 @@ bool KORUndoLog::Redo() noexcept {
     RaiseGeneration();
     KORUndoStep& step = steps_[done_++];
     step.changed = true;
-    auto& entries = step.entries;
-    std::for_each(entries.begin(), entries.end(), [](KORUndoEntry& entry) { entry.Apply(); });
+    for (KORUndoEntry& entry : step.entries) entry.Apply();
     return true;
 }
 
@@ -34,7 +27,7 @@ void KORUndoLog::Clear() noexcept {
 
 void KORUndoLog::Drop() noexcept {
     Clear();
-    open_.clear();
+    open_.Clear();
 }
 
 void KORUndoLog::Restore(std::vector<KORUndoStep> steps, std::size_t done,
@@ -63,9 +56,7 @@ void KORUndoLog::Open() {
 void KORUndoLog::Commit(std::string&& name, std::uint32_t outerStamp) {
     if (outerStamp == 0 && !open_.empty()) {
         // The open entries' room is used again by the next step; what is kept takes no more than it needs.
-        const auto begin = std::make_move_iterator(open_.begin());
-        std::vector<KORUndoEntry> entries(begin, begin + static_cast<std::ptrdiff_t>(open_.size()));
-        open_.clear();
+        KORUndoEntries entries = open_.TakeAll();
         steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
         steps_.push_back({std::move(name), std::move(entries), ++lastNumber_});
         ++done_;
@@ -76,8 +67,7 @@ void KORUndoLog::Commit(std::string&& name, std::uint32_t outerStamp) {
 void KORUndoLog::RollBack(std::size_t begin, std::uint32_t outerStamp) noexcept {
     if (open_.size() > begin) RaiseGeneration();
     while (open_.size() > begin) {
-        KORUndoEntry last = std::move(open_.back());
-        open_.pop_back();
+        KORUndoEntry last = open_.TakeLast();
         last.Apply();
     }
     stamp_ = outerStamp;

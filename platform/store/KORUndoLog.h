@@ -4,27 +4,14 @@
 #include <vector>
 
 #include "framework/KORUndoCount.h"
-#include "platform/store/KORFeature.h"
-
-/// One reversible change. Holds the value the feature does not have at the moment, so applying it is a swap.
-/// That a feature was created, removed or moved is a change of its container slot.
-struct KORUndoEntry {
-    KORVar<KORFeature> feature;  ///< owned: an undone creation must be able to come back
-    KORSlot slot;
-    KORValue other;
-
-    void Apply() noexcept { feature->Swap(slot, other); }
-
-    /// What changed, for reports: an attribute's name, or "Name", "Alias", "Container".
-    const char* AttributeName() const { return feature->SlotName(slot); }
-};
+#include "platform/store/KORUndoEntries.h"
 
 /// A committed step: its entries undo it when they are applied backwards and redo it forwards.
 struct KORUndoStep {
     std::string name;
-    std::vector<KORUndoEntry> entries;  ///< at most one per slot and scope
-    std::uint32_t number = 0;           ///< in its document, from 1 on: never another step's
-    bool changed = true;                ///< committed, undone or redone since it was saved last
+    KORUndoEntries entries;    ///< at most one per slot and scope
+    std::uint32_t number = 0;  ///< in its document, from 1 on: never another step's
+    bool changed = true;       ///< committed, undone or redone since it was saved last
 };
 
 /// The changes of one document that can be undone and redone. A step stands open while a KORStep scope lives;
@@ -37,7 +24,7 @@ public:
     std::size_t Done() const { return done_; }
 
     /// What the open scopes have changed so far, oldest first.
-    const std::vector<KORUndoEntry>& OpenEntries() const { return open_; }
+    const KORUndoEntries& OpenEntries() const { return open_; }
 
     bool CanUndo() const { return !IsOpen() && done_ > 0; }
     bool CanRedo() const { return !IsOpen() && done_ < steps_.size(); }
@@ -67,8 +54,10 @@ public:
     /// a stale one for its own only if it was left alone for exactly 2^32 scopes.
     std::uint32_t Stamp() const { return stamp_; }
 
-    /// Exchanges a slot's value for another and keeps what is needed to go back.
-    void Log(KORFeature& feature, KORSlot slot, KORValue&& value);
+    /// Keeps what a slot held before it is written: what is needed to go back.
+    const KORValue& Log(KORFeature& feature, KORSlot slot, KORValue&& before) {
+        return open_.Append(feature, slot, std::move(before)).other;
+    }
 
 private:
     friend class KORStep;
@@ -84,7 +73,7 @@ private:
     std::vector<KORUndoStep> steps_;
     std::size_t done_ = 0;
     std::uint32_t lastNumber_ = 0;  ///< given to a step
-    std::vector<KORUndoEntry> open_;
+    KORUndoEntries open_;
     std::uint32_t stamp_ = 0;
     std::uint32_t lastStamp_ = 0;
     std::uint32_t generation_ = 0;

@@ -26,12 +26,12 @@ KORValue KORValue::OfComponent(KORBaseUnknown* component) noexcept {
 
 KORValue KORValue::EmptyList(KORAttributeKind kind) noexcept {
     KORValue empty(kind);
-    empty.state_ = KORValueState::Empty;
+    empty.form_.state = KORValueState::Empty;
     return empty;
 }
 
 std::uint64_t KORValue::CopyOwned() const {
-    switch (kind_) {
+    switch (form_.kind) {
         case KORAttributeKind::Boolean:
         case KORAttributeKind::Integer:
         case KORAttributeKind::Double:
@@ -52,7 +52,7 @@ std::uint64_t KORValue::CopyOwned() const {
 }
 
 void KORValue::DropOwned() noexcept {
-    switch (kind_) {
+    switch (form_.kind) {
         case KORAttributeKind::Boolean:
         case KORAttributeKind::Integer:
         case KORAttributeKind::Double:
@@ -73,17 +73,16 @@ void KORValue::DropOwned() noexcept {
 }
 
 bool KORValue::OwnsSameAs(const KORValue& other) const {
-    switch (kind_) {
+    switch (form_.kind) {
         case KORAttributeKind::Boolean:
         case KORAttributeKind::Integer:
         case KORAttributeKind::Double:
         case KORAttributeKind::Component:
             return false;
         case KORAttributeKind::String:
-            return KORUnicodeString::ViewOfBare(Pointer<char>()) ==
-                   KORUnicodeString::ViewOfBare(other.Pointer<char>());
+            return KORSharedBuffer<char>::SameBytes(Pointer<char>(), other.Pointer<char>());
         case KORAttributeKind::ListOfDoubles:
-            return ListOfDoubles().SameBits(other.ListOfDoubles());
+            return KORSharedBuffer<double>::SameBytes(Pointer<double>(), other.Pointer<double>());
         case KORAttributeKind::ListOfComponents:
             return Components()->SameAs(*other.Components());
     }
@@ -105,15 +104,15 @@ KORBaseUnknown_var KORValue::ComponentAt(int position) const {
 
 int KORValue::ListSize() const {
     if (bits_ == 0) return 0;
-    return kind_ == KORAttributeKind::ListOfDoubles ? KORSharedBuffer<double>::SizeOf(Pointer<double>())
-                                                    : Components()->Size();
+    return form_.kind == KORAttributeKind::ListOfDoubles ? KORSharedBuffer<double>::SizeOf(Pointer<double>())
+                                                         : Components()->Size();
 }
 
 void KORValue::Append(KORBaseUnknown* component) {
     if (bits_ == 0) {
         bits_ = AddressOf(new KORComponentList);
-        state_ = KORValueState::Empty;
+        form_.state = KORValueState::Empty;
     }
     Components()->Append(component);
-    state_ = KORValueState::Valued;
+    form_.state = KORValueState::Valued;
 }

@@ -19,7 +19,8 @@ enum class KORValueState : std::uint8_t { NeverValued, Empty, Valued, Absent };
 /// Reading it as another kind than its own is the caller's bug.
 class KORValue {
 public:
-    explicit KORValue(KORAttributeKind kind) noexcept : kind_(kind) {}  ///< never valued
+    explicit KORValue(KORAttributeKind kind) noexcept
+        : form_{kind, KORValueState::NeverValued} {}  ///< never valued
 
     static KORValue OfBoolean(bool value) noexcept;
     static KORValue OfInteger(int value) noexcept;
@@ -33,13 +34,11 @@ public:
     KORValue(const KORValue& other)
         : bits_(other.OwnsNothing() ? other.bits_ : other.CopyOwned()),
           stamp_(other.stamp_),
-          kind_(other.kind_),
-          state_(other.state_) {}
+          form_(other.form_) {}
     KORValue(KORValue&& other) noexcept
         : bits_(std::exchange(other.bits_, 0)),
           stamp_(std::exchange(other.stamp_, 0)),
-          kind_(other.kind_),
-          state_(std::exchange(other.state_, KORValueState::NeverValued)) {}
+          form_(std::exchange(other.form_, {other.form_.kind, KORValueState::NeverValued})) {}
     KORValue& operator=(KORValue other) noexcept {
         Swap(other);
         return *this;
@@ -51,17 +50,16 @@ public:
     void Swap(KORValue& other) noexcept {
         std::swap(bits_, other.bits_);
         std::swap(stamp_, other.stamp_);
-        std::swap(kind_, other.kind_);
-        std::swap(state_, other.state_);
+        std::swap(form_, other.form_);
     }
 
-    KORAttributeKind Kind() const { return kind_; }
-    KORValueState State() const { return state_; }
+    KORAttributeKind Kind() const { return form_.kind; }
+    KORValueState State() const { return form_.state; }
 
     /// The same state and the same bits: a NaN equals itself, 0.0 differs from -0.0. Strings and lists are
     /// compared by what they hold.
     bool SameAs(const KORValue& other) const {
-        if (kind_ != other.kind_ || state_ != other.state_) return false;
+        if (form_ != other.form_) return false;
         if (bits_ == other.bits_) return true;
         return !OwnsNothing() && other.bits_ != 0 && OwnsSameAs(other);
     }
@@ -86,10 +84,16 @@ public:
     void SetStamp(std::uint32_t stamp) { stamp_ = stamp; }
 
 private:
-    KORValue(KORAttributeKind kind, std::uint64_t bits) noexcept
-        : bits_(bits), kind_(kind), state_(KORValueState::Valued) {}
+    struct Form {
+        KORAttributeKind kind;
+        KORValueState state;
+        bool operator==(const Form&) const = default;
+    };
 
-    bool OwnsNothing() const { return bits_ == 0 || kind_ <= KORAttributeKind::Double; }
+    KORValue(KORAttributeKind kind, std::uint64_t bits) noexcept
+        : bits_(bits), form_{kind, KORValueState::Valued} {}
+
+    bool OwnsNothing() const { return bits_ == 0 || form_.kind <= KORAttributeKind::Double; }
     bool OwnsSameAs(const KORValue& other) const;  ///< both own something of the same kind
     std::uint64_t CopyOwned() const;
     void DropOwned() noexcept;
@@ -103,15 +107,14 @@ private:
 
     std::uint64_t bits_ = 0;  ///< the scalar, or the address of what is owned; 0: nothing is owned
     std::uint32_t stamp_ = 0;
-    KORAttributeKind kind_;
-    KORValueState state_ = KORValueState::NeverValued;
+    Form form_;
 };
 
 static_assert(sizeof(KORValue) == 16);
 
 inline KORValue KORValue::Absent() noexcept {
     KORValue absent(KORAttributeKind::Boolean);
-    absent.state_ = KORValueState::Absent;
+    absent.form_.state = KORValueState::Absent;
     return absent;
 }
 

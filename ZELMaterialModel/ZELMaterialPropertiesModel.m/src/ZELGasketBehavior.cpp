@@ -3,14 +3,13 @@
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/store/ZELKeyOnce.h"
 #include "framework/KORDiagnostic.h"
 
-ZELGasketBehavior::ZELGasketBehavior(KORISpecObject* material, std::size_t keys) : material_(material) {
-    keys_.reserve(keys);
+ZELGasketBehavior::ZELGasketBehavior(KORISpecObject* material) : material_(material) {
     if (material_) material_->AddRef();
 }
 
 ZELGasketBehavior::~ZELGasketBehavior() {
     if (material_) material_->Release();
-    for (KORISpecAttrKey* key : keys_) key->Release();
+    for (std::size_t index = 0; index < taken_; ++index) keys_[index]->Release();
 }
 
 KORISpecAttrAccess_var ZELGasketBehavior::OpenMaterial() const {
@@ -37,6 +36,6 @@ const KORISpecAttrAccess_var& ZELGasketBehavior::ForWriting(const ZELRememberedF
 
 bool ZELGasketBehavior::TakeKey(const KORISpecAttrAccess_var& feature, const KORUnicodeString& name) {
     KORISpecAttrKey* key = feature ? feature->GetAttrKey(name.c_str()) : nullptr;
-    if (key) keys_.push_back(key);
+    if (key) keys_[taken_++] = key;
     return key != nullptr;
 }

@@ -16,7 +16,7 @@ constexpr std::size_t kColumns = 2;
 
 ZELGasketElasticBehavior::ZELGasketElasticBehavior(KORISpecObject* material,
                                                    const ZELGasketElasticDescription& description)
-    : ZELGasketBehavior(material, kColumns + description.columns.size() + 1), description_(&description) {
+    : ZELGasketBehavior(material), description_(&description) {
     const KORISpecAttrAccess_var access = OpenMaterial();
     if (access) Bind(*access);
 }

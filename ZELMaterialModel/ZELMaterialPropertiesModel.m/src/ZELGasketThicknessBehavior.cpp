@@ -60,7 +60,8 @@ bool IsOff(double number) {
 }  // namespace
 
 ZELGasketThicknessBehavior::ZELGasketThicknessBehavior(KORISpecObject* material)
-    : ZELGasketBehavior(material, kKeys) {
+    : ZELGasketBehavior(material) {
+    static_assert(kKeys <= kMostKeys);
     materialAccess_ = OpenMaterial();
     if (materialAccess_ && BindFeatures(*materialAccess_)) TakeKeys();
 }

@@ -60,6 +60,21 @@ TEST_F(KORFeatureRegistryTest, ListsWhatIsNewChangedOrGoneSinceTheLastSave) {
     EXPECT_EQ((std::vector<std::uint32_t>{2, 3, 4}), document->Features().Dirty());
 }
 
+TEST_F(KORFeatureRegistryTest, ListsAFeatureAnewAfterEverySave) {
+    const auto feature = NewFeature();
+    const std::vector<std::uint32_t> listed = {1};
+    for (const double value : {2.5, 3.5, 4.5}) {
+        document->Features().Clean();
+        EXPECT_TRUE(document->Features().Dirty().empty());
+        feature->SetDouble(length, value, 0);
+        feature->SetDouble(length, value + 0.1, 0);
+        EXPECT_EQ(listed, document->Features().Dirty()) << value;
+    }
+    document->Features().Clean();
+    feature->AppendComponent(others, feature.Get());
+    EXPECT_EQ(listed, document->Features().Dirty());
+}
+
 TEST_F(KORFeatureRegistryTest, ListsWhatUndoAndRedoChange) {
     const auto feature = NewFeature();
     {
