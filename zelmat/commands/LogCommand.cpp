@@ -2,7 +2,6 @@
 
 #include "platform/disk/KORDiskDocument.h"
 #include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenLayups.h"
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/materials/HostPlatform.h"
@@ -19,7 +18,7 @@ public:
     void Declare(CLI::App& line) override { line.add_option("DOC", document_, "Document")->required(); }
 
     void Work(CommandContext& context) override {
-        if (!IsDocumentFile(document_) && IsDocument(document_)) {
+        if (IsTextDocumentFile(document_)) {
             context.findings.Add(
                 {FindingKind::USAGE,
                  {document_, 0},

@@ -6,6 +6,8 @@
 #include <nlohmann/json.hpp>
 #include <string_view>
 
+#include "zelmat/files/ReadText.h"
+
 namespace zelmat {
 
 namespace {
@@ -33,6 +35,14 @@ bool IsTextDocument(const std::string& text) {
     if (text.find("\"features\"") == std::string::npos) return false;
     const auto json = nlohmann::json::parse(text, nullptr, false);
     return json.is_object() && json.contains("format") && json.contains("features");
+}
+
+bool IsTextDocumentFile(const std::string& path) {
+    std::error_code none;
+    if (path == "-" || IsDocumentFile(path) || !std::filesystem::is_regular_file(path, none)) return false;
+    Findings unread;
+    const auto text = ReadText(path, unread);
+    return text && IsTextDocument(*text);
 }
 
 }  // namespace zelmat

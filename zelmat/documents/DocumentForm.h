@@ -17,4 +17,7 @@ bool IsDocumentName(const std::string& path);
 /// Whether a text has what a document in its text form cannot be without, and a card has not.
 bool IsTextDocument(const std::string& text);
 
+/// Whether it is a regular file that holds such a text. Never "-".
+bool IsTextDocumentFile(const std::string& path);
+
 }  // namespace zelmat

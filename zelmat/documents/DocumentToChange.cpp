@@ -1,9 +1,6 @@
 #include "zelmat/documents/DocumentToChange.h"
 
-#include <filesystem>
-
 #include "zelmat/documents/DocumentForm.h"
-#include "zelmat/files/ReadText.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/settings/ConfigurationFile.h"
 #include "zelmat/text/CountText.h"
@@ -26,12 +23,8 @@ bool IsPath(const std::string& path, Findings& findings) {
 
 /// False, and a finding, for what is there and no document of the form that can be changed in place.
 bool CanBeChanged(const std::string& path, Findings& findings) {
-    std::error_code none;
     if (!IsPath(path, findings)) return false;
-    if (IsDocumentFile(path) || !std::filesystem::is_regular_file(path, none)) return true;
-    Findings unread;  // told when it is opened
-    const auto text = ReadText(path, unread);
-    if (!text || text->empty() || !IsTextDocument(*text)) return true;
+    if (!IsTextDocumentFile(path)) return true;
     findings.Add({FindingKind::USAGE,
                   {path, 0},
                   "text-document",
