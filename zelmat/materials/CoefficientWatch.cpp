@@ -55,22 +55,46 @@ bool CoefficientWatch::MayUpgrade(KORFeature& feature, const KORUpgradedFeature&
     older_ = ReadOlderCoefficients(feature);
     if (!older_->unconverted || older_->rows.empty()) older_.reset();
     if (!older_) return true;
+    if (!shared_) shared_.emplace(feature);
     const std::string material = told.name.c_str();
     if (older_->enabled) {
         CheckWidths(material);
-        return IsNoGuess(material);
+        return IsNoGuess(material) && IsOnceOnly(material);
     }
-    if (!unitNamed_ || factor_ != 1.0) {
-        Add(FindingKind::WARNING, "coefficients-left",
-            "the hyperelastic behavior of " + material + " is off: its coefficients stay in the older unit",
-            {unitNamed_ ? unit_ : "not named"});
-    }
+    const bool may = MayStay(material);
     older_.reset();
+    return may;
+}
+
+/// May the coefficients of a behavior that is off stay as they are?
+bool CoefficientWatch::MayStay(const std::string& material) {
+    if (unitNamed_ && factor_ == 1.0) return true;
+    if (shared_->AreSwitchedOn(older_->hyperelasticFeature)) {
+        Add(FindingKind::ERROR, "shared-coefficients",
+            "the hyperelastic behavior of " + material +
+                " is off, and on in another material with the same coefficients",
+            {"switch both on, or both off"});
+        return false;
+    }
+    Add(FindingKind::WARNING, "coefficients-left",
+        "the hyperelastic behavior of " + material + " is off: its coefficients stay in the older unit",
+        {unitNamed_ ? unit_ : "not named"});
     return true;
 }
 
+/// Would the coefficients be scaled once, and not once more for every material that has them?
+bool CoefficientWatch::IsOnceOnly(const std::string& material) {
+    if (factor_ == 1.0 || !shared_->AreConverted(older_->modelFeature)) return true;
+    Add(FindingKind::ERROR, "shared-coefficients",
+        "the coefficients of " + material +
+            " are those of another material, too, for which they are converted",
+        {"give it a model of its own"});
+    return false;
+}
+
 bool CoefficientWatch::IsNoGuess(const std::string& material) {
-    const auto& [unconverted, enabled, temperatureDependent, model, order, rows] = *older_;
+    const std::string& model = older_->model;
+    const int order = older_->order;
     bool sure = true;
     const auto refuse = [&](const char* code, const std::string& text, std::vector<std::string> details) {
         Add(FindingKind::ERROR, code, text, std::move(details));
@@ -113,6 +137,7 @@ void CoefficientWatch::CheckWidths(const std::string& material) {
 void CoefficientWatch::Upgraded(KORFeature& now, const KORUpgradedFeature& told) {
     if (!older_) return;
     const OlderCoefficients newer = ReadOlderCoefficients(now);
+    shared_->MarkConverted(newer.modelFeature);
     const std::vector<ColumnKind> columns = Columns();
     ConvertedCoefficients converted{older_->model, older_->order, unit_, stored_, {}};
     for (std::size_t row = 0; row < std::min(older_->rows.size(), newer.rows.size()); ++row) {

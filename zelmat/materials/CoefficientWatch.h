@@ -7,7 +7,7 @@
 
 #include "platform/document/KORUpgradeRun.h"
 #include "zelmat/findings/Findings.h"
-#include "zelmat/materials/OlderCoefficients.h"
+#include "zelmat/materials/SharedCoefficients.h"
 #include "zelmat/materials/TableKind.h"
 
 namespace zelmat {
@@ -30,8 +30,9 @@ struct ConvertedCoefficients {
 
 /// Watches the coefficients while older materials are upgraded. The module scales what it finds by what the
 /// document says; this tells what it did, number by number, and refuses what would be a guess: a unit of
-/// pressure that nobody named, a model that is not known, an order that its model cannot have. Where the
-/// factor is 1, or nothing is to be converted, nothing is a guess.
+/// pressure that nobody named, a model that is not known, an order that its model cannot have. It refuses,
+/// too, what would come out wrong because several materials have the same coefficients: those would be scaled
+/// twice, or not at all. Where the factor is 1, or nothing is to be converted, nothing is refused.
 class CoefficientWatch final : public KORUpgradeWatch {
 public:
     /// The platform's current unit of pressure is the document's; while none is chosen, it names none.
@@ -45,6 +46,8 @@ public:
 
 private:
     bool IsNoGuess(const std::string& material);
+    bool MayStay(const std::string& material);
+    bool IsOnceOnly(const std::string& material);
     void CheckWidths(const std::string& material);
     void CheckResults(const std::string& material, const ConvertedCoefficients& converted);
     double FactorOf(const ColumnKind& column) const;
@@ -59,6 +62,7 @@ private:
     const double factor_;
     std::optional<OlderCoefficients>
         older_;  ///< of the feature that is being upgraded, if it has rows to convert
+    std::optional<SharedCoefficients> shared_;  ///< of the document, once it had rows to convert
     std::map<std::uint32_t, ConvertedCoefficients> converted_;
 };
 

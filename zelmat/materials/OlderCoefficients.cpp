@@ -43,6 +43,7 @@ OlderCoefficients ReadOlderCoefficients(KORFeature& material) {
     OlderCoefficients read;
     const auto hyperelasticity = PartOf(material, "ZELHyperelasticity");
     if (!hyperelasticity) return read;
+    read.hyperelasticFeature = hyperelasticity->Number();
     read.enabled = material.GetBoolean(kEnabled, 0);
     read.unconverted =
         hyperelasticity->Layout().Find(kConverted).slot != 0 && !hyperelasticity->GetBoolean(kConverted, 0);
@@ -50,6 +51,7 @@ OlderCoefficients ReadOlderCoefficients(KORFeature& material) {
     auto model = PartOf(*hyperelasticity, "HyperelasticModel");
     if (!model) model = PartOf(*hyperelasticity, "HyperelasticModel_v2");
     if (!model) return read;
+    read.modelFeature = model->Number();
     read.order = model->GetInteger(kOrder, 0);
     read.temperatureDependent = model->GetBoolean(kTemperatureDependent, 0);
     read.rows = RowsOf(*model);

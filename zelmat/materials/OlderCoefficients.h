@@ -16,6 +16,8 @@ struct OlderCoefficients {
     std::string model;  ///< keyword of the strain-energy potential, unchecked
     int order = 0;      ///< of the potential, unchecked
     std::vector<std::vector<double>> rows;
+    std::uint32_t hyperelasticFeature = 0;  ///< the number of the behavior's feature; 0 without one
+    std::uint32_t modelFeature = 0;         ///< of the feature that lists the rows
 
     std::size_t Width() const;  ///< of the longest row
 };

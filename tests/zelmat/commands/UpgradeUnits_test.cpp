@@ -23,6 +23,35 @@ struct OlderRubber {
     bool converted = false;
     bool temperatureDependent = false;
 
+    /// A second material, "Seal", with the coefficients of the first.
+    struct Seal {
+        bool enabled = true;
+        bool ownBehavior = false;  ///< a hyperelastic feature of its own over the first one's model
+        bool converted = false;
+    };
+    std::string TextWithSeal(const Seal& seal) const {
+        json document = json::parse(Text());
+        json& features = document["features"];
+        std::size_t behavior = 3;
+        if (seal.ownBehavior) {
+            behavior = features.size() + 1;
+            features.push_back({{"id", behavior},
+                                {"type", "MRVHyperelasticityLT"},
+                                {"attributes",
+                                 {{"HyperelasticMatModelType", model},
+                                  {"HyperelasticUnitUpgradeRequired", seal.converted},
+                                  {"HyperelasticModel_v2", {{"ref", 4}}}}}});
+        }
+        features.push_back({{"id", features.size() + 1},
+                            {"type", "ZELMaterialLT"},
+                            {"alias", "Seal"},
+                            {"attributes",
+                             {{"ZELHyperelasticFlag", seal.enabled},
+                              {"ZELUserMaterial", {{"ref", 2}}},
+                              {"ZELHyperelasticity", {{"ref", behavior}}}}}});
+        return document.dump(1);
+    }
+
     std::string Text() const {
         json features = json::array();
         json refs = json::array();
@@ -54,7 +83,10 @@ struct OlderRubber {
 class UpgradeUnits : public FolderTest {
 protected:
     ProgramRun Upgrade(const OlderRubber& rubber, std::vector<std::string> further = {}) {
-        std::ofstream(older_) << rubber.Text();
+        return Upgrade(rubber.Text(), std::move(further));
+    }
+    ProgramRun Upgrade(const std::string& document, std::vector<std::string> further = {}) {
+        std::ofstream(older_) << document;
         further.insert(further.begin(), {"upgrade", older_, "--output", newer_});
         return RunZelmat(further);
     }
@@ -195,6 +227,47 @@ TEST_F(UpgradeUnits, RefuseNothingWhereNothingNeedsConverting) {
     ExpectClean(Upgrade({.unit = "Pa", .model = "ogden"}));
     EXPECT_EQ(WrittenRow(), json::parse("[0.5, 0.1, 0.02]"));
     ExpectClean(Upgrade({.unit = "", .model = "", .rows = {}, .enabled = false}));
+}
+
+TEST_F(UpgradeUnits, AreNotConvertedTwiceForTwoMaterialsWithOneModel) {
+    const ProgramRun run = Upgrade(OlderRubber().TextWithSeal({.enabled = true, .ownBehavior = true}));
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, older_ +
+                           ": error[shared-coefficients]: the coefficients of Seal are those of another "
+                           "material, too, for which they are converted (give it a model of its own)\n");
+    EXPECT_EQ(run.out, "materials: 2, upgraded: 0\nrefused: nothing was changed\n");
+    EXPECT_FALSE(std::filesystem::exists(newer_));
+}
+
+TEST_F(UpgradeUnits, AreNotConvertedInAModelThatAnotherMaterialHasInTheStoredUnit) {
+    const ProgramRun run =
+        Upgrade(OlderRubber().TextWithSeal({.enabled = true, .ownBehavior = true, .converted = true}));
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.err, HasSubstr("error[shared-coefficients]: the coefficients of Rubber are those of"));
+    EXPECT_FALSE(std::filesystem::exists(newer_));
+}
+
+TEST_F(UpgradeUnits, AreNotLeftOutForAMaterialThatIsOnBecauseAnotherOneIsOff) {
+    const ProgramRun run = Upgrade(OlderRubber{.enabled = false}.TextWithSeal({.enabled = true}));
+
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err, older_ +
+                           ": error[shared-coefficients]: the hyperelastic behavior of Rubber is off, and on "
+                           "in another material with the same coefficients (switch both on, or both off)\n");
+    EXPECT_FALSE(std::filesystem::exists(newer_));
+}
+
+TEST_F(UpgradeUnits, AreConvertedOnceForMaterialsThatShareThem) {
+    ExpectClean(Upgrade(OlderRubber().TextWithSeal({.enabled = true})));
+    EXPECT_EQ(WrittenRow(), json::parse("[5e5, 1e5, 2e-8]"));
+
+    Upgrade(OlderRubber().TextWithSeal({.enabled = false, .ownBehavior = true}));
+    EXPECT_EQ(WrittenRow(), json::parse("[5e5, 1e5, 2e-8]"));
+
+    ExpectClean(Upgrade(OlderRubber{.unit = "Pa"}.TextWithSeal({.enabled = true, .ownBehavior = true})));
+    EXPECT_EQ(WrittenRow(), json::parse("[0.5, 0.1, 0.02]")) << "in Pa there is nothing to convert";
 }
 
 TEST_F(UpgradeUnits, TellRowsThatABehaviorLeavesInTheOlderUnitBecauseItIsOff) {
