@@ -74,6 +74,13 @@ std::optional<Finding> UnknownOption(const CLI::App& line, const std::vector<std
     return std::nullopt;
 }
 
+/// The parser knows "-5" for a number, and takes "-.5" for an option.
+void WriteZeroBeforePoint(std::string& argument) {
+    if (argument.size() > 2 && argument.starts_with("-.") && argument[2] >= '0' && argument[2] <= '9') {
+        argument.insert(1, "0");
+    }
+}
+
 }  // namespace
 
 CommandLine ReadCommandLine(const CommandKind& kind, Command& command, std::vector<std::string> arguments) {
@@ -82,6 +89,7 @@ CommandLine ReadCommandLine(const CommandKind& kind, Command& command, std::vect
     Declare(line, kind, read.options, command);
     read.mistake = UnknownOption(line, arguments);
     if (read.mistake) return read;
+    std::ranges::for_each(arguments, WriteZeroBeforePoint);
     try {
         std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
         line.parse(arguments);

@@ -17,6 +17,11 @@ TEST(UnitCommand, ConvertsANumber) {
     EXPECT_EQ(RunZelmat({"unit", "12 µm/m/K", "1/degF"}).out, "12 µm/m/K = 6.666666666666667e-06 1/degF\n");
 }
 
+TEST(UnitCommand, ConvertsANegativeNumberHoweverItIsWritten) {
+    EXPECT_EQ(RunZelmat({"unit", "-5 MPa", "Pa"}).out, "-5 MPa = -5e+06 Pa\n");
+    EXPECT_EQ(RunZelmat({"unit", "-.5 MPa", "Pa"}).out, "-0.5 MPa = -5e+05 Pa\n");
+}
+
 TEST(UnitCommand, ConvertsATemperatureWithItsOffset) {
     EXPECT_EQ(RunZelmat({"unit", "20 degC", "K"}).out, "20 degC = 293.15 K\n");
     EXPECT_EQ(RunZelmat({"unit", "-40 degC", "degF"}).out, "-40 degC = -40 degF\n");
