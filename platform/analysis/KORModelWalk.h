@@ -1,6 +1,7 @@
 #pragma once
 
 #include <limits>
+#include <vector>
 
 #include "interfaces/KORISamAnalysisSet.h"
 #include "platform/analysis/KORChildren.h"
@@ -16,21 +17,33 @@ public:
     /// Down to the depth `last`.
     explicit KORModelWalk(int last = kEverything) : last_(last) {}
 
-    /// Visits with (KORFeature&, int depth) what stands below `parent`.
+    /// Visits with (KORFeature&, int depth) what stands below `parent`. However deep that is, the stack is
+    /// not.
     template <class Visitor>
-    void Visit(KORFeature& parent, Visitor&& visit, int depth = 1) {
-        if (depth > last_) return;
-        const KORListValKORISpecObject_var children = KORChildren(parent).All();
-        for (int position = 1; position <= children.Size(); ++position) {
-            const KORVar<KORFeature> child(children[position]);
+    void Visit(KORFeature& parent, Visitor&& visit) {
+        std::vector<Level> levels{{KORChildren(parent).All()}};
+        while (!levels.empty()) {
+            Level& level = levels.back();
+            if (level.passed == level.children.Size()) {
+                levels.pop_back();
+                continue;
+            }
+            const KORVar<KORFeature> child(level.children[++level.passed]);
             if (!child) continue;
+            const int depth = static_cast<int>(levels.size());
             visit(*child, depth);
-            if (KORISamAnalysisSet_var(child) && entered_.Add(child.Get(), 0))
-                Visit(*child, visit, depth + 1);
+            if (depth < last_ && KORISamAnalysisSet_var(child) && entered_.Add(child.Get(), 0)) {
+                levels.push_back({KORChildren(*child).All()});
+            }
         }
     }
 
 private:
+    struct Level {
+        KORListValKORISpecObject_var children;
+        int passed = 0;
+    };
+
     int last_;
     KORFeaturePlaces entered_;
 };

@@ -6,6 +6,7 @@
 #include "KORTestDocument.h"
 #include "interfaces/KORISamAnalysisEntity.h"
 #include "interfaces/KORISamAnalysisSet.h"
+#include "platform/analysis/KORChildren.h"
 
 namespace {
 
@@ -169,6 +170,32 @@ TEST_F(KORAnalysisModel, FindsAFeatureOnceAndAtAnyDepth) {
     EXPECT_EQ((Numbers{4}), Scan(kEntity, 3));
     EXPECT_EQ((Numbers{2, 3}), Scan(kSet, 3));
     EXPECT_EQ((Numbers{4}), Scan(kEntity, 2));
+}
+
+TEST_F(KORAnalysisModel, IsScannedHoweverDeepItsSetsLieInEachOther) {
+    constexpr std::uint32_t kDeep = 100000;
+    KORISamAnalysisSet_var outer(Create(kSet));
+    for (std::uint32_t depth = 1; depth < kDeep; ++depth) {
+        const KORISpecObject_var inner = Create(kSet);
+        outer->AddChild(inner);
+        outer = inner;
+    }
+
+    EXPECT_EQ(Numbers{2}, Scan(kSet, 1));
+    EXPECT_EQ(Numbers{3}, Scan(kSet, 2));
+    EXPECT_EQ(kDeep, Scan(kSet, 3).size());
+}
+
+// The same set is first met where it is too deep to be looked into.
+TEST_F(KORAnalysisModel, LooksIntoASetThatIsListedInAnotherOneBeforeIt) {
+    const auto outer = Create(kSet);
+    const auto inner = Create(kSet);
+    const auto loose = Create(kLoose);
+    KORISamAnalysisSet_var(inner)->AddChild(loose);
+    KORISamAnalysisSet_var(outer)->AddChild(inner);
+    KORChildren(*model).Append(inner.Get());
+
+    EXPECT_EQ(Numbers{4}, Scan(kLoose, 2));
 }
 
 TEST_F(KORAnalysisModel, TellsAnEntityTheSetsThatHoldIt) {
