@@ -2,9 +2,11 @@
 
 void KORComponentList::Append(KORBaseUnknown* component) {
     const auto feature = KORISpecObject_var::Of(component);
-    const int position = Size() + 1;
-    if (component && !feature) others_.emplace_back(position, component->MainObject());
+    const bool isOther = component && !feature;
+    // Room first, so that the list is as it was when there is none.
+    if (isOther && others_.size() == others_.capacity()) others_.reserve(2 * others_.size() + 1);
     features_.Append(feature);
+    if (isOther) others_.emplace_back(Size(), component->MainObject());
 }
 
 KORBaseUnknown_var KORComponentList::At(int position) const {

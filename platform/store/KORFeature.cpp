@@ -132,7 +132,8 @@ void KORFeature::SetComponent(KORISpecAttrKey* key, KORBaseUnknown* component, i
 void KORFeature::AppendComponent(KORISpecAttrKey* key, KORBaseUnknown* component) {
     const KORLayout::Place place = PlaceOf(key);
     KORStoreDocument* document = StoreDocument();
-    if (!document || place.slot == 0 || place.kind != KORAttributeKind::ListOfComponents) return;
+    if (!document || takenAway_ || place.slot == 0 || place.kind != KORAttributeKind::ListOfComponents)
+        return;
     KORValue& list = Slots()[place.slot];
     if (list.Stamp() == document->Log().Stamp()) {
         // The list before this step is kept, or no step is open: a long list grows in place.
@@ -226,7 +227,7 @@ void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&&
 void KORFeature::Write(KORSlot slot, KORValue&& value) {
     KORStoreDocument* document = StoreDocument();
     KORValue& stored = Stored(slot);
-    if (!document || stored.SameAs(value)) return;
+    if (!document || stored.SameAs(value) || (takenAway_ && slot != KORLayout::kContainer)) return;
     KORUndoLog& log = document->Log();
     value.SetStamp(log.Stamp());
     if (stored.Stamp() == log.Stamp() || !log.IsOpen()) {
@@ -247,6 +248,7 @@ void KORFeature::ChangeMembership(const KORValue& before) noexcept {
     const bool lies = LiesInContainer();
     const bool lay = before.Component() != nullptr;
     if (lies && !lay) {
+        takenAway_ = false;
         AddRef();
         StoreDocument()->MemberEntered();
     } else if (lay && !lies) {

@@ -16,6 +16,9 @@ inline const KORIID IID_KORFeature = KORName::Intern("KORFeature");
 ///
 /// A feature lies in at most one container, which keeps a reference on it: it lives on without other handles.
 /// Once its document is closed, its slots are empty, reads answer "never valued" and writes are ignored.
+/// Writes are ignored, too, while undo, redo or a rollback has taken it out of its container: whoever still
+/// holds it reads what it was, and that is how a redo brings it back. One that was removed, and not undone,
+/// can be written.
 class KORFeature final : public KORAttributeReads<KORFeature, KORILinkableObject, KORIAlias> {
 public:
     static KORIID Iid() { return IID_KORFeature; }
@@ -44,6 +47,9 @@ public:
     /// Changes the container it lies in. Null takes it out: only its other holders keep it then.
     void SetContainer(KORBaseUnknown* container);
     bool LiesInContainer() const { return At(KORLayout::kContainer).Component() != nullptr; }
+
+    /// For the undo log, which has just undone or redone a change of its container.
+    void WasPutBack() noexcept { takenAway_ = !LiesInContainer(); }
 
     KORUnicodeString GetName() override;
     KORBaseUnknown* GetFeatContainer() override;
@@ -94,7 +100,8 @@ public:
     std::string_view SlotText(KORSlot slot) const;  ///< the same with what stands behind a NUL
 
     /// Puts a value of the slot's kind into a slot. The one choke point of all changes: compares, logs,
-    /// writes. Nothing happens once the document is closed.
+    /// writes. Nothing happens once the document is closed, nor to a feature that was taken away, except that
+    /// it can be put into a container again.
     void Write(KORSlot slot, KORValue&& value);
 
     /// Visits the components that its attributes reference, those in lists included, as KORBaseUnknown&
@@ -160,6 +167,7 @@ private:
     std::uint32_t number_;
     bool hasUndeclared_ = false;  ///< the document keeps a table for it
     bool dirty_ = true;           ///< its registry knows that it has changed; new features have
+    bool takenAway_ = false;      ///< out of its container by undo, redo or a rollback
 };
 
 template <class Visitor>

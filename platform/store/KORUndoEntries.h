@@ -17,6 +17,12 @@ struct KORUndoEntry {
 
     void Apply() noexcept { feature->Swap(slot, other); }
 
+    /// The same for a change that is undone, redone or rolled back.
+    void PutBack() noexcept {
+        Apply();
+        if (slot == KORLayout::kContainer) feature->WasPutBack();
+    }
+
     /// What changed, for reports: an attribute's name, or "Name", "Alias", "Container".
     const char* AttributeName() const { return feature->SlotName(slot); }
 };

@@ -1,5 +1,7 @@
 #include "platform/store/KORValue.h"
 
+#include <memory>
+
 namespace {
 
 std::uint64_t AddressOf(const void* object) {
@@ -109,10 +111,9 @@ int KORValue::ListSize() const {
 }
 
 void KORValue::Append(KORBaseUnknown* component) {
-    if (bits_ == 0) {
-        bits_ = AddressOf(new KORComponentList);
-        form_.state = KORValueState::Empty;
-    }
-    Components()->Append(component);
+    if (bits_ != 0) return Components()->Append(component);
+    auto list = std::make_unique<KORComponentList>();
+    list->Append(component);
+    bits_ = AddressOf(list.release());
     form_.state = KORValueState::Valued;
 }
