@@ -12,7 +12,7 @@
 ///
 /// It may be read at any time, and a feature that a redo brings back can be written again. Where nothing was
 /// undone since it was looked at last, it costs nothing to ask. A feature that was only removed is not taken
-/// away: whoever removed it knows.
+/// away, as long as nothing is undone after that: whoever removed it knows.
 class KOR_EXPORT ZELRememberedFeature {
 public:
     ZELRememberedFeature() = default;

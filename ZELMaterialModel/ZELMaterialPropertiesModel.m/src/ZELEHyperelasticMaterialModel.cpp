@@ -47,7 +47,7 @@ HRESULT ZELEHyperelasticMaterialModel::GetStrainEnergyPotentialOrder(int& order)
 
 HRESULT ZELEHyperelasticMaterialModel::SetStrainEnergyPotentialOrder(int order) {
     return ZELFailOnly(
-        ZELSetValue(feature_.Get(), ZELKeyOnce(ZELKey::HyperelasticMatModelPotentialOrder), order));
+        ZELSetValue(feature_.ForWriting(), ZELKeyOnce(ZELKey::HyperelasticMatModelPotentialOrder), order));
 }
 
 HRESULT ZELEHyperelasticMaterialModel::GetPropertyTemperatureDependent(unsigned char& dependent) {
@@ -56,8 +56,8 @@ HRESULT ZELEHyperelasticMaterialModel::GetPropertyTemperatureDependent(unsigned 
 }
 
 HRESULT ZELEHyperelasticMaterialModel::SetPropertyTemperatureDependent(unsigned char dependent) {
-    return ZELFailOnly(
-        ZELSetValue(feature_.Get(), ZELKeyOnce(ZELKey::HyperelasticMatModelTempDependentFlag), dependent));
+    return ZELFailOnly(ZELSetValue(feature_.ForWriting(),
+                                   ZELKeyOnce(ZELKey::HyperelasticMatModelTempDependentFlag), dependent));
 }
 
 HRESULT ZELEHyperelasticMaterialModel::GetPropertyDataFile(KORUnicodeString& name) {
@@ -65,11 +65,12 @@ HRESULT ZELEHyperelasticMaterialModel::GetPropertyDataFile(KORUnicodeString& nam
 }
 
 HRESULT ZELEHyperelasticMaterialModel::SetPropertyDataFile(const KORUnicodeString& name) {
-    return ZELFailOnly(ZELSetValue(feature_.Get(), ZELKeyOnce(ZELKey::HyperelasticMatModelDataFile), name));
+    return ZELFailOnly(
+        ZELSetValue(feature_.ForWriting(), ZELKeyOnce(ZELKey::HyperelasticMatModelDataFile), name));
 }
 
 HRESULT ZELEHyperelasticMaterialModel::SetPropertyData(const ZELCftArrayZELCftArrayDouble& rows) {
-    const auto access = KORISpecAttrAccess_var::Of(feature_.Get());
+    const auto access = KORISpecAttrAccess_var::Of(feature_.ForWriting());
     ZELKeyOnce listKey(ZELKey::HyperelasticMatModelData);
     KORISpecAttrKey* list = access ? listKey.Resolve(*access) : nullptr;
     if (!list) return E_FAIL;
@@ -128,7 +129,7 @@ HRESULT ZELEHyperelasticMaterialModel::GetPropertyData(ZELCftArrayZELCftArrayDou
 
 HRESULT ZELEHyperelasticMaterialModel::CreateHyperelasticRowDataFeature(KORISpecObject_var& row) {
     if (!feature_) return E_FAIL;
-    const KORIContainer_var container(ZELContainerOf(feature_));
+    const KORIContainer_var container(ZELContainerOf(feature_.Get()));
     if (!container) return E_FAIL;
     return ZELInstantiateAlone(ZELLateType::ZELMaterialModelRowDataLT, ZELLateType::ZELMaterialModelRowDataLT,
                                container.Get(), row);

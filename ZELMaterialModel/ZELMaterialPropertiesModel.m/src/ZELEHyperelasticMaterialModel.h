@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ZELMaterialModel/include/ZELModuleObject.h"
+#include "ZELMaterialModel/include/ZELRememberedFeature.h"
 #include "ZELShared/ZELCftArrayZELCftArrayDouble.h"
 #include "framework/KORExport.h"
 #include "interfaces/KORISpecObject.h"
@@ -9,7 +10,8 @@
 /// table row, listed in row order by the model feature.
 ///
 /// The object remembers the row features of its last SetPropertyData and reuses them in the next; the memory
-/// starts empty and is not stored, and a row that lies in no container any more is none of it.
+/// starts empty and is not stored, and a row that lies in no container any more is none of it. Nothing is
+/// written to a model that undo took away, nor to its rows.
 class KOR_EXPORT ZELEHyperelasticMaterialModel final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
@@ -31,7 +33,7 @@ private:
     void ForgetLostRows();
     void FitRows(int count);
 
-    KORISpecObject_var feature_;
+    ZELRememberedFeature feature_;
     KORListValKORISpecObject_var rows_;
 
     friend class ZELTestAccess;

@@ -6,6 +6,7 @@
 
 #include <optional>
 
+#include "ZELMaterialModel/include/ZELIHyperelasticMaterialModel.h"
 #include "ZELMaterialModel/include/ZELIMaterial.h"
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "tests/ZELMaterialModel/ZELFullMaterialTree.h"
@@ -147,6 +148,33 @@ TEST_F(ZELFeaturesTakenAway, AreNotWrittenByTheGasketBehaviors) {
     EXPECT_EQ(GetText(tree_->unloadingEP, "ZELGasketUnLoadingEPDataFile"), "");
     EXPECT_EQ(GetText(tree_->unloadingDamage, "ZELGasketUnLoadingDamageDataFile"), "");
     EXPECT_EQ(List(tree_->membrane, "ZELGasketMembraneElasticYoungsModulusData"), std::nullopt);
+}
+
+// The material and its model are not kept by a behavior but held by whoever has their interface.
+TEST_F(ZELFeaturesTakenAway, ComeBackAsTheyWereWhateverTheirOwnInterfacesAreTold) {
+    const ZELIHyperelasticMaterialModel_var model = tree_->model;
+    const auto elastic = Held(&ZELIMaterial::GetElasticProperties);
+    EXPECT_EQ(elastic->SetElasticEnabled(1), S_OK);
+    EXPECT_EQ(model->SetStrainEnergyPotentialOrder(1), S_OK);
+    EXPECT_EQ(model->SetPropertyData(ZELTableOf({{0.5e6, 0.1e6, 2e-8}})), S_OK);
+    Undo();
+
+    elastic->SetElasticEnabled(0);
+    KORGetImplementation<ZELMaterial>(material_.Get())->SetHeatGenerationEnabled(true);
+    EXPECT_EQ(model->SetPropertyData(ZELTableOf({{1.0}, {2.0}})), E_FAIL);
+    EXPECT_EQ(model->SetPropertyData(ZELTableOf({})), E_FAIL);
+    EXPECT_EQ(model->SetStrainEnergyPotentialOrder(3), E_FAIL);
+    EXPECT_EQ(model->SetPropertyTemperatureDependent(1), E_FAIL);
+    EXPECT_EQ(model->SetPropertyDataFile("other.csv"), E_FAIL);
+
+    ASSERT_TRUE(store_.MemoryDocument().Redo());
+    EXPECT_TRUE(GetFlag(tree_->material, "ZELElasticFlag"));
+    EXPECT_FALSE(GetFlag(tree_->material, "ZELHeatGenerationFlag"));
+    EXPECT_EQ(GetWhole(tree_->model, "HyperelasticMatModelPotentialOrder"), 1);
+    EXPECT_EQ(GetText(tree_->model, "HyperelasticMatModelDataFile"), "");
+    ZELCftArrayZELCftArrayDouble rows;
+    EXPECT_EQ(ZELIHyperelasticMaterialModel_var(tree_->model)->GetPropertyData(rows), S_OK);
+    EXPECT_EQ(ZELRowsOf(rows), (ZELRows{{0.5e6, 0.1e6, 2e-8}}));
 }
 
 TEST_F(ZELFeaturesTakenAway, AreWrittenAgainAfterARedo) {
