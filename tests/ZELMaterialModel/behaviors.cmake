@@ -1,7 +1,10 @@
 zel_test(test_module_behaviors
     FILES
+        src/ZELEHyperelasticMaterialModelCalls_test.cpp
+        src/ZELEHyperelasticMaterialModelUndo_test.cpp
         src/ZELEHyperelasticMaterialModel_test.cpp
         src/ZELEJohnsonCookData_test.cpp
+        src/ZELEMRVMaterialUpgradeContainersCalls_test.cpp
         src/ZELEMRVMaterialUpgradeContainers_test.cpp
         src/ZELEMRVMaterialUpgradeFaults_test.cpp
         src/ZELEMRVMaterialUpgradeQuery_test.cpp
@@ -12,6 +15,7 @@ zel_test(test_module_behaviors
         src/ZELGasketElastic_test.cpp
         src/ZELGasketMembraneElasticBehavior_test.cpp
         src/ZELGasketThicknessBehavior_test.cpp
+        src/ZELGasketThicknessTables_test.cpp
         src/ZELGasketTransverseShearElasticBehavior_test.cpp
         src/ZELHyperelasticUnits_test.cpp
         src/ZELHyperelastic_test.cpp
@@ -19,6 +23,7 @@ zel_test(test_module_behaviors
         src/ZELMaterialPlasticCalls_test.cpp
         src/ZELMaterialPlasticJohnsonCook_test.cpp
         src/ZELMaterialPlastic_test.cpp
+        src/ZELMaterialPropertiesFactCalls_test.cpp
         src/ZELMaterialPropertiesFact_test.cpp
         src/ZELRememberedFeature_test.cpp
         src/ZELTestData_test.cpp

@@ -3,18 +3,16 @@
 #include <gmock/gmock.h>
 
 #include <functional>
-#include <limits>
 
 #include "tests/ZELMaterialModel/ZELBareFeature.h"
 #include "tests/ZELMaterialModel/ZELFullMaterialTree.h"
-#include "tests/ZELMaterialModel/ZELRows.h"
 #include "tests/ZELMaterialModel/src/ZELGasketKeys.h"
+#include "tests/ZELMaterialModel/src/ZELGasketRows.h"
 #include "tests/support/ZELDiagnostics.h"
 #include "tests/support/ZELStores.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Optional;
 
 namespace {
 
@@ -52,9 +50,6 @@ HRESULT Table(Gasket& gasket, HRESULT (Gasket::*set)(const ZELCftArrayZELCftArra
     EXPECT_EQ(ZELRowsOf(table), SUCCEEDED(status) ? rows : ZELRows());
     return status;
 }
-
-const ZELRows kLoading = {{0.0, 0.0, 293.0}, {1e6, 0.001, 293.0}, {5e6, 0.002, 293.0}};
-const ZELRows kUnloading = {{5e6, 0.002, 0.001, 293.0}, {0.0, 0.001, 0.001, 293.0}};
 
 /// What can be set and got, and the last of the keys (by number) that it needs.
 struct Operation {
@@ -101,7 +96,8 @@ const std::vector<Operation> kOperations = {
      }},
     {11,
      [](Gasket& g) {
-         return Table(g, &Gasket::SetGasketLoadingDataArray, &Gasket::GetGasketLoadingDataArray, kLoading);
+         return Table(g, &Gasket::SetGasketLoadingDataArray, &Gasket::GetGasketLoadingDataArray,
+                      kZELLoadingRows);
      }},
     {12,
      [](Gasket& g) {
@@ -115,7 +111,7 @@ const std::vector<Operation> kOperations = {
     {17,
      [](Gasket& g) {
          return Table(g, &Gasket::SetGasketUnLoadingEPDataArray, &Gasket::GetGasketUnLoadingEPDataArray,
-                      kUnloading);
+                      kZELUnloadingRows);
      }},
     {18,
      [](Gasket& g) {
@@ -129,7 +125,7 @@ const std::vector<Operation> kOperations = {
     {23,
      [](Gasket& g) {
          return Table(g, &Gasket::SetGasketUnLoadingDamageDataArray,
-                      &Gasket::GetGasketUnLoadingDamageDataArray, kUnloading);
+                      &Gasket::GetGasketUnLoadingDamageDataArray, kZELUnloadingRows);
      }},
 };
 
@@ -168,31 +164,6 @@ TEST_P(ZELGasketThicknessBehaviorTest, SetsAndGetsEverything) {
     EXPECT_TRUE(GetFlag(tree_.unloadingEP, "ZELGasketUnLoadingEPTemperatureDepFlag"));
     EXPECT_EQ(GetText(tree_.unloadingDamage, "ZELGasketUnLoadingDamageDataFile"), "gasket.csv");
     EXPECT_TRUE(GetFlag(tree_.unloadingDamage, "ZELGasketUnLoadingDamageTemperatureDepFlag"));
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, StoresEachTableColumnByColumn) {
-    Gasket gasket(tree_.material.Get());
-
-    gasket.SetGasketLoadingDataArray(ZELTableOf({{0.0, 0.0, 1.0}, {2.0, 3.0, 4.0}, {5.0, 6.0, 7.0}}));
-    gasket.SetGasketUnLoadingEPDataArray(ZELTableOf({{1.0, 2.0, 3.0, 4.0}}));
-    gasket.SetGasketUnLoadingDamageDataArray(ZELTableOf({{5.0, 6.0, 7.0, 8.0, 9.0}}));
-
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingPressureData"), Optional(ElementsAre(0.0, 2.0, 5.0)));
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingClosureData"), Optional(ElementsAre(0.0, 3.0, 6.0)));
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingTemperatureData"), Optional(ElementsAre(1.0, 4.0, 7.0)));
-    EXPECT_THAT(List(tree_.unloadingEP, "ZELGasketUnLoadingEPPressureData"), Optional(ElementsAre(1.0)));
-    EXPECT_THAT(List(tree_.unloadingEP, "ZELGasketUnLoadingEPClosureData"), Optional(ElementsAre(2.0)));
-    EXPECT_THAT(List(tree_.unloadingEP, "ZELGasketUnLoadingEPPlasticClosureData"),
-                Optional(ElementsAre(3.0)));
-    EXPECT_THAT(List(tree_.unloadingEP, "ZELGasketUnLoadingEPTemperatureData"), Optional(ElementsAre(4.0)));
-    EXPECT_THAT(List(tree_.unloadingDamage, "ZELGasketUnLoadingDamagePressureData"),
-                Optional(ElementsAre(5.0)));
-    EXPECT_THAT(List(tree_.unloadingDamage, "ZELGasketUnLoadingDamageClosureData"),
-                Optional(ElementsAre(6.0)));
-    EXPECT_THAT(List(tree_.unloadingDamage, "ZELGasketUnLoadingDamageMaxClosureData"),
-                Optional(ElementsAre(7.0)));
-    EXPECT_THAT(List(tree_.unloadingDamage, "ZELGasketUnLoadingDamageTemperatureData"),
-                Optional(ElementsAre(8.0)));
 }
 
 TEST_P(ZELGasketThicknessBehaviorTest, StopsAtTheFirstMissingKeyAndAnswersWhatItReachedBefore) {
@@ -288,111 +259,6 @@ TEST_P(ZELGasketThicknessBehaviorTest, KeepsNothingInMemory) {
     EXPECT_EQ(factor, 0.75);
     EXPECT_EQ(gasket.GetGasketEnabled(enabled), S_OK);
     EXPECT_EQ(enabled, 1) << "the store keeps 0 or 1";
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, StoresALoadingCurveOfTwoRowsAndReportsIt) {
-    Gasket gasket(tree_.material.Get());
-
-    EXPECT_EQ(gasket.SetGasketLoadingDataArray(ZELTableOf({{0.0, 0.0, 20.0}, {1.0, 2.0, 20.0}})), E_FAIL);
-
-    ZELCftArrayZELCftArrayDouble table;
-    EXPECT_EQ(gasket.GetGasketLoadingDataArray(table), S_OK);
-    EXPECT_EQ(ZELRowsOf(table), (ZELRows{{0.0, 0.0, 20.0}, {1.0, 2.0, 20.0}}));
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, StoresALoadingCurveThatDoesNotStartAtTheOriginAndReportsIt) {
-    const double notANumber = std::numeric_limits<double>::quiet_NaN();
-    Gasket gasket(tree_.material.Get());
-    const auto setStart = [&gasket](double pressure, double closure) {
-        return gasket.SetGasketLoadingDataArray(
-            ZELTableOf({{pressure, closure, 20.0}, {1.0, 2.0, 20.0}, {3.0, 4.0, 20.0}}));
-    };
-
-    EXPECT_EQ(setStart(0.5, 0.0), E_FAIL);
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingPressureData"), Optional(ElementsAre(0.5, 1.0, 3.0)));
-    EXPECT_EQ(setStart(0.0, 0.5), E_FAIL);
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingClosureData"), Optional(ElementsAre(0.5, 2.0, 4.0)));
-    EXPECT_EQ(setStart(notANumber, 0.0), E_FAIL);
-    EXPECT_EQ(setStart(0.0, notANumber), E_FAIL);
-    EXPECT_EQ(setStart(1e-11, 0.0), E_FAIL);
-
-    EXPECT_EQ(setStart(1e-13, -1e-13), S_OK) << "the same as 0";
-    EXPECT_EQ(setStart(-0.0, -0.0), S_OK);
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, StoresAnEmptyLoadingCurveAsEmptyListsAndReportsIt) {
-    Gasket gasket(tree_.material.Get());
-
-    EXPECT_EQ(gasket.SetGasketLoadingDataArray(ZELTableOf({})), E_FAIL);
-
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingPressureData"), Optional(IsEmpty()));
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingClosureData"), Optional(IsEmpty()));
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingTemperatureData"), Optional(IsEmpty()));
-    ZELCftArrayZELCftArrayDouble table;
-    EXPECT_EQ(gasket.GetGasketLoadingDataArray(table), S_OK);
-    EXPECT_EQ(table.size(), 0);
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, ChecksNoUnloadingTable) {
-    Gasket gasket(tree_.material.Get());
-
-    EXPECT_EQ(gasket.SetGasketUnLoadingEPDataArray(ZELTableOf({{-5.0, 1.0, 2.0, 3.0}})), S_OK);
-    EXPECT_EQ(gasket.SetGasketUnLoadingEPDataArray(ZELTableOf({})), S_OK);
-    EXPECT_THAT(List(tree_.unloadingEP, "ZELGasketUnLoadingEPPressureData"), Optional(IsEmpty()));
-    EXPECT_THAT(List(tree_.unloadingEP, "ZELGasketUnLoadingEPTemperatureData"), Optional(IsEmpty()));
-    EXPECT_EQ(gasket.SetGasketUnLoadingDamageDataArray(ZELTableOf({{-5.0, 1.0, 2.0, 3.0}})), S_OK);
-    EXPECT_EQ(gasket.SetGasketUnLoadingDamageDataArray(ZELTableOf({})), S_OK);
-    EXPECT_THAT(List(tree_.unloadingDamage, "ZELGasketUnLoadingDamageMaxClosureData"), Optional(IsEmpty()));
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, StoresZeroWhereARowIsTooNarrow) {
-    Gasket gasket(tree_.material.Get());
-
-    EXPECT_EQ(gasket.SetGasketLoadingDataArray(ZELTableOf({{}, {1.0}, {2.0, 3.0}})), S_OK);
-
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingPressureData"), Optional(ElementsAre(0.0, 1.0, 2.0)));
-    EXPECT_THAT(List(tree_.loading, "ZELGasketLoadingTemperatureData"), Optional(ElementsAre(0.0, 0.0, 0.0)));
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, AppendsToTheCallersTable) {
-    Gasket gasket(tree_.material.Get());
-    gasket.SetGasketUnLoadingEPDataArray(ZELTableOf({{1.0, 2.0, 3.0, 4.0}}));
-    auto table = ZELTableOf({{9.0}});
-
-    EXPECT_EQ(gasket.GetGasketUnLoadingEPDataArray(table), S_OK);
-
-    EXPECT_EQ(ZELRowsOf(table), (ZELRows{{9.0}, {1.0, 2.0, 3.0, 4.0}}));
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, RefusesColumnsOfDifferentLengthAndLeavesTheCallersTable) {
-    Gasket gasket(tree_.material.Get());
-    gasket.SetGasketLoadingDataArray(ZELTableOf(kLoading));
-    gasket.SetGasketUnLoadingEPDataArray(ZELTableOf(kUnloading));
-    gasket.SetGasketUnLoadingDamageDataArray(ZELTableOf(kUnloading));
-    SetList(tree_.loading, "ZELGasketLoadingTemperatureData", {1.0});
-    SetList(tree_.unloadingEP, "ZELGasketUnLoadingEPClosureData", {1.0, 2.0, 3.0});
-    SetList(tree_.unloadingDamage, "ZELGasketUnLoadingDamagePressureData", {});
-    auto table = ZELTableOf({{9.0}});
-
-    EXPECT_EQ(gasket.GetGasketLoadingDataArray(table), E_FAIL);
-    EXPECT_EQ(gasket.GetGasketUnLoadingEPDataArray(table), E_FAIL);
-    EXPECT_EQ(gasket.GetGasketUnLoadingDamageDataArray(table), E_FAIL);
-
-    EXPECT_EQ(ZELRowsOf(table), (ZELRows{{9.0}}));
-    EXPECT_THAT(diagnostics_.Lines(), IsEmpty());
-}
-
-TEST_P(ZELGasketThicknessBehaviorTest, CannotReadAColumnThatWasNeverValued) {
-    Gasket gasket(tree_.material.Get());
-    SetList(tree_.loading, "ZELGasketLoadingPressureData", {});
-    SetList(tree_.loading, "ZELGasketLoadingClosureData", {});
-    auto table = ZELTableOf({{9.0}});
-
-    EXPECT_EQ(gasket.GetGasketLoadingDataArray(table), E_FAIL);
-    EXPECT_EQ(gasket.GetGasketUnLoadingEPDataArray(table), E_FAIL);
-    EXPECT_EQ(gasket.GetGasketUnLoadingDamageDataArray(table), E_FAIL);
-
-    EXPECT_EQ(ZELRowsOf(table), (ZELRows{{9.0}}));
 }
 
 TEST_P(ZELGasketThicknessBehaviorTest, HoldsItsFeaturesAndKeysAndGivesThemBack) {

@@ -7,8 +7,7 @@
 #include <limits>
 
 #include "tests/ZELMaterialModel/ZELBareFeature.h"
-#include "tests/ZELMaterialModel/ZELRows.h"
-#include "tests/support/ZELFaultSweep.h"
+#include "tests/ZELMaterialModel/store/ZELTwoColumns.h"
 #include "tests/support/ZELStores.h"
 
 using testing::ElementsAre;
@@ -17,35 +16,9 @@ using testing::Optional;
 
 namespace {
 
-constexpr KORUnicodeString kFirst = KORUnicodeString::Literal("First");
-constexpr KORUnicodeString kSecond = KORUnicodeString::Literal("Second");
-constexpr KORUnicodeString kTemperature = KORUnicodeString::Literal("Temperature");
-
-void DefineTable(ZELTestStore& store) {
-    store.DefineType("TableLT", {{"First", ZELKind::ListOfDoubles},
-                                 {"Second", ZELKind::ListOfDoubles},
-                                 {"Temperature", ZELKind::ListOfDoubles}});
-}
-
-/// Two value columns and the temperature, with cold key slots.
-struct Columns {
-    ZELKeySlot slots[3] = {ZELKeySlot(kFirst), ZELKeySlot(kSecond), ZELKeySlot(kTemperature)};
-
-    HRESULT Write(const KORISpecObject_var& feature, const ZELRows& rows, bool temperatureDependent) {
-        return ZELWriteColumns(feature.Get(), slots, ZELTableOf(rows), temperatureDependent);
-    }
-    HRESULT Read(const KORISpecObject_var& feature, bool temperatureDependent) {
-        const HRESULT status = ZELReadColumns(feature.Get(), slots, temperatureDependent, table, outcome);
-        return status;
-    }
-
-    ZELCftArrayZELCftArrayDouble table = ZELTableOf({{-1.0, -2.0, -3.0}});  ///< what there was before
-    ZELColumnsRead outcome = ZELColumnsRead::Inconsistent;
-};
-
 class ZELColumns : public ZELStoreTest {
 protected:
-    ZELColumns() { DefineTable(Store()); }
+    ZELColumns() { ZELDefineTable(Store()); }
 
     KORISpecObject_var MakeWithout(const char* attribute) {
         Store().OmitAttribute("TableLT", attribute);
@@ -58,10 +31,8 @@ protected:
         SetList(feature, "Temperature", temperature);
     }
 
-    Columns columns_;
+    ZELTwoColumns columns_;
 };
-
-const ZELRows kBefore = {{-1.0, -2.0, -3.0}};
 
 }  // namespace
 
@@ -163,7 +134,7 @@ TEST_P(ZELColumns, NeedsTheTemperatureAttributeAlsoWhenNotTemperatureDependent) 
 
     EXPECT_THAT(List(feature, "First"), Optional(ElementsAre(1.0)));
     EXPECT_THAT(List(feature, "Second"), Optional(ElementsAre(2.0)));
-    EXPECT_EQ(ZELRowsOf(columns_.table), kBefore);
+    EXPECT_EQ(ZELRowsOf(columns_.table), kZELBefore);
 }
 
 TEST_P(ZELColumns, ReadsOneRowPerValueOfTheFirstColumn) {
@@ -293,19 +264,19 @@ TEST_P(ZELColumns, ReadsNothingWithoutAttributeAccess) {
     EXPECT_EQ(columns_.Read(ZELMakeBareFeature(), true), E_NOINTERFACE);
 
     EXPECT_EQ(columns_.outcome, ZELColumnsRead::Consistent);
-    EXPECT_EQ(ZELRowsOf(columns_.table), kBefore);
+    EXPECT_EQ(ZELRowsOf(columns_.table), kZELBefore);
 }
 
 TEST_P(ZELColumns, ReadsNothingWhenAnyColumnIsMissing) {
     for (const char* missing : {"First", "Second", "Temperature"}) {
-        DefineTable(Store());
+        ZELDefineTable(Store());
         const auto feature = MakeWithout(missing);
-        Columns cold;
+        ZELTwoColumns cold;
 
         EXPECT_EQ(cold.Read(feature, true), E_FAIL) << missing;
 
         EXPECT_EQ(cold.outcome, ZELColumnsRead::Consistent) << missing;
-        EXPECT_EQ(ZELRowsOf(cold.table), kBefore) << missing;
+        EXPECT_EQ(ZELRowsOf(cold.table), kZELBefore) << missing;
     }
 }
 
@@ -339,125 +310,6 @@ TEST_P(ZELColumns, LeavesTheFeatureWithAsManyReferencesAsItHad) {
     columns_.Read(feature, true);
 
     EXPECT_EQ(References(feature), before);
-}
-
-TEST(ZELColumnCalls, ResolveEachKeyJustBeforeItsColumnIsWritten) {
-    ZELMapStore store;
-    DefineTable(store);
-    const auto feature = store.Make("TableLT");
-    Columns columns;
-
-    columns.Write(feature, {{1.0, 2.0, 3.0}}, true);
-
-    EXPECT_THAT(store.Calls().Log(),
-                ElementsAre("QueryInterface TableLT KORISpecAttrAccess", "GetAttrKey TableLT.First",
-                            "SetListOfDouble TableLT.First [1]", "GetAttrKey TableLT.Second",
-                            "SetListOfDouble TableLT.Second [2]", "GetAttrKey TableLT.Temperature",
-                            "SetListOfDouble TableLT.Temperature [3]"));
-}
-
-TEST(ZELColumnCalls, StopAtTheColumnWhoseKeyIsMissing) {
-    const std::vector<std::pair<const char*, std::size_t>> callsUpTo = {
-        {"First", 2}, {"Second", 4}, {"Temperature", 6}};
-    for (const auto& [missing, calls] : callsUpTo) {
-        ZELMapStore store;
-        DefineTable(store);
-        store.OmitAttribute("TableLT", missing);
-        Columns columns;
-
-        columns.Write(store.Make("TableLT"), {{1.0, 2.0, 3.0}}, true);
-
-        EXPECT_EQ(store.Calls().Log().size(), calls) << missing;
-        EXPECT_EQ(store.Calls().Log().back(), std::string("GetAttrKey TableLT.") + missing + " not found");
-    }
-}
-
-TEST(ZELColumnCalls, ResolveAllKeysBeforeTheyReadAnyColumn) {
-    ZELMapStore store;
-    DefineTable(store);
-    const auto feature = store.Make("TableLT");
-    Columns columns;
-
-    columns.Read(feature, false);
-
-    EXPECT_THAT(store.Calls().Log(),
-                ElementsAre("QueryInterface TableLT KORISpecAttrAccess", "GetAttrKey TableLT.First",
-                            "GetAttrKey TableLT.Second", "GetAttrKey TableLT.Temperature",
-                            "GetListOfDouble TableLT.First", "GetListOfDouble TableLT.Second",
-                            "GetListOfDouble TableLT.Temperature"));
-}
-
-TEST(ZELColumnCalls, ResolveNoKeyASecondTime) {
-    ZELMapStore store;
-    DefineTable(store);
-    const auto first = store.Make("TableLT");
-    const auto second = store.Make("TableLT");
-    Columns columns;
-
-    columns.Write(first, {{1.0, 2.0, 3.0}}, true);
-    columns.Write(second, {{4.0, 5.0, 6.0}}, true);
-    columns.Read(first, true);
-
-    EXPECT_EQ(store.Calls().Log("GetAttrKey").size(), 3u);
-    EXPECT_EQ(ZELRowsOf(columns.table), (ZELRows{{1.0, 2.0, 3.0}}));
-    EXPECT_THAT(List(second, "Temperature"), Optional(ElementsAre(6.0)));
-}
-
-TEST(ZELColumnFaults, LeaveTheColumnsBeforeTheFailingCallWrittenAndTheOthersAsTheyWere) {
-    for (const ZELFault fault : {ZELFault::Refuse, ZELFault::SuccessWithNull, ZELFault::Throw}) {
-        const int faults = ZELFaultSweep(fault, [](ZELFaultRun& run) {
-            DefineTable(run.store);
-            const auto feature = run.store.Make("TableLT");
-            const long references = References(feature);
-            HRESULT status = S_OK;
-
-            run.Act([&] { status = Columns().Write(feature, {{1.0, 2.0, 3.0}}, true); });
-
-            const std::string& failed = run.FailedCall();
-            if (!run.Threw()) {
-                const HRESULT missing = failed.starts_with("GetAttrKey") ? E_FAIL : S_OK;
-                EXPECT_EQ(status, failed.starts_with("QueryInterface") ? E_NOINTERFACE : missing);
-            }
-            const auto names = {"First", "Second", "Temperature"};
-            bool written = !failed.starts_with("QueryInterface");
-            for (const char* name : names) {
-                if (failed.find(std::string("TableLT.") + name) != std::string::npos) written = false;
-                EXPECT_EQ(List(feature, name).has_value(), written) << name;
-            }
-            EXPECT_EQ(References(feature), references);
-        });
-        EXPECT_EQ(faults, fault == ZELFault::Throw ? 7 : 4);
-    }
-}
-
-TEST(ZELColumnFaults, LeaveTheTableAsItWasUntilAllColumnsAreRead) {
-    for (const ZELFault fault : {ZELFault::Refuse, ZELFault::SuccessWithNull, ZELFault::Throw}) {
-        const int faults = ZELFaultSweep(fault, [](ZELFaultRun& run) {
-            DefineTable(run.store);
-            const auto feature = run.store.Make("TableLT");
-            for (const char* name : {"First", "Second", "Temperature"}) SetList(feature, name, {7.0});
-            const long references = References(feature);
-            Columns columns;
-            HRESULT status = S_OK;
-
-            run.Act([&] { status = columns.Read(feature, true); });
-
-            const std::string& failed = run.FailedCall();
-            if (run.Threw()) {
-                EXPECT_EQ(ZELRowsOf(columns.table), kBefore);
-            } else if (failed.starts_with("GetListOfDouble")) {
-                EXPECT_EQ(status, S_OK) << "as if the column had never been valued";
-                EXPECT_EQ(columns.table.size(), 0);
-            } else if (run.FaultHit()) {
-                EXPECT_EQ(status, failed.starts_with("QueryInterface") ? E_NOINTERFACE : E_FAIL);
-                EXPECT_EQ(ZELRowsOf(columns.table), kBefore);
-            } else {
-                EXPECT_EQ(ZELRowsOf(columns.table), (ZELRows{{7.0, 7.0, 7.0}}));
-            }
-            EXPECT_EQ(References(feature), references);
-        });
-        EXPECT_EQ(faults, 7);
-    }
 }
 
 ZEL_ON_BOTH_STORES(ZELColumns);

@@ -9,8 +9,8 @@
 
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 
 class KORDiskDocumentTest : public KORDiskTest {};
 
@@ -86,6 +86,81 @@ TEST_F(KORDiskDocumentTest, TellsWhatItsStepsWere) {
     EXPECT_EQ(20u, steps[0].time.size());
     EXPECT_EQ("bob", steps[1].user);
     EXPECT_FALSE(steps[1].done);
+}
+
+TEST_F(KORDiskDocumentTest, NothingIsWrittenWhereNothingHasChanged) {
+    auto made = Create();
+    Do(made->Document(), "Make", [&] { Material(made->Document(), "Steel"); });
+    Save(*made);
+    const std::string before = Content();
+
+    Save(*made);
+    made = nullptr;
+    Save(*OpenToChange());
+
+    EXPECT_EQ(before, Content());
+}
+
+TEST_F(KORDiskDocumentTest, AReferenceToWhatIsNoFeatureOfTheDocumentIsNotSaved) {
+    auto made = Create();
+    Do(made->Document(), "Make", [&] { Material(made->Document(), "Steel"); });
+    Save(*made);
+    const auto foreign = KORMemoryDocument::New(*platform);
+    const auto stranger = Material(*foreign, "Stranger");
+    for (const bool list : {false, true}) {
+        const KORBaseUnknown_var container = KORBaseUnknown_var::Adopt(foreign->GetFeatContainer());
+        if (list) {
+            First(made->Document())->AppendComponent(others, container.Get());
+        } else {
+            First(made->Document())->SetComponent(other, stranger.Get(), 1);
+        }
+        KORFileError error;
+        EXPECT_FALSE(made->Save({}, error));
+        EXPECT_EQ(Path() + ": cannot be saved: feature 1, \"" + (list ? "Others" : "Other") +
+                      "\": references what is no feature of the document",
+                  error.Text());
+        EXPECT_THAT(Shown(made->Document()), HasSubstr("Other=never Others=never"));
+    }
+    foreign->Close();
+}
+
+TEST_F(KORDiskDocumentTest, ASaveInAStepOrOfWhatWasOpenedToReadIsRefusedWithoutHarm) {
+    auto made = Create();
+    KORFileError error;
+    {
+        KORStep step(made->Document(), "Make");
+        Material(made->Document(), "Steel");
+        EXPECT_FALSE(made->Save({}, error));
+        EXPECT_EQ(Path() + ": cannot be saved in the middle of a step", error.Text());
+        step.Commit();
+    }
+    Save(*made);
+    auto opened = OpenToRead();
+    EXPECT_FALSE(opened->Save({}, error));
+    EXPECT_EQ(Path() + ": was opened to be read only", error.Text());
+    EXPECT_EQ(1u, opened->Document().FeatureCount());
+}
+
+TEST_F(KORDiskDocumentTest, ADocumentThatIsNeverSavedLeavesNoFile) {
+    Create();
+    EXPECT_THAT(Files(), IsEmpty());
+}
+
+TEST_F(KORDiskDocumentTest, WhatIsThereIsNotMadeAnew) {
+    Touch("text", "x");
+    std::filesystem::create_directory(Path("folder"));
+    std::filesystem::create_symlink(Path("nowhere"), Path("link"));
+    Save(*Create());
+    KORFileError error;
+    for (const char* name : {"text", "folder", "d.zeldoc"}) {
+        EXPECT_EQ(nullptr, KORDiskDocument::Create(*platform, Path(name), error)) << name;
+        EXPECT_EQ(Path(name) + ": exists already", error.Text());
+    }
+    EXPECT_EQ(nullptr, KORDiskDocument::Create(*platform, Path("link"), error));
+    EXPECT_EQ(nullptr, KORDiskDocument::Create(*platform, Path("no/such/folder"), error));
+    EXPECT_EQ(Path("no/such/folder") + ": cannot be made: No such file or directory", error.Text());
+    EXPECT_EQ("x", Content("text"));
+    EXPECT_EQ(4u, Files().size());
 }
 
 }  // namespace

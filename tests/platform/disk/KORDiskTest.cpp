@@ -181,3 +181,22 @@ KORValue KORDiskTest::UndeclaredOf(const KORFeature& feature, std::string_view n
     });
     return found;
 }
+
+std::vector<std::string> KORDiskTest::Rows(const std::string& sql) const {
+    std::vector<std::string> rows;
+    sqlite3* file = nullptr;
+    sqlite3_stmt* row = nullptr;
+    EXPECT_EQ(SQLITE_OK, sqlite3_open(Path().c_str(), &file));
+    EXPECT_EQ(SQLITE_OK, sqlite3_prepare_v2(file, sql.c_str(), -1, &row, nullptr)) << sqlite3_errmsg(file);
+    while (sqlite3_step(row) == SQLITE_ROW) {
+        std::string columns;
+        for (int column = 0; column < sqlite3_column_count(row); ++column) {
+            const auto* shown = reinterpret_cast<const char*>(sqlite3_column_text(row, column));
+            columns += (column > 0 ? "|" : "") + std::string(shown ? shown : "NULL");
+        }
+        rows.push_back(columns);
+    }
+    sqlite3_finalize(row);
+    sqlite3_close(file);
+    return rows;
+}

@@ -24,6 +24,9 @@ protected:
     std::string Content(const std::string& name = "d.zeldoc") const;
     void Sql(const std::string& statements) const;  ///< changes d.zeldoc with SQLite itself
 
+    /// The rows of a query to SQLite itself, their columns with a "|" between them.
+    std::vector<std::string> Rows(const std::string& sql) const;
+
     // Null, and the test has failed, when it does not work.
     std::unique_ptr<KORDiskDocument> Create(const std::string& name = "d.zeldoc");
     std::unique_ptr<KORDiskDocument> OpenToRead(

@@ -5,9 +5,7 @@
 namespace {
 
 using Kind = KORDoctorFinding::Kind;
-using testing::AllOf;
 using testing::ElementsAre;
-using testing::Field;
 using testing::IsEmpty;
 
 class KORDoctorTest : public KORDiskTest {
