@@ -85,7 +85,8 @@ struct SpecificHeatNames {
     static constexpr auto kTable = &Behavior::GetSpecificHeatDataArray;
 };
 
-/// Writes to and reads from a behavior that holds a single table.
+/// Writes to and reads from a behavior that holds a single table. Reading is for those that keep it in
+/// memory; see GasketElasticAccess.
 template <class Names>
 struct BehaviorAccess {
     using Behavior = typename Names::Behavior;
@@ -103,7 +104,8 @@ struct BehaviorAccess {
         return settings;
     }
 
-    /// Flags come before the rows: a behavior decides by them which columns it stores.
+    /// Flags come before the rows: a behavior decides by them which columns it stores, and whether it checks
+    /// them.
     static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block) {
         BehaviorAnswers answers;
         const auto behavior = HandOut(material, Names::kHandOut);
@@ -118,7 +120,7 @@ struct BehaviorAccess {
             }
         }
         for (const Table& table : block.tables) {
-            answers.ToValue(object.SetTemperatureDependent(table.temperatureDependent ? 1 : 0));
+            answers.ToValue(SetTemperatureDependent(object, table.temperatureDependent ? 1 : 0));
             answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table)));
         }
         return answers.All();
@@ -145,6 +147,15 @@ struct BehaviorAccess {
         AddTable(block, block.kind->tables.front(), object.GetTemperatureDependent() != 0,
                  (object.*Names::kTable)());
         return status;
+    }
+
+private:
+    static HRESULT SetTemperatureDependent(Behavior& object, const unsigned char& dependent) {
+        if constexpr (requires { Names::kSetFlag; }) {
+            return (object.*Names::kSetFlag)(dependent);
+        } else {
+            return object.SetTemperatureDependent(dependent);
+        }
     }
 };
 

@@ -252,7 +252,7 @@ BlockKind GasketMembrane() {
                                    .column = "poissons_ratio",
                                    .broken = [](double ratio) { return ratio <= -1.0 || ratio >= 0.5; },
                                    .bound = "has to be above -1 and below 0.5"}}}},
-            .write = &GasketElasticAccess<GasketMembraneNames>::Write,
+            .write = &BehaviorAccess<GasketMembraneNames>::Write,
             .read = &GasketElasticAccess<GasketMembraneNames>::Read};
 }
 
@@ -270,7 +270,7 @@ BlockKind GasketTransverseShear() {
                                    .broken = [](double stiffness) { return stiffness <= 0.0; },
                                    .bound = "has to be above 0"}},
                         .whenBroken = BrokenRule::REFUSED}},
-            .write = &GasketElasticAccess<GasketTransverseShearNames>::Write,
+            .write = &BehaviorAccess<GasketTransverseShearNames>::Write,
             .read = &GasketElasticAccess<GasketTransverseShearNames>::Read};
 }
 

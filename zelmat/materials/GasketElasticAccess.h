@@ -2,7 +2,7 @@
 
 #include "ZELMaterialModel/include/ZELGasketMembraneElasticBehavior.h"
 #include "ZELMaterialModel/include/ZELGasketTransverseShearElasticBehavior.h"
-#include "zelmat/materials/BehaviorAnswers.h"
+#include "zelmat/materials/BehaviorAccess.h"
 
 namespace zelmat {
 
@@ -29,25 +29,11 @@ struct GasketTransverseShearNames {
     static constexpr auto kTable = &Behavior::GetGasketTransverseShearElasticDataArray;
 };
 
-/// Writes to and reads from an elastic gasket behavior. These keep nothing in memory: every getter reads the
-/// store.
+/// Reads from an elastic gasket behavior. These keep nothing in memory: every getter reads the store. Writing
+/// is that of the other behaviors with a single table.
 template <class Names>
 struct GasketElasticAccess {
     using Behavior = typename Names::Behavior;
-
-    /// Enabled comes before the rows: transverse shear checks them only while it is switched on.
-    static std::vector<WriteStatus> Write(ZELIMaterial& material, const Block& block) {
-        BehaviorAnswers answers;
-        const auto behavior = HandOut(material, Names::kHandOut);
-        if (!behavior.IsObject()) return answers.NoBehavior();
-        Behavior& object = *behavior.GetProxyObject();
-        answers.ToValue((object.*Names::kSetEnabled)(block.enabled ? 1 : 0));
-        for (const Table& table : block.tables) {
-            answers.ToValue((object.*Names::kSetFlag)(table.temperatureDependent ? 1 : 0));
-            answers.ToTable(table, (object.*Names::kSetTable)(ToPropertyTable(table)));
-        }
-        return answers.All();
-    }
 
     static HRESULT Read(ZELIMaterial& material, Block& block) {
         const auto behavior = HandOut(material, Names::kHandOut);
