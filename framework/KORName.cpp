@@ -119,8 +119,8 @@ const KORName* KORName::Find(std::string_view text) {
 
 const KORName* KORName::Find(const char* text) {
     Recent& recent = RecentAt(text);
-    if (recent.text == text && std::strcmp(text, recent.name->c_str()) == 0) return recent.name;
-    return FindAnew(text, recent);
+    if (recent.text == text && text && std::strcmp(text, recent.name->c_str()) == 0) return recent.name;
+    return FindAnew(text ? std::string_view(text) : std::string_view(), recent);
 }
 
 const KORName* KORName::FindConstant(std::string_view text) {

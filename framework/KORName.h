@@ -15,8 +15,8 @@ public:
     static const KORName* Intern(std::string_view text);  ///< the one name of this text, made on first use
     static const KORName* Find(std::string_view text);    ///< null when the text was never interned
 
-    /// The same of a zero-terminated text. Callers ask again and again with the same constants, so where the
-    /// text lies is remembered; what lies there is compared each time.
+    /// The same of a zero-terminated text; null is the empty one. Callers ask again and again with the same
+    /// constants, so where the text lies is remembered; what lies there is compared each time.
     static const KORName* Find(const char* text);
     static const KORName* FindConstant(std::string_view text);  ///< the same; not of a null address
 

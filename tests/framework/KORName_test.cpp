@@ -63,6 +63,17 @@ TEST(KORName, IsFoundByAConstantsLengthAndNotUpToItsFirstZero) {
     EXPECT_EQ(KORName::FindConstant("a constant that nobody interned"), nullptr);
 }
 
+TEST(KORName, IsTheEmptyOneForNoText) {
+    const char* const none = nullptr;
+    EXPECT_EQ(KORName::Find(none), KORName::Find(std::string_view()));
+
+    const KORName* empty = KORName::Intern("");
+
+    EXPECT_EQ(KORName::Find(none), empty);
+    EXPECT_EQ(KORName::Find(none), empty) << "also when asked again";
+    EXPECT_EQ(KORName::Find(""), empty);
+}
+
 TEST(KORName, IsNumberedInOrderOfFirstUse) {
     const std::uint32_t first = KORName::Intern("numbered first")->Number();
 

@@ -79,6 +79,8 @@ TEST_F(KORFeatureTest, OffersAKeyForEveryAttributeOfItsTypeAndNoOther) {
     EXPECT_EQ(nullptr, feature->GetAttrKey("NoAttributeOfTheTest"));
     EXPECT_EQ(nullptr, feature->GetAttrKey("never interned anywhere"));
     EXPECT_EQ(nullptr, feature->GetAttrKey("KORTestLT"));
+    EXPECT_EQ(nullptr, feature->GetAttrKey(nullptr));
+    EXPECT_EQ(nullptr, feature->GetSpecObject(nullptr, 0));
 
     length->Release();
 }

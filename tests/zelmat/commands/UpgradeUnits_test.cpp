@@ -83,9 +83,9 @@ struct OlderRubber {
 class UpgradeUnits : public FolderTest {
 protected:
     ProgramRun Upgrade(const OlderRubber& rubber, std::vector<std::string> further = {}) {
-        return Upgrade(rubber.Text(), std::move(further));
+        return UpgradeText(rubber.Text(), std::move(further));
     }
-    ProgramRun Upgrade(const std::string& document, std::vector<std::string> further = {}) {
+    ProgramRun UpgradeText(const std::string& document, std::vector<std::string> further = {}) {
         std::ofstream(older_) << document;
         further.insert(further.begin(), {"upgrade", older_, "--output", newer_});
         return RunZelmat(further);
@@ -230,7 +230,7 @@ TEST_F(UpgradeUnits, RefuseNothingWhereNothingNeedsConverting) {
 }
 
 TEST_F(UpgradeUnits, AreNotConvertedTwiceForTwoMaterialsWithOneModel) {
-    const ProgramRun run = Upgrade(OlderRubber().TextWithSeal({.enabled = true, .ownBehavior = true}));
+    const ProgramRun run = UpgradeText(OlderRubber().TextWithSeal({.enabled = true, .ownBehavior = true}));
 
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.err, older_ +
@@ -242,7 +242,7 @@ TEST_F(UpgradeUnits, AreNotConvertedTwiceForTwoMaterialsWithOneModel) {
 
 TEST_F(UpgradeUnits, AreNotConvertedInAModelThatAnotherMaterialHasInTheStoredUnit) {
     const ProgramRun run =
-        Upgrade(OlderRubber().TextWithSeal({.enabled = true, .ownBehavior = true, .converted = true}));
+        UpgradeText(OlderRubber().TextWithSeal({.enabled = true, .ownBehavior = true, .converted = true}));
 
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_THAT(run.err, HasSubstr("error[shared-coefficients]: the coefficients of Rubber are those of"));
@@ -250,7 +250,7 @@ TEST_F(UpgradeUnits, AreNotConvertedInAModelThatAnotherMaterialHasInTheStoredUni
 }
 
 TEST_F(UpgradeUnits, AreNotLeftOutForAMaterialThatIsOnBecauseAnotherOneIsOff) {
-    const ProgramRun run = Upgrade(OlderRubber{.enabled = false}.TextWithSeal({.enabled = true}));
+    const ProgramRun run = UpgradeText(OlderRubber{.enabled = false}.TextWithSeal({.enabled = true}));
 
     EXPECT_EQ(run.exitCode, 1);
     EXPECT_EQ(run.err, older_ +
@@ -260,13 +260,13 @@ TEST_F(UpgradeUnits, AreNotLeftOutForAMaterialThatIsOnBecauseAnotherOneIsOff) {
 }
 
 TEST_F(UpgradeUnits, AreConvertedOnceForMaterialsThatShareThem) {
-    ExpectClean(Upgrade(OlderRubber().TextWithSeal({.enabled = true})));
+    ExpectClean(UpgradeText(OlderRubber().TextWithSeal({.enabled = true})));
     EXPECT_EQ(WrittenRow(), json::parse("[5e5, 1e5, 2e-8]"));
 
-    Upgrade(OlderRubber().TextWithSeal({.enabled = false, .ownBehavior = true}));
+    UpgradeText(OlderRubber().TextWithSeal({.enabled = false, .ownBehavior = true}));
     EXPECT_EQ(WrittenRow(), json::parse("[5e5, 1e5, 2e-8]"));
 
-    ExpectClean(Upgrade(OlderRubber{.unit = "Pa"}.TextWithSeal({.enabled = true, .ownBehavior = true})));
+    ExpectClean(UpgradeText(OlderRubber{.unit = "Pa"}.TextWithSeal({.enabled = true, .ownBehavior = true})));
     EXPECT_EQ(WrittenRow(), json::parse("[0.5, 0.1, 0.02]")) << "in Pa there is nothing to convert";
 }
 
