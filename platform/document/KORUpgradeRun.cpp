@@ -6,13 +6,6 @@
 
 namespace {
 
-KORUnicodeString NameOf(KORFeature& feature, const KORISpecObject_var& father) {
-    if (KORUnicodeString alias = feature.GetAlias(); !alias.empty()) return alias;
-    const KORIAlias_var fathers(father);
-    const KORUnicodeString alias = fathers ? fathers->GetAlias() : KORUnicodeString();
-    return alias.empty() ? feature.GetName() : alias;
-}
-
 /// What hangs in the place of a feature that an upgrade took out of its container; null when nothing does.
 KORVar<KORFeature> ReplacementOf(const KORFeature& feature, const KORISpecObject_var& father,
                                  const KORUnicodeString& applicativeName) {
@@ -49,7 +42,7 @@ private:
         KORUpgradedFeature told;
         const auto father = KORISpecObject_var::Adopt(feature.GetFather());
         told.feature = feature.Number();
-        told.name = NameOf(feature, father);
+        told.name = KORUpgradeNameOf(feature);
         if (watch_ && !watch_->MayUpgrade(feature, told)) {
             report_.refused = true;
             return;
@@ -83,6 +76,13 @@ private:
 };
 
 }  // namespace
+
+KORUnicodeString KORUpgradeNameOf(KORFeature& feature) {
+    if (KORUnicodeString alias = feature.GetAlias(); !alias.empty()) return alias;
+    const KORIAlias_var father(KORISpecObject_var::Adopt(feature.GetFather()));
+    const KORUnicodeString alias = father ? father->GetAlias() : KORUnicodeString();
+    return alias.empty() ? feature.GetName() : alias;
+}
 
 KORUpgradeReport KORRunUpgrade(KORMemoryDocument& document, const KORUnicodeString& lateType,
                                const KORUnicodeString& applicativeName, KORUpgradeWatch* watch) {

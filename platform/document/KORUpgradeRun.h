@@ -17,7 +17,7 @@ struct KORUpgradeChange {
 struct KORUpgradedFeature {
     std::uint32_t feature = 0;      ///< its number
     std::uint32_t replacement = 0;  ///< the number of what hangs in its place now; 0 when it stays itself
-    KORUnicodeString name;          ///< its alias, else its father's, else its instance name
+    KORUnicodeString name;          ///< as KORUpgradeNameOf answers it
     HRESULT status = S_OK;          ///< the upgrade's own
     bool stillNeeded = false;       ///< the answer, afterwards, of the feature or of what replaced it
     std::vector<KORUpgradeChange> changes;
@@ -29,6 +29,9 @@ struct KORUpgradeReport {
     std::vector<KORUpgradedFeature> upgraded;
     bool refused = false;  ///< by the watch: the run was taken back, and `upgraded` is empty
 };
+
+/// How reports call a feature: its alias, else its father's, else its instance name.
+KORUnicodeString KORUpgradeNameOf(KORFeature& feature);
 
 /// Looks on while features are upgraded, and keeps a run from guessing.
 class KORUpgradeWatch {

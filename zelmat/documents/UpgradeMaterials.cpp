@@ -5,6 +5,7 @@
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "platform/analysis/KORUnitsService.h"
 #include "zelmat/findings/DiagnosticLines.h"
+#include "zelmat/materials/KeptCoefficients.h"
 #include "zelmat/materials/StatusText.h"
 
 namespace zelmat {
@@ -24,8 +25,16 @@ UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& f
     const KORUnitsService& units = document.Platform().Units();
     const DiagnosticLines diagnostics(findings, file, "upgrade");
     CoefficientWatch watch(units, file, findings);
+    const KeptCoefficients coefficients(document, KORName::Intern(kMaterialType));
+    KORStep step(document, "Upgrade");
     report.run = KORRunUpgrade(document, kMaterialType, ZELMaterial::GetApplicativeSpecName(), &watch);
     if (report.run.refused) return report;
+    if (!report.run.upgraded.empty() && !coefficients.AreKept(document, report.run, file, findings)) {
+        report.run.refused = true;
+        report.run.upgraded.clear();
+        return report;  // and the step is left without commit
+    }
+    step.Commit();
     SetStoredPressureUnit(document);
     report.converted = watch.Converted();
     document.ForEachFeature(nullptr, [&](const KORFeature& feature) {

@@ -20,10 +20,10 @@ struct UpgradeReport {
     std::map<std::uint32_t, ConvertedCoefficients> converted = {};
 };
 
-/// Runs the upgrade of the document's materials, unless it would have to guess: then the run is refused, and
-/// `findings` say why. Otherwise the platform's unit of pressure is the stored one afterwards, as all
-/// coefficients are in it. `file` is what findings call the document. Diagnostic lines of the module become
-/// findings.
+/// Runs the upgrade of the document's materials, unless it would have to guess or a material would lose
+/// coefficients: then the run is refused, and `findings` say why. Otherwise the platform's unit of pressure
+/// is the stored one afterwards, as all coefficients are in it. `file` is what findings call the document.
+/// Diagnostic lines of the module become findings.
 UpgradeReport UpgradeMaterials(KORMemoryDocument& document, const std::string& file, Findings& findings);
 
 /// A finding for each material whose upgrade failed or that needs one still.
