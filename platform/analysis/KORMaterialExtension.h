@@ -12,7 +12,7 @@ class KORMaterialExtension final : public KORBaseUnknown {
     KORISpecObject* GetApplicativeFeature(const KORUnicodeString& name);
 
     /// Replaces what hung under that name; that one then hangs nowhere. E_FAIL, and nothing changes, for
-    /// null, and on a material that lies in no container of this platform.
+    /// null, and for a new name on a material that lies in no container of this platform.
     [[nodiscard]] HRESULT SetApplicativeFeature(const KORUnicodeString& name, KORISpecObject* feature);
 
     [[nodiscard]] HRESULT RemoveApplicativeFeature(const KORUnicodeString& name);

@@ -16,7 +16,7 @@ constexpr KORUnicodeString ZELThermalExpansionLT = KORUnicodeString::Literal("ZE
 constexpr KORUnicodeString ZELConductivityLT = KORUnicodeString::Literal("ZELConductivityLT");
 constexpr KORUnicodeString ZELSpecificHeatLT = KORUnicodeString::Literal("ZELSpecificHeatLT");
 constexpr KORUnicodeString MRVUserMaterialLT =
-    KORUnicodeString::Literal("MRVUserMaterialLT");  ///< its prefix differs from all others, and has to
+    KORUnicodeString::Literal("MRVUserMaterialLT");  ///< its prefix and the next one's have to differ
 constexpr KORUnicodeString MRVHyperelasticityLT = KORUnicodeString::Literal("MRVHyperelasticityLT");
 constexpr KORUnicodeString ZELHyperelasticMaterialModelLT =
     KORUnicodeString::Literal("ZELHyperelasticMaterialModelLT");
