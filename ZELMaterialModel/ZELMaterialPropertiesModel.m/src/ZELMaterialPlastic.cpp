@@ -77,7 +77,7 @@ HRESULT ZELMaterialPlastic::SetPlasticDataArray(const ZELCftArrayZELCftArrayDoub
 }
 
 HRESULT ZELMaterialPlastic::SetPropertyPlasticityData() {
-    const auto access = KORISpecAttrAccess_var::Of(Feature());
+    const auto access = KORISpecAttrAccess_var::Of(FeatureForWriting());
     if (!access) return E_NOINTERFACE;
     const KORUnicodeString type = HardeningType();
     if (type == ZELKeyword::JohnsonCookHardening) return WriteJohnsonCook(*access);
@@ -134,7 +134,6 @@ HRESULT ZELMaterialPlastic::WriteJohnsonCook(KORISpecAttrAccess& access) {
     if (Table().size() == 0) return E_FAIL;
     const ZELIJohnsonCookData_var data = JohnsonCookData(access);
     if (!data) return E_FAIL;
-    if (!FeatureForWriting()) return E_NOINTERFACE;
     const ZELCftArraydouble& row = std::as_const(Table())[0];
     data->SetCoeffA(row[0]);
     data->SetCoeffB(row[1]);

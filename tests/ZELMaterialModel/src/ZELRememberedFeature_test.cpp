@@ -9,6 +9,7 @@
 #include "ZELMaterialModel/include/ZELIHyperelasticMaterialModel.h"
 #include "ZELMaterialModel/include/ZELIMaterial.h"
 #include "ZELMaterialModel/include/ZELMaterial.h"
+#include "framework/KORServices.h"
 #include "tests/ZELMaterialModel/ZELFullMaterialTree.h"
 #include "tests/ZELMaterialModel/ZELRows.h"
 #include "tests/support/ZELDiagnostics.h"
@@ -99,6 +100,18 @@ TEST_F(ZELFeaturesTakenAway, AreNotWrittenByPlasticityWithJohnsonCookData) {
     EXPECT_EQ(plastic->SetPlasticDataArray(ZELTableOf({{1.0, 2.0, 3.0, 4.0, 5.0, 6.0}})), E_NOINTERFACE);
 
     EXPECT_EQ(GetNumber(data, "CoeffA"), 90e6);
+}
+
+TEST_F(ZELFeaturesTakenAway, GetNoJohnsonCookDataMadeForThem) {
+    const auto plastic = Held(&ZELIMaterial::GetPlasticProperties);
+    plastic->SetHardeningType("JohnsonCookHardening");
+    Undo();
+    const std::size_t reports = KORServices::Current().fatalReports.size();
+
+    EXPECT_EQ(plastic->SetPlasticDataArray(ZELTableOf({{1.0, 2.0, 3.0, 4.0, 5.0, 6.0}})), E_NOINTERFACE);
+
+    EXPECT_EQ(Component(tree_->plastic, "JohnsonCookData_v2"), nullptr);
+    EXPECT_EQ(KORServices::Current().fatalReports.size(), reports) << "it is no broken invariant";
 }
 
 TEST_F(ZELFeaturesTakenAway, AreNotWrittenByAUserMaterial) {
