@@ -132,8 +132,9 @@ void KORFeature::SetComponent(KORISpecAttrKey* key, KORBaseUnknown* component, i
 void KORFeature::AppendComponent(KORISpecAttrKey* key, KORBaseUnknown* component) {
     const KORLayout::Place place = PlaceOf(key);
     KORStoreDocument* document = StoreDocument();
-    if (!document || takenAway_ || place.slot == 0 || place.kind != KORAttributeKind::ListOfComponents)
+    if (!document || takenAway_ || place.kind != KORAttributeKind::ListOfComponents || place.slot == 0) {
         return;
+    }
     KORValue& list = Slots()[place.slot];
     if (list.Stamp() == document->Log().Stamp()) {
         // The list before this step is kept, or no step is open: a long list grows in place.

@@ -15,11 +15,8 @@ struct KORUndoEntry {
     [[no_unique_address]] KORValue other;
     KORSlot slot;  ///< lies in what the value leaves unused of its 16 bytes
 
-    void Apply() noexcept { feature->Swap(slot, other); }
-
-    /// The same for a change that is undone, redone or rolled back.
-    void PutBack() noexcept {
-        Apply();
+    void Apply() noexcept {
+        feature->Swap(slot, other);
         if (slot == KORLayout::kContainer) feature->WasPutBack();
     }
 

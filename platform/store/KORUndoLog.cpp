@@ -7,7 +7,7 @@ bool KORUndoLog::Undo() noexcept {
     RaiseGeneration();
     KORUndoStep& step = steps_[--done_];
     step.changed = true;
-    for (KORUndoEntry* entry = step.entries.end(); entry != step.entries.begin();) (--entry)->PutBack();
+    for (KORUndoEntry* entry = step.entries.end(); entry != step.entries.begin();) (--entry)->Apply();
     return true;
 }
 
@@ -16,7 +16,7 @@ bool KORUndoLog::Redo() noexcept {
     RaiseGeneration();
     KORUndoStep& step = steps_[done_++];
     step.changed = true;
-    for (KORUndoEntry& entry : step.entries) entry.PutBack();
+    for (KORUndoEntry& entry : step.entries) entry.Apply();
     return true;
 }
 
@@ -68,7 +68,7 @@ void KORUndoLog::RollBack(std::size_t begin, std::uint32_t outerStamp) noexcept 
     if (open_.size() > begin) RaiseGeneration();
     while (open_.size() > begin) {
         KORUndoEntry last = open_.TakeLast();
-        last.PutBack();
+        last.Apply();
     }
     stamp_ = outerStamp;
 }
