@@ -77,7 +77,7 @@ TEST_F(KORUndoHistory, TakesOverTheStepsThatADocumentBringsAlong) {
     const KORSlot slot = layout->Find(length).slot;
     const auto step = [&](const char* name, double value, std::uint32_t number) {
         KORUndoStep made{name, {}, number, false};
-        made.entries.push_back({feature, slot, KORValue::OfDouble(value)});
+        made.entries.Append(*feature, slot, KORValue::OfDouble(value));
         return made;
     };
     feature->SetDouble(length, 3.0, 0);
