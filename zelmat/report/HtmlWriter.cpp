@@ -1,5 +1,7 @@
 #include "zelmat/report/HtmlWriter.h"
 
+#include <algorithm>
+
 #include "zelmat/text/XmlText.h"
 
 namespace zelmat {
@@ -21,6 +23,18 @@ void HtmlWriter::Empty(const char* element, const Attributes& attributes) {
 void HtmlWriter::Text(const char* element, const std::string& text, const Attributes& attributes) {
     Tag(element, attributes);
     html_ += XmlText(text);
+    Close(element);
+}
+
+void HtmlWriter::Lines(const char* element, const std::string& text, const Attributes& attributes) {
+    Tag(element, attributes);
+    for (std::size_t at = 0; at <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', at), text.size());
+        std::string line = text.substr(at, end - at);
+        if (line.ends_with('\r')) line.pop_back();
+        html_ += (at > 0 ? "<br>\n" : "") + XmlText(line);
+        at = end + 1;
+    }
     Close(element);
 }
 

@@ -18,6 +18,8 @@ public:
     void Empty(const char* element, const Attributes& attributes = {});
     /// An element with a text, on a line of its own.
     void Text(const char* element, const std::string& text, const Attributes& attributes = {});
+    /// The same with the text's own ends of lines as ends of lines.
+    void Lines(const char* element, const std::string& text, const Attributes& attributes = {});
     /// What is markup already.
     void Raw(const std::string& markup) { html_ += markup; }
 

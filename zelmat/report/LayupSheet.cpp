@@ -5,6 +5,7 @@
 #include "zelmat/pictures/GnuplotText.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/properties/LaminateProperty.h"
+#include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/ShownQuantity.h"
 #include "zelmat/report/SheetParts.h"
@@ -17,13 +18,18 @@ constexpr int kDerivedDigits = 6;
 
 void WriteLayers(HtmlWriter& html, const StoredLayup& layup, const UnitChoice& units) {
     const ShownQuantity length("length", units), angle("angle", units);
-    const std::vector<double> z = layup.Interfaces();
-    const auto text = [&](double metres) { return NumberText(length(WithoutNoiseOfSums(metres))); };
+    std::vector<double> z, thicknesses, angles;
+    for (const double at : layup.Interfaces())
+        z.push_back(RoundedTo(length(WithoutNoiseOfSums(at)), kDerivedDigits));
+    for (const StoredLayer& layer : layup.layers) {
+        thicknesses.push_back(length(WithoutNoiseOfSums(layer.thickness)));
+        angles.push_back(angle(layer.angle));
+    }
+    const auto heights = NumberColumn(z), thick = NumberColumn(thicknesses), turned = NumberColumn(angles);
     std::vector<std::vector<std::string>> rows;
     for (std::size_t i = 0; i < layup.layers.size(); ++i) {
-        const StoredLayer& layer = layup.layers[i];
-        rows.push_back({std::to_string(i + 1), layer.material.value_or("–"), text(layer.thickness),
-                        NumberText(angle(layer.angle)), text(z[i]), text(z[i + 1])});
+        rows.push_back({std::to_string(i + 1), layup.layers[i].material.value_or("–"), thick[i], turned[i],
+                        heights[i], heights[i + 1]});
     }
     WriteRows(
         html,
@@ -31,7 +37,7 @@ void WriteLayers(HtmlWriter& html, const StoredLayup& layup, const UnitChoice& u
         "counter-clockwise",
         {"layer", "material", TitleWithUnit("thickness", length.Unit()), TitleWithUnit("angle", angle.Unit()),
          TitleWithUnit("z bottom", length.Unit()), TitleWithUnit("z top", length.Unit())},
-        rows, true);
+        rows, "numbers layers");
 }
 
 /// Moduli in the unit of moduli, densities in theirs, ratios as they are.
@@ -76,7 +82,7 @@ void WriteStiffness(HtmlWriter& html, const LayupCard& card, const UnitChoice& u
     WriteRows(html, "Derived by classical lamination theory, six digits",
               {"as a homogeneous plate", TitleWithUnit("Ex", modulus.Unit()),
                TitleWithUnit("Ey", modulus.Unit()), TitleWithUnit("Gxy", modulus.Unit()), "νxy"},
-              {row("in its plane", moduli.membrane), row("in bending", moduli.bending)}, true);
+              {row("in its plane", moduli.membrane), row("in bending", moduli.bending)}, "numbers named");
     html.Text("p", moduli.coupled ? "B is not 0: stretching curves the laminate."
                                   : "B is 0: stretching does not curve the laminate.");
 }
@@ -89,7 +95,7 @@ void WriteLayupSheet(HtmlWriter& html, const ReportLayup& layup, const std::stri
     const StoredLayup stack = LayupOf(card);
     html.Open("section", {{"class", "sheet"}, {"id", id}, {"aria-labelledby", id + "-title"}});
     html.Text("h2", card.name, {{"id", id + "-title"}, {"dir", "auto"}});
-    if (!card.description.empty()) html.Text("p", card.description, {{"dir", "auto"}});
+    if (!card.description.empty()) html.Lines("p", card.description, {{"dir", "auto"}});
     const ShownQuantity length("length", units);
     std::vector<ReportFact> facts = {{"File", card.file}};
     for (const std::string& source : card.sources) facts.push_back({"Source", source});

@@ -46,7 +46,7 @@ public:
 
 private:
     void Identity() {
-        if (!given_.description.empty()) html_.Text("p", given_.description, {{"dir", "auto"}});
+        if (!given_.description.empty()) html_.Lines("p", given_.description, {{"dir", "auto"}});
         if (given_.illustrative) {
             html_.Text("p", "Illustrative: the values are made up.", {{"class", "banner"}});
         }
@@ -91,7 +91,9 @@ private:
         const auto add = [&](const Block& block, bool isStored) {
             for (const Setting& setting : block.kind->settings) {
                 const Value* value = setting.stored == isStored ? block.values.Find(setting.name) : nullptr;
-                if (value) facts.push_back({setting.title, ValueText(InUnits(setting, *value, units_))});
+                if (!value) continue;
+                facts.push_back({setting.title + (isStored ? "" : ", on the card"),
+                                 ValueText(InUnits(setting, *value, units_))});
             }
         };
         add(stored.block, true);
@@ -138,7 +140,7 @@ private:
         std::vector<std::string> headings = {TitleWithUnit("shear modulus", modulus.Unit()),
                                              TitleWithUnit("bulk modulus", modulus.Unit())};
         if (temperature) headings.push_back(TitleWithUnit("temperature", degrees.Unit()));
-        WriteRows(html_, "Derived: G = E/(2(1+ν)), K = E/(3(1−2ν)), six digits", headings, rows, true);
+        WriteRows(html_, "Derived: G = E/(2(1+ν)), K = E/(3(1−2ν)), six digits", headings, rows, "numbers");
     }
 
     void Pictures(const std::string& block) {

@@ -12,6 +12,8 @@ namespace zelmat {
 
 namespace {
 
+constexpr const char* kChanges = "changes";
+
 std::string MaterialId(std::size_t index) {
     return "material-" + std::to_string(index + 1);
 }
@@ -29,6 +31,13 @@ void WriteHead(HtmlWriter& html, const ReportContent& content) {
     html.Text("title", content.title);
     html.Raw("<style>");
     html.Raw(std::string(ReportStyle()));
+    for (std::size_t i = 0; i < content.materials.size(); ++i) {
+        html.Raw(SheetPageStyle(MaterialId(i), content.materials[i].given.name));
+    }
+    for (std::size_t i = 0; i < content.layups.size(); ++i) {
+        html.Raw(SheetPageStyle(LayupId(i), content.layups[i].card.name));
+    }
+    if (!content.since.empty()) html.Raw(SheetPageStyle(kChanges, "Changes"));
     html.Raw("</style>\n</head>\n<body>\n");
 }
 
@@ -69,7 +78,7 @@ void WriteContents(HtmlWriter& html, const ReportContent& content) {
 
 void WriteChanges(HtmlWriter& html, const ReportContent& content) {
     if (content.since.empty()) return;
-    html.Open("section", {{"class", "sheet"}, {"id", "changes"}, {"aria-labelledby", "changes-title"}});
+    html.Open("section", {{"class", "sheet"}, {"id", kChanges}, {"aria-labelledby", "changes-title"}});
     html.Text("h2", "Changes " + content.since, {{"id", "changes-title"}});
     if (content.changes.empty()) html.Text("p", "No changes.");
     for (const ReportChange& change : content.changes) {

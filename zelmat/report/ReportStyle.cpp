@@ -1,6 +1,36 @@
 #include "zelmat/report/ReportStyle.h"
 
+#include <array>
+#include <cctype>
+#include <cstdio>
+
+#include "zelmat/text/Printable.h"
+#include "zelmat/text/WrappedText.h"
+#include "zelmat/text/XmlText.h"
+
 namespace zelmat {
+
+namespace {
+
+/// Foreign text as a string of a style sheet: one line of it, everything that could end it as an escape.
+std::string CssText(const std::string& text) {
+    constexpr double kEms = 70.0;
+    std::string css = "\"";
+    for (const char symbol : ShortenedText(XmlCharacters(Printable(text)), kEms, 1.0)) {
+        const auto byte = static_cast<unsigned char>(symbol);
+        const bool plain = byte >= 0x80 || std::isalnum(byte) != 0 || symbol == ' ';
+        if (plain) {
+            css += symbol;
+        } else {
+            std::array<char, 8> escape{};
+            std::snprintf(escape.data(), escape.size(), "\\%02x ", byte);
+            css += escape.data();
+        }
+    }
+    return css + '"';
+}
+
+}  // namespace
 
 std::string_view ReportStyle() {
     return R"css(
@@ -20,11 +50,14 @@ a:focus-visible { outline: 3px solid var(--link); outline-offset: 2px; }
 .banner { border: 2px solid var(--warning); color: var(--warning); padding: .4rem .75rem; font-weight: 600; }
 .wide { overflow-x: auto; }
 table { border-collapse: collapse; margin: .75rem 0; font-size: .92rem; }
-caption { text-align: left; padding: .25rem 0; white-space: nowrap; }
+caption { text-align: left; padding: .25rem 0; min-width: min(26rem, 85vw); }
 th, td { padding: .2rem .75rem; border-bottom: 1px solid var(--line); vertical-align: top; text-align: left; }
 thead th { border-bottom: 2px solid var(--ink); background: var(--band); }
 .numbers th, .numbers td { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
 .numbers thead th { white-space: normal; vertical-align: bottom; }
+.named th:first-child, .named td:first-child, .layers th:nth-child(2), .layers td:nth-child(2) { text-align: left; }
+.layers td:nth-child(2) { white-space: normal; min-width: 8rem; }
+.findings { min-width: 34rem; }
 dl { display: grid; grid-template-columns: fit-content(16rem) minmax(0, 1fr); gap: .15rem 1rem; margin: .5rem 0; }
 dt { color: var(--soft); }
 dd { margin: 0; }
@@ -34,7 +67,9 @@ th, .error, .warning, .note { overflow-wrap: normal; }
 .error { color: var(--error); font-weight: 600; }
 .warning { color: var(--warning); font-weight: 600; }
 .sign { display: none; }
-@page { size: A4; margin: 18mm 16mm; }
+@page { size: A4; margin: 18mm 16mm;
+  @bottom-right { content: "Page " counter(page) " of " counter(pages); font: 8pt/1.2 Arial, sans-serif; color: #333333; }
+  @bottom-left { font: 8pt/1.2 Arial, sans-serif; color: #333333; } }
 @media (max-width: 40rem) { dl { grid-template-columns: minmax(0, 1fr); } dd { margin-bottom: .4rem; } }
 @media print {
   :root { color-scheme: light; --ground: #ffffff; --ink: #000000; --soft: #333333; --line: #999999; --band: #eeeeee;
@@ -45,17 +80,23 @@ th, .error, .warning, .note { overflow-wrap: normal; }
   th, td { padding: .5mm 2.5mm; }
   .sheet { break-before: page; }
   h2, h3, caption { break-after: avoid; }
-  figure, tr, .banner, .end { break-inside: avoid; }
+  dl { break-after: avoid; }
+  dl, figure, tr, .banner, .end { break-inside: avoid; }
   thead, tbody tr:first-child { break-after: avoid; }
   tbody tr:last-child { break-before: avoid; }
   thead { display: table-header-group; }
   .wide { overflow: visible; }
-  img { max-height: 80mm; width: auto; max-width: 100%; }
+  img { max-height: 104mm; width: auto; max-width: 100%; }
   .back { display: none; }
   .sign { display: flex; gap: 12mm; margin-top: 10mm; break-inside: avoid; }
   .sign span { flex: 1; border-top: 1px solid #000000; padding-top: 1mm; }
 }
 )css";
+}
+
+std::string SheetPageStyle(const std::string& id, const std::string& name) {
+    return "#" + id + " { page: " + id + "; } @page " + id + " { @bottom-left { content: " + CssText(name) +
+           "; } }\n";
 }
 
 }  // namespace zelmat

@@ -31,13 +31,13 @@ void CloseTable(HtmlWriter& html) {
 
 void WriteRow(HtmlWriter& html, const std::vector<std::string>& cells) {
     html.Raw("<tr>\n");
-    for (const std::string& cell : cells) html.Text("td", cell);
+    for (const std::string& cell : cells) html.Text("td", Trimmed(cell));
     html.Raw("</tr>\n");
 }
 
 void WriteFindings(HtmlWriter& html, const Findings& findings) {
     html.Open("div", {{"class", "wide"}});
-    html.Raw("<table>\n<thead>\n<tr>\n");
+    html.Raw("<table class=\"findings\">\n<thead>\n<tr>\n");
     for (const char* heading : {"Kind", "Code", "Text", "Line"}) html.Text("th", heading, {{"scope", "col"}});
     html.Raw("</tr>\n</thead>\n<tbody>\n");
     for (const Finding& finding : findings.All()) {
@@ -59,7 +59,7 @@ void WriteFacts(HtmlWriter& html, const std::vector<ReportFact>& facts) {
     html.Open("dl");
     for (const ReportFact& fact : facts) {
         html.Text("dt", fact.name);
-        html.Text("dd", fact.value, {{"dir", "auto"}});
+        html.Lines("dd", fact.value, {{"dir", "auto"}});
     }
     html.Close("dl");
 }
@@ -81,7 +81,7 @@ void WriteTable(HtmlWriter& html, const Table& stored, const std::string& block,
         std::vector<std::string> cells;
         for (std::size_t column = 0; column < columns.size(); ++column) {
             const bool missing = std::isnan(table.columns[column].values[row]);
-            cells.push_back(missing ? "–" : Trimmed(columns[column][row]));
+            cells.push_back(missing ? "–" : columns[column][row]);
         }
         WriteRow(html, cells);
     }
@@ -89,9 +89,8 @@ void WriteTable(HtmlWriter& html, const Table& stored, const std::string& block,
 }
 
 void WriteRows(HtmlWriter& html, const std::string& caption, const std::vector<std::string>& headings,
-               const std::vector<std::vector<std::string>>& rows, bool numbers) {
-    OpenTable(html, numbers ? HtmlWriter::Attributes{{"class", "numbers"}} : HtmlWriter::Attributes{},
-              caption);
+               const std::vector<std::vector<std::string>>& rows, const std::string& style) {
+    OpenTable(html, {{"class", style}}, caption);
     html.Raw("<thead>\n<tr>\n");
     for (const std::string& heading : headings) html.Text("th", heading, {{"scope", "col"}});
     html.Raw("</tr>\n</thead>\n<tbody>\n");
