@@ -3,7 +3,8 @@
 # root, when all of them are there.
 #   tools/install-dependencies.sh [EXTRA...]     also what only some need: clang (the preset of that name), lint, peer
 #                                                (the document framework beside which tools/bench.sh measures),
-#                                                browser (in which tests open reports)
+#                                                browser (in which tests open reports), html (what
+#                                                tells tests whether they are valid)
 set -euo pipefail
 
 packages=(
@@ -31,7 +32,8 @@ for extra in "$@"; do
         lint) packages+=(clang-tidy) ;;
         peer) packages+=(libocct-ocaf-dev) ;;
         browser) packages+=(chromium) ;;
-        *) echo "install-dependencies.sh: unknown extra $extra; known: clang lint peer browser" >&2; exit 2 ;;
+        html) packages+=(tidy python3-html5lib) ;;
+        *) echo "install-dependencies.sh: unknown extra $extra; known: clang lint peer browser html" >&2; exit 2 ;;
     esac
 done
 

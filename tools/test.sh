@@ -17,7 +17,7 @@ fi
 for preset in "$@"; do
     extras=()
     if [[ $testing == ON ]]; then
-        extras+=(browser)
+        extras+=(browser html)
     fi
     if [[ "$preset" == clang ]]; then
         extras+=(clang)

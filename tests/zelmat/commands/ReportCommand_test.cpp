@@ -34,6 +34,16 @@ TEST_F(ReportCommand, PutsMaterialsAndLayupsOnOnePageAndTellsItsSize) {
         << "4.6869 GPa on the card";
 }
 
+TEST_F(ReportCommand, KeepsWhatIsStoredAndWhatTheCardSaysApart) {
+    const ProgramRun run =
+        RunZelmat({"report", Sample("natural_rubber_treloar.json"), "--output", In("r.html")});
+
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    const std::string page = Contents(In("r.html"));
+    EXPECT_THAT(page, HasSubstr("<dt>convention of mu</dt>\n<dd dir=\"auto\">2mu/alpha^2</dd>"));
+    EXPECT_THAT(page, HasSubstr("<dt>convention of mu, on the card</dt>\n<dd dir=\"auto\">mu/alpha</dd>"));
+}
+
 TEST_F(ReportCommand, HasASheetForAMaterialWithErrorsAndEndsWith1) {
     const ProgramRun run =
         RunZelmat({"report", Sample("faulty/steel_five_faults.json"), "--output", In("r.html")});

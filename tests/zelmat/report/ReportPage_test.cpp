@@ -74,6 +74,33 @@ TEST(ReportPage, EscapesWhatCardsHold) {
     EXPECT_THAT(page, HasSubstr("&quot;&gt;&lt;script&gt;alert(1)&lt;/script&gt;\\x1b ]]&gt; \xef\xbf\xbd"));
 }
 
+TEST(ReportPage, KeepsTheLinesOfATextAndItsFactsApart) {
+    ReportContent content{.title = "Sheets", .materials = {}, .layups = {}};
+    AddSteel(content, "Steel");
+    content.materials.front().given.description = "first <b>\r\nsecond";
+    content.materials.front().given.notes = {"one\ntwo"};
+
+    const std::string page = Page(content);
+
+    EXPECT_THAT(page, HasSubstr("<p dir=\"auto\">first &lt;b&gt;<br>\nsecond</p>"));
+    EXPECT_THAT(page, HasSubstr("<dd dir=\"auto\">one<br>\ntwo</dd>"));
+}
+
+TEST(ReportPage, NamesTheSheetOnItsPages) {
+    ReportContent content{.title = "Sheets", .materials = {}, .layups = {}, .since = "since step 4"};
+    AddSteel(content, "Steel 304");
+    AddSteel(content, "\"</style>\n\\" + std::string(1000, 'x'));
+
+    const std::string page = Page(content);
+
+    EXPECT_THAT(page,
+                HasSubstr("#material-1 { page: material-1; } @page material-1 { @bottom-left { content: "
+                          "\"Steel 304\"; } }\n"));
+    EXPECT_THAT(page, HasSubstr("content: \"\\22 \\3c \\2f style\\3e \\5c n\\5c xxxx"));
+    EXPECT_THAT(page, HasSubstr("xxx…\"; } }\n")) << "a page is no wider";
+    EXPECT_THAT(page, HasSubstr("@page changes {"));
+}
+
 TEST(ReportPage, ShowsFindingsWhereTheyBelong) {
     ReportContent content{.title = "Sheets", .materials = {}, .layups = {}};
     AddSteel(content, "Steel");
@@ -111,6 +138,8 @@ TEST(ReportPage, TellsChangesSinceAStepWhereAsked) {
 TEST(ReportStyle, PrintsOnA4InBothSchemes) {
     EXPECT_THAT(std::string(zelmat::ReportStyle()), HasSubstr("@page { size: A4;"));
     EXPECT_THAT(std::string(zelmat::ReportStyle()), HasSubstr("prefers-color-scheme: dark"));
+    EXPECT_THAT(std::string(zelmat::ReportStyle()),
+                HasSubstr("\"Page \" counter(page) \" of \" counter(pages)"));
 }
 
 }  // namespace

@@ -75,19 +75,35 @@ def follow(browser):
 
 
 def contrast(browser, scheme):
-    """Text over its ground, by the WCAG's formula, for the colours that the style sheet has."""
+    """Every text over its own ground, by the WCAG's formula."""
     browser.call("Emulation.setEmulatedMedia", {"features": [{"name": "prefers-color-scheme", "value": scheme}]})
     ratio = browser.evaluate("""(() => {
       const luminance = color => color.match(/[\\d.]+/g).slice(0, 3).map(Number).map(v => v / 255)
         .map(v => v <= 0.03928 ? v / 12.92 : ((v + 0.055) / 1.055) ** 2.4)
         .reduce((sum, v, i) => sum + v * [0.2126, 0.7152, 0.0722][i], 0);
-      const ground = luminance(getComputedStyle(document.body).backgroundColor);
-      return Math.min(...['body', 'a', 'figcaption', 'caption', 'dt', '.soft', '.warning'].map(name => {
-        const ink = luminance(getComputedStyle(document.querySelector(name)).color);
-        return (Math.max(ink, ground) + 0.05) / (Math.min(ink, ground) + 0.05);
+      const ground = element => {
+        const color = getComputedStyle(element).backgroundColor;
+        return color === 'rgba(0, 0, 0, 0)' ? ground(element.parentElement) : luminance(color);
+      };
+      const hasText = element => [...element.childNodes].some(node => node.nodeType === 3 && node.data.trim());
+      return Math.min(...[...document.body.querySelectorAll('*')].filter(hasText).map(element => {
+        const ink = luminance(getComputedStyle(element).color), behind = ground(element);
+        return (Math.max(ink, behind) + 0.05) / (Math.min(ink, behind) + 0.05);
       }));
     })()""")
     expect(ratio >= 7.0, f"{scheme}: a contrast of {ratio}")
+
+
+def on_a_phone(browser):
+    """Narrow tables are seen whole, wide ones scroll, and nothing else is wider than the window."""
+    browser.call("Emulation.setDeviceMetricsOverride",
+                 {"width": 360, "height": 740, "deviceScaleFactor": 1, "mobile": True})
+    wide = browser.evaluate("document.documentElement.scrollWidth - document.documentElement.clientWidth")
+    expect(wide <= 0, f"on a phone {wide} pixels wider than the window")
+    cut = browser.evaluate("[...document.querySelectorAll('.wide')].filter(d => d.scrollWidth > d.clientWidth && "
+                           "d.querySelectorAll('thead th').length === 1).length")
+    expect(cut == 0, f"on a phone {cut} tables of one column are cut")
+    browser.call("Emulation.clearDeviceMetricsOverride")
 
 
 def compare(shown, section, card):
@@ -119,13 +135,16 @@ def main():
                                                 "rows": [[2.1e11, 0.3, 293.15], [2e11, 0.3, 393.15]]},
                                     "strength": {EVIL: EVIL}, EVIL: {EVIL: EVIL}}))
         evil_page = folder / "evil.html"
-        zelmat("report", evil, "--title", EVIL, "--output", evil_page)
+        # Two of one name, and a card with errors.
+        zelmat("report", evil, evil, SAMPLES / "faulty" / "steel_five_faults.json", "--title", EVIL, "--output",
+               evil_page)
         browser = Browser()
         try:
             look_at(browser, page)
             follow(browser)
             contrast(browser, "light")
             contrast(browser, "dark")
+            on_a_phone(browser)
             sections = browser.evaluate(TABLES)
             expect(len(sections) == len(cards) + len(layups), f"{len(sections)} sheets")
             for card, section in zip(cards, sections):
@@ -133,6 +152,8 @@ def main():
                 expect(section["name"] == shown["name"], f"{card.name}: the sheet of {section['name']}")
                 compare(shown, section, card.name)
             look_at(browser, evil_page)
+            contrast(browser, "light")
+            contrast(browser, "dark")
             expect(browser.evaluate("window.harmed") is None, "a script from a card ran")
             expect(browser.evaluate("document.scripts.length") == 0, "there is a script on the page")
         finally:
