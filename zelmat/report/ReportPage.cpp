@@ -5,7 +5,9 @@
 #include "zelmat/report/ReportStyle.h"
 #include "zelmat/report/SheetParts.h"
 #include "zelmat/text/CountText.h"
+#include "zelmat/text/Printable.h"
 #include "zelmat/text/WordList.h"
+#include "zelmat/text/WrappedText.h"
 #include "zelmat/text/XmlText.h"
 
 namespace zelmat {
@@ -52,7 +54,9 @@ std::string Count(const ReportContent& content) {
 }
 
 void WriteLink(HtmlWriter& html, const std::string& id, const std::string& name, const std::string& more) {
-    html.Raw("<tr>\n<td dir=\"auto\"><a href=\"#" + id + "\">" + XmlText(name) + "</a></td>\n");
+    constexpr double kEms = 150.0;  // some lines; the sheet has all of it
+    html.Raw("<tr>\n<td dir=\"auto\"><a href=\"#" + id + "\">" +
+             XmlText(ShortenedText(Printable(name), kEms, 1.0)) + "</a></td>\n");
     html.Text("td", more);
     html.Raw("</tr>\n");
 }

@@ -50,7 +50,7 @@ a:focus-visible { outline: 3px solid var(--link); outline-offset: 2px; }
 .banner { border: 2px solid var(--warning); color: var(--warning); padding: .4rem .75rem; font-weight: 600; }
 .wide { overflow-x: auto; }
 table { border-collapse: collapse; margin: .75rem 0; font-size: .92rem; }
-caption { text-align: left; padding: .25rem 0; min-width: min(26rem, 85vw); }
+caption { text-align: left; padding: .25rem 0; white-space: nowrap; }
 th, td { padding: .2rem .75rem; border-bottom: 1px solid var(--line); vertical-align: top; text-align: left; }
 thead th { border-bottom: 2px solid var(--ink); background: var(--band); }
 .numbers th, .numbers td { text-align: right; font-variant-numeric: tabular-nums; white-space: nowrap; }
@@ -70,7 +70,12 @@ th, .error, .warning, .note { overflow-wrap: normal; }
 @page { size: A4; margin: 18mm 16mm;
   @bottom-right { content: "Page " counter(page) " of " counter(pages); font: 8pt/1.2 Arial, sans-serif; color: #333333; }
   @bottom-left { font: 8pt/1.2 Arial, sans-serif; color: #333333; } }
-@media (max-width: 40rem) { dl { grid-template-columns: minmax(0, 1fr); } dd { margin-bottom: .4rem; } }
+nav table { table-layout: fixed; width: 100%; }
+@media (max-width: 40rem) {
+  dl { grid-template-columns: minmax(0, 1fr); } dd { margin-bottom: .4rem; }
+  caption { white-space: normal; min-width: 15rem; }
+  nav th, nav td { padding: .2rem .3rem; }
+}
 @media print {
   :root { color-scheme: light; --ground: #ffffff; --ink: #000000; --soft: #333333; --line: #999999; --band: #eeeeee;
     --link: #000000; --error: #8b0000; --warning: #5c3b00; }

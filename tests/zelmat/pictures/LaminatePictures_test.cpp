@@ -14,6 +14,7 @@ using zelmat::mechanics::Laminate;
 /// T300/5208, plies of 0.125 mm.
 Laminate Carbon(const std::vector<double>& angles) {
     Laminate laminate{.materials = {{.elastic = {.e1 = 181e9, .e2 = 10.3e9, .nu12 = 0.28, .g12 = 7.17e9},
+                                     .expansion = {},
                                      .density = {},
                                      .strength = {}}},
                       .layers = {}};
