@@ -8,12 +8,14 @@
 #include <algorithm>
 #include <cerrno>
 #include <string_view>
+#include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr std::string_view kEnd = ".tmp";
+constexpr std::string_view kJournal = "-journal";  // SQLite's own, beside what it writes
 
 /// "." and the file's name, which a process's number follows.
 std::string Beginning(const fs::path& place) {
@@ -91,10 +93,18 @@ bool KORFileBeside::RenameToNew() const {
 }
 
 void KORFileBeside::RemoveLeftovers() const {
+    std::vector<fs::path> journals;
     std::error_code problem;
     for (fs::directory_iterator each(folder_, problem), end; !problem && each != end;
          each.increment(problem)) {
         if (HasSuchName(each->path())) RemoveIfLeft(each->path());
+        if (each->path().string().ends_with(kJournal)) journals.push_back(each->path());
+    }
+    for (const fs::path& journal : journals) {
+        fs::path of = journal;
+        of.replace_filename(
+            of.filename().string().substr(0, of.filename().string().size() - kJournal.size()));
+        if (HasSuchName(of) && !fs::exists(fs::symlink_status(of, problem))) unlink(journal.c_str());
     }
 }
 

@@ -18,7 +18,8 @@ public:
     std::string Path() const { return path_.string(); }
 
     // All answer false, and errno, when the system refuses.
-    /// An empty file, nobody else's. What killed programs left beside that place goes.
+    /// An empty file, nobody else's. What killed programs left beside that place goes, with SQLite's journals
+    /// of it.
     [[nodiscard]] bool Make();
     [[nodiscard]] bool TakeMode(mode_t mode);
 

@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <fstream>
 
 #include "platform/disk/KORDoctor.h"
 #include "platform/disk/KORFileBeside.h"
@@ -114,10 +115,14 @@ TEST_F(KORDiskCopyTest, ACopyReplacesNothing) {
 TEST_F(KORDiskCopyTest, WhatKilledOnesLeftBesideItGoesAndNothingElse) {
     MakeDocument();
     const std::string own = std::to_string(getpid());
-    for (const char* left : {".d.zeldoc.12.tmp", ".copy.zeldoc.7.tmp"}) Touch(left, "unfinished");
+    for (const char* left :
+         {".d.zeldoc.12.tmp", ".d.zeldoc.12.tmp-journal", ".d.zeldoc.15.tmp-journal", ".copy.zeldoc.7.tmp"}) {
+        Touch(left, "unfinished");
+    }
     Touch(".d.zeldoc." + own + ".tmp");  // of a program that had this one's number
-    const std::vector<std::string> foreign = {".d.zeldoc..tmp", ".d.zeldoc.1x.tmp",    ".d.zeldoc.12",
-                                              ".d.zeldoc.tmp",  ".other.zeldoc.1.tmp", "d.zeldoc.12.tmp"};
+    const std::vector<std::string> foreign = {
+        ".d.zeldoc..tmp", ".d.zeldoc.1x.tmp",    ".d.zeldoc.12",   ".d.zeldoc.1x.tmp-journal",
+        ".d.zeldoc.tmp",  ".other.zeldoc.1.tmp", "d.zeldoc.12.tmp"};
     for (const std::string& name : foreign) Touch(name, "somebody's");
     std::filesystem::create_symlink(Path("d.zeldoc"), Path(".d.zeldoc.13.tmp"));
     std::filesystem::create_directory(Path(".d.zeldoc.14.tmp"));
@@ -136,11 +141,15 @@ TEST_F(KORDiskCopyTest, WhatKilledOnesLeftBesideItGoesAndNothingElse) {
 TEST_F(KORDiskCopyTest, WhatAProgramThatRunsIsWritingStays) {
     KORFileBeside writing(Path());
     ASSERT_TRUE(writing.Make());
+    const std::string journal = writing.Path() + "-journal";
+    std::ofstream(journal) << "its own";
     const std::string name = std::filesystem::path(writing.Path()).filename();
     const pid_t second = fork();
     if (second == 0) {
         KORFileBeside beside(Path());
-        _exit(beside.Make() && access(writing.Path().c_str(), F_OK) == 0 ? 0 : 1);
+        _exit(beside.Make() && access(writing.Path().c_str(), F_OK) == 0 && access(journal.c_str(), F_OK) == 0
+                  ? 0
+                  : 1);
     }
     int status = 0;
     waitpid(second, &status, 0);
