@@ -44,8 +44,9 @@ the tables, between and beyond them. Bounds, as parts of the value: 1e-6 (elasti
 conduction), 1e-5 (specific heat, where a table may bend sharply), 1e-4 (isotropic hardening, linear step), 1e-3
 (kinematic hardening to 1 % with NLGEOM; rubber). User materials are exported and not proven; layups are held against
 laminate theory in the tests alone. `--keep-deck` leaves the models in a folder, also those of a run that fails; `--deck`
-proves the material cards of a deck that somebody has written or changed, in place of those of `export`. On Debian the
-solver is the package `calculix-ccx`.
+proves the material cards of a deck that somebody has written or changed, in place of those of `export`. A run may take
+60 s, or `--timeout`; it leaves nothing behind, also when it is interrupted. On Debian the solver is the package
+`calculix-ccx`.
 
 **The other forms** have no solver here: their decks follow the documented keywords and columns, hold the numbers that
 the tests expect, and have not been run. Try a deck on one element before an analysis stands on it.
@@ -56,7 +57,8 @@ potentials end at order 3; D = 0 is replaced by a compressibility of its own, 4 
 `HARDENING=JOHNSON COOK` is run as isotropic; kinematic hardening is wrong in steps without NLGEOM; a hardening curve is
 read at the plastic strains of the curve below it in temperature, so that all curves are written at the same ones; eight
 constants of a user material stand on a line, and one more line follows a full last one; it finds the routine of a
-mechanical one by the beginning of the material's name (USER), without which it stops; composite shells are S8R and S6.
+mechanical one by the beginning of the material's name (USER), without which it stops; an initial temperature above
+2147.48 becomes -2147.48 without a word, so that hotter ones are warned of; composite shells are S8R and S6.
 )";
 
 }  // namespace zelmat

@@ -314,17 +314,20 @@ void TellConversions(const DeckForm& form, const DeckMaterial& deck, DeckNotes& 
     }
 }
 
+void TellInconsistentUnits(const DeckUnits& units, Findings& findings) {
+    const auto inconsistent = units.Inconsistent();
+    if (inconsistent.empty()) return;
+    findings.Add({FindingKind::WARNING,
+                  {"--units", 0},
+                  "inconsistent-units",
+                  "a solver knows no units, and these do not go with " + units.For("stress").Spelling() +
+                      " and " + units.For("length").Spelling() + ": " + WordList(inconsistent),
+                  {"si, mm-t-s and mm-kg-ms are consistent"}});
+}
+
 std::vector<DeckFile> ExportDeck(const DeckForm& form, const DeckContent& content, const DeckUnits& units,
                                  Findings& findings) {
-    const auto inconsistent = units.Inconsistent();
-    if (!inconsistent.empty()) {
-        findings.Add({FindingKind::WARNING,
-                      {"--units", 0},
-                      "inconsistent-units",
-                      "a solver knows no units, and these do not go with " + units.For("stress").Spelling() +
-                          " and " + units.For("length").Spelling() + ": " + WordList(inconsistent),
-                      {"si, mm-t-s and mm-kg-ms are consistent"}});
-    }
+    TellInconsistentUnits(units, findings);
     DeckExport deck(form, content, units, findings);
     for (const Material& material : content.materials) deck.Add(material, content.fit);
     for (const LayupCard& layup : content.layups) deck.Add(layup);

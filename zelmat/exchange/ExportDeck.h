@@ -26,6 +26,9 @@ DeckMaterial MakeDeckMaterial(const DeckForm& form, const Material& material, co
 /// A note for each behavior that the writer, which has been, did not lose and the form has in another shape.
 void TellConversions(const DeckForm& form, const DeckMaterial& deck, DeckNotes& notes);
 
+/// A warning where the units do not go together.
+void TellInconsistentUnits(const DeckUnits& units, Findings& findings);
+
 /// The deck's files: one without a name, or those of a folder. Everything that is lost or changed is a
 /// finding and a comment in the deck. Nothing, and an error, when a material or a layup has nothing that the
 /// form carries: a deck is whole or not there. A material with nothing that is a ply of one of the layups

@@ -228,6 +228,29 @@ TEST(CalculixForm, LetsNoTextBecomeACard) {
         EXPECT_TRUE(character == '\n' || (character >= ' ' && character < 0x7f));
 }
 
+TEST(CalculixForm, WarnsOfTemperaturesAtWhichTheSolverCannotBegin) {
+    const auto material = StuffWith(
+        R"("conductivity": {"temperature_dependent": true, "columns": ["conductivity", "temperature"],
+            "rows": [[50, 300], [40, 1500]]})");
+    EXPECT_THAT(
+        Exported("calculix", {material}, "us").findings,
+        Contains("warning[solver-limit]: 'Stuff': CalculiX takes an initial temperature above 2147.48 for "
+                 "-2147.48 without a word: bring the model there by *TEMPERATURE"));
+    EXPECT_THAT(Exported("calculix", {material}).findings, Not(Contains(HasSubstr("solver-limit"))));
+}
+
+TEST(CalculixForm, WarnsOfAUserMaterialWhoseNameIsNoRoutines) {
+    const auto findings = [](const std::string& name) {
+        auto material = StuffWith(R"("user_material": {"type": "MECHANICAL", "constants": [5]})");
+        material.name = name;
+        return Exported("calculix", {material}).findings;
+    };
+    EXPECT_THAT(findings("Solder"),
+                Contains(HasSubstr("warning[solver-limit]: 'Solder': user_material: CalculiX "
+                                   "finds the routine by the beginning of the material's name")));
+    EXPECT_THAT(findings("User solder"), Not(Contains(HasSubstr("solver-limit"))));
+}
+
 TEST(CalculixForm, TellsMaterialsOfOneNameApart) {
     const auto deck = Exported("calculix", {StuffWith(kSomeDensity), StuffWith(kSomeElastic)});
     EXPECT_EQ(WithoutComments(deck.text),

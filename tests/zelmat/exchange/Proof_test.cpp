@@ -135,6 +135,15 @@ TEST(Proof, HoldsForACompressibleRubberOverTemperature) {
     EXPECT_THAT(Failing(*proof), IsEmpty());
 }
 
+/// 2892 degF is hotter than the solver can begin.
+TEST(Proof, LeavesOutTemperaturesAtWhichTheSolverCannotBegin) {
+    const auto proof = ProofOf(SampleCard("titanium_ti6al4v"), {}, "us");
+    ASSERT_TRUE(proof);
+    EXPECT_THAT(Failing(*proof), IsEmpty());
+    EXPECT_THAT(ProofOf(SampleCard("concrete_c30_37"), {}, "us")->notProven,
+                testing::Contains("conductivity above 2147.48 degF: no run of CalculiX can begin there"));
+}
+
 TEST(Proof, SaysWhatItDoesNotProve) {
     EXPECT_THAT(ProofOf(SampleCard("user_routine_illustrative"))->notProven,
                 testing::ElementsAre("user_material MECHANICAL: only its own routine knows what it answers"));

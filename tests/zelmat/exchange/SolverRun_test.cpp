@@ -6,9 +6,12 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+
+#include "zelmat/files/SignalHold.h"
 
 namespace {
 
@@ -95,6 +98,40 @@ TEST_F(SolverRun, TellsATemporaryFolderThatIsNotThere) {
     const auto results = zelmat::RunSolver(Script("cat $1.inp > $1.dat"), "deck\n", "card.json", findings);
     // The system's own folder stands in.
     EXPECT_TRUE(results);
+}
+
+TEST_F(SolverRun, TellsATemporaryFolderThatCannotBeWrittenTo) {
+    ::setenv("TMPDIR", "/proc", 1);
+    Findings findings;
+    EXPECT_FALSE(zelmat::RunSolver(Script("cat $1.inp > $1.dat"), "deck\n", "card.json", findings));
+    ASSERT_EQ(findings.All().size(), 1U);
+    EXPECT_THAT(FindingLine(findings.All().front()),
+                HasSubstr("a folder for intermediate files cannot be made"));
+    EXPECT_EQ(findings.Exit(), zelmat::EXIT_UNREADABLE);
+}
+
+TEST_F(SolverRun, EndsTheSolverAndLeavesNothingWhenThisProgramIsToEnd) {
+    Findings findings;
+    const std::string pid = folder_ + "/pid";
+    {
+        const zelmat::SignalHold held;  // beyond the run's own
+        ::kill(::getpid(), SIGINT);
+
+        EXPECT_FALSE(
+            zelmat::RunSolver(Script("echo $$ > " + pid + "; sleep 300"), "deck\n", "card.json", findings));
+
+        // Taken here, or it would end the test with the hold.
+        sigset_t waiting;
+        sigemptyset(&waiting);
+        sigaddset(&waiting, SIGINT);
+        const struct timespec none {};
+        EXPECT_EQ(::sigtimedwait(&waiting, nullptr, &none), SIGINT);
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(runs_));
+    pid_t solver = 0;
+    if (std::ifstream(pid) >> solver) {
+        EXPECT_NE(::kill(solver, 0), 0);
+    }
 }
 
 TEST_F(SolverRun, SaysHowToInstallAMissingProgram) {

@@ -16,6 +16,10 @@ constexpr std::size_t kCalculixNumbers = 8;
 /// D times the shear modulus at rest of what stands for an incompressible material: K0 = 2e4 mu0.
 constexpr double kCalculixIncompressible = 1e-4;
 
+/// CalculiX (2.20) takes a temperature of *INITIAL CONDITIONS in millionths as a whole number of 32 bits: a
+/// higher one becomes -2147.48. *TEMPERATURE takes any.
+constexpr double kCalculixHottestStart = 2147.48;
+
 /// A potential as the deck calls it. Its coefficients stand there in the stored order, then D1, D2, ..., then
 /// the temperature.
 struct CalculixPotential {

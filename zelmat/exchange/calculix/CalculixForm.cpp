@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "zelmat/exchange/DeckForm.h"
@@ -104,6 +105,17 @@ private:
         return text;
     }
 
+    std::string Card(const std::string& keyword, const DeckTable& table) const {
+        const bool hot = std::any_of(table.temperatures.begin(), table.temperatures.end(),
+                                     [](double temperature) { return temperature > kCalculixHottestStart; });
+        if (hot) {
+            notes_.Caution("CalculiX takes an initial temperature above " +
+                           DeckNumber(kCalculixHottestStart) +
+                           " for -2147.48 without a word: bring the model there by *TEMPERATURE");
+        }
+        return CalculixCard(keyword, table);
+    }
+
     std::string Lost(const Block& block, const std::string& why) const {
         notes_.LostBehavior(BehaviorOf(block), why);
         return {};
@@ -116,7 +128,7 @@ private:
         if (!table) return Lost(block, why);
         const auto readable = OverTemperature(block.tables.front());
         if (!readable.Ok()) return Lost(block, readable.Why());
-        return CalculixCard(keyword, *table);
+        return Card(keyword, *table);
     }
 
     std::string Plastic(const Block& block) const {
@@ -138,8 +150,8 @@ private:
             notes_.Caution(
                 "CalculiX computes kinematic hardening wrongly in linear steps: use *STEP, NLGEOM");
         }
-        return CalculixCard(kinematic ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC",
-                            {{rows->stress, rows->plasticStrain}, rows->temperatures});
+        return Card(kinematic ? "*PLASTIC, HARDENING=KINEMATIC" : "*PLASTIC",
+                    {{rows->stress, rows->plasticStrain}, rows->temperatures});
     }
 
     std::string Expansion(const Block& block) const {
@@ -150,7 +162,7 @@ private:
         if (!reference) {
             notes_.Caution(
                 "thermal_expansion has no reference temperature: CalculiX takes 0, and so does the deck");
-            return CalculixCard("*EXPANSION", *table);
+            return Card("*EXPANSION", *table);
         }
         if (IsInstantaneous(block)) {
             const auto mean = ExpansionOf(block, mechanics::OutsidePolicy::CONSTANT);
@@ -166,7 +178,7 @@ private:
         }
         const auto zero = units_.FromStored(*reference, "temperature");
         if (!zero) return Lost(block, "the reference temperature is too large for the unit");
-        return CalculixCard("*EXPANSION, ZERO=" + DeckNumber(*zero), *table);
+        return Card("*EXPANSION, ZERO=" + DeckNumber(*zero), *table);
     }
 
     std::string Hyperelastic(const Block& block) const {
@@ -186,7 +198,7 @@ private:
         }
         std::string keyword = "*HYPERELASTIC, " + std::string(potential->keyword);
         if (HasOrder(property->Model())) keyword += ", N=" + std::to_string(order);
-        return CalculixCard(keyword, *table);
+        return Card(keyword, *table);
     }
 
     /// CalculiX replaces D = 0 by one of its own, which makes stresses 4 to 7 % smaller at a stretch of 2.

@@ -105,7 +105,7 @@ private:
         const auto elastic = ElasticityAt(elastic_, kelvin, OutsidePolicy::CONSTANT);
         const auto flow = FlowStressAt(property_, plasticStrain, kelvin);
         const auto stress = flow.Ok() ? subject_.units.FromStored(flow->stress, "stress") : std::nullopt;
-        if (!elastic.Ok() || !stress || flow->stress <= 0.0) return;
+        if (!elastic.Ok() || !stress || flow->stress <= 0.0 || !subject_.CanStartAt(kelvin)) return;
         const double strain = plasticStrain + flow->stress / elastic->constants.youngsModulus;
         const int bar = model_.bars.Add(subject_.Temperature(kelvin));
         model_.bars.HoldAtOrigin(bar);

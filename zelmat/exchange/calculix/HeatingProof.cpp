@@ -25,7 +25,7 @@ std::vector<ThermalNumbers> NumbersOf(const ProofSubject& subject, const mechani
         return other ? subject.units.FromStored(ProofValue(*other, kelvin), block).value_or(0.0) : 1.0;
     };
     std::vector<ThermalNumbers> all;
-    for (const double kelvin : ProofTemperatures(table)) {
+    for (const double kelvin : subject.Temperatures(table)) {
         const ThermalNumbers one{
             kelvin, number("density", kelvin), number("conductivity", kelvin),
             subject.units.FromStored(ProofValue(table, kelvin), "specific_heat").value_or(0.0)};

@@ -79,7 +79,7 @@ std::vector<ProofModel> HyperelasticProofs(const ProofSubject& subject) {
     for (const LoadingMode mode :
          {LoadingMode::UNIAXIAL, LoadingMode::EQUIBIAXIAL, LoadingMode::PLANAR, LoadingMode::SIMPLE_SHEAR}) {
         ProofModel model = subject.Model("hyperelastic " + std::string(Keyword(property->Model())));
-        for (const double kelvin : ProofTemperatures(property->Coefficients())) {
+        for (const double kelvin : subject.Temperatures(property->Coefficients())) {
             const auto material = property->At(kelvin, OutsidePolicy::CONSTANT);
             if (material.Ok()) AddLoads(model, subject, *material, mode, kelvin);
         }

@@ -5,7 +5,9 @@
 #include <set>
 
 #include "zelmat/exchange/ExportDeck.h"
+#include "zelmat/exchange/calculix/CalculixCards.h"
 #include "zelmat/exchange/calculix/ProofModel.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/QuotedText.h"
 
 namespace zelmat {
@@ -31,6 +33,7 @@ public:
 
     std::optional<Proof> Make() {
         const DeckForm& form = *FindDeckForm("calculix");
+        TellInconsistentUnits(request_.units, findings_);
         DeckNotes notes;
         std::set<std::string> taken;
         DeckMaterial deck =
@@ -111,7 +114,22 @@ private:
         return true;
     }
 
+    /// Beyond the temperature at which the solver can begin.
+    bool IsTooHot(const Block& block) const {
+        const auto table = ProofTable(&block);
+        const auto range = table ? table->Range() : std::nullopt;
+        return range &&
+               request_.units.FromStored(range->highest, "temperature").value_or(0.0) > kCalculixHottestStart;
+    }
+
     void TellUnproven(const std::vector<Block>& blocks) {
+        for (const Block& block : blocks) {
+            if (!IsTooHot(block)) continue;
+            proof_.notProven.push_back(
+                BehaviorOf(block) + " above " +
+                WithUnit(kCalculixHottestStart, request_.units.For("temperature").Spelling()) +
+                ": no run of CalculiX can begin there");
+        }
         for (const Block& block : blocks) {
             const std::string behavior = BehaviorOf(block);
             const bool proven = std::any_of(proof_.lines.begin(), proof_.lines.end(),

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "zelmat/exchange/calculix/CalculixCards.h"
 #include "zelmat/materials/OverTemperature.h"
 #include "zelmat/quantities/NumberText.h"
 
@@ -53,24 +54,24 @@ double ProofValue(const mechanics::TemperatureTable& table, double kelvin) {
     return value.Ok() ? value->values.front() : std::nan("");
 }
 
-std::vector<double> ProofTemperatures(const mechanics::TemperatureTable& table) {
-    std::vector<double> rows;
-    for (const auto& row : table.Rows()) rows.push_back(row.temperature);
-    return ProofTemperatures(table.Range(), rows);
+bool ProofSubject::CanStartAt(double kelvin) const {
+    return Temperature(kelvin) <= kCalculixHottestStart;
 }
 
-std::vector<double> ProofTemperatures(const std::optional<mechanics::TemperatureRange>& range,
-                                      const std::vector<double>& rows) {
+std::vector<double> ProofSubject::Temperatures(const mechanics::TemperatureTable& table) const {
+    const auto range = table.Range();
     if (!range) return {kRoomTemperature};
+    const auto& rows = table.Rows();
     std::vector<double> at;
     const std::size_t step = std::max<std::size_t>(1, (rows.size() + kMostRows - 1) / kMostRows);
     for (std::size_t row = 0; row < rows.size(); row += step) {
-        at.push_back(rows[row]);
-        if (row + 1 < rows.size()) at.push_back((rows[row] + rows[row + 1]) / 2.0);
+        at.push_back(rows[row].temperature);
+        if (row + 1 < rows.size()) at.push_back((rows[row].temperature + rows[row + 1].temperature) / 2.0);
     }
     if (range->lowest > kBeyond) at.push_back(range->lowest - kBeyond);
     at.push_back(range->highest);
     at.push_back(range->highest + kBeyond);
+    std::erase_if(at, [&](double kelvin) { return !CanStartAt(kelvin); });
     std::sort(at.begin(), at.end());
     at.erase(std::unique(at.begin(), at.end()), at.end());
     return at;

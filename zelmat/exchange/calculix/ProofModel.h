@@ -52,6 +52,14 @@ struct ProofSubject {
     const Block* Find(const std::string& block) const;
     double Temperature(double kelvin) const;  ///< in the deck's unit
     std::string TemperatureText(double kelvin) const;
+
+    /// Whether a bar of the solver's can have it from the beginning.
+    bool CanStartAt(double kelvin) const;
+
+    /// Where a table is looked at, in K: at rows, between and beyond them; at 20 degC where it does not
+    /// depend on temperature. Not where no bar can start.
+    std::vector<double> Temperatures(const mechanics::TemperatureTable& table) const;
+
     ProofModel Model(const std::string& name, bool mechanical = true) const;
 };
 
@@ -60,12 +68,6 @@ std::optional<mechanics::TemperatureTable> ProofTable(const Block* block);
 
 /// Its first column's number, that of the nearest row outside; not a number where there is none.
 double ProofValue(const mechanics::TemperatureTable& table, double kelvin);
-
-/// Where a table over temperature is looked at, in K: at rows, between and beyond them; at 20 degC where it
-/// does not depend on temperature.
-std::vector<double> ProofTemperatures(const std::optional<mechanics::TemperatureRange>& range,
-                                      const std::vector<double>& rows);
-std::vector<double> ProofTemperatures(const mechanics::TemperatureTable& table);
 
 std::optional<ProofModel> ElasticProof(const ProofSubject& subject);
 std::optional<ProofModel> HardeningProof(const ProofSubject& subject);

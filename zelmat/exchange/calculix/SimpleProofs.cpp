@@ -62,7 +62,7 @@ std::optional<ProofModel> ElasticProof(const ProofSubject& subject) {
     const auto table = ProofTable(block);
     if (!table) return std::nullopt;
     ProofModel model = subject.Model("elastic");
-    for (const double kelvin : ProofTemperatures(*table)) {
+    for (const double kelvin : subject.Temperatures(*table)) {
         const auto elastic = ElasticityAt(*block, kelvin, OutsidePolicy::CONSTANT);
         if (elastic.Ok()) AddElastic(model, subject, elastic->constants, kelvin);
     }
@@ -80,7 +80,7 @@ std::optional<ProofModel> ExpansionProof(const ProofSubject& subject) {
     const double reference = given->ReferenceTemperature();
     // A deck holds mean coefficients, linear between its rows, also of a card with instantaneous ones.
     const mechanics::ThermalExpansion expansion(given->Mean(), reference);
-    auto temperatures = ProofTemperatures(*table);
+    auto temperatures = subject.Temperatures(*table);
     if (!table->Range()) temperatures = {reference - 100.0, reference + 100.0, reference + 500.0};
     for (const double kelvin : temperatures) {
         const auto strain = expansion.StrainAt(kelvin, OutsidePolicy::CONSTANT);
@@ -103,7 +103,7 @@ std::optional<ProofModel> DensityProof(const ProofSubject& subject) {
     const auto table = ProofTable(subject.Find("density"));
     if (!table) return std::nullopt;
     ProofModel model = subject.Model("density", false);
-    for (const double kelvin : ProofTemperatures(*table)) {
+    for (const double kelvin : subject.Temperatures(*table)) {
         const int bar = model.bars.Add(subject.Temperature(kelvin));
         model.bars.HoldAtOrigin(bar);
         const double ours = subject.units.FromStored(ProofValue(*table, kelvin), "density").value_or(0.0);
@@ -122,7 +122,7 @@ std::optional<ProofModel> ConductionProof(const ProofSubject& subject) {
     const auto table = ProofTable(subject.Find("conductivity"));
     if (!table) return std::nullopt;
     ProofModel model = subject.Model("conductivity", false);
-    for (const double kelvin : ProofTemperatures(*table)) {
+    for (const double kelvin : subject.Temperatures(*table)) {
         const double middle = subject.Temperature(kelvin);
         const int bar = model.bars.Add(middle, 2);
         model.bars.Prescribe(bar, BarModel::X0, 11, middle + kDifference / 2.0);
