@@ -1,4 +1,5 @@
 
+#include "zelmat/exchange/CodeAsterPly.h"
 #include "zelmat/exchange/DeckForm.h"
 #include "zelmat/exchange/HardeningRows.h"
 #include "zelmat/exchange/HigherCompressibility.h"
@@ -40,6 +41,7 @@ public:
 
     std::string Text() {
         Elastic();
+        Ply();
         Plastic();
         Thermal();
         Hyperelastic();
@@ -95,7 +97,8 @@ private:
     void Elastic() {
         const auto elastic = TableOf("elastic"), expansion = MeanExpansion(), density = TableOf("density");
         if (!elastic) {
-            if (material_.Find("thermal_expansion"))
+            const bool ofThePly = material_.ply && material_.ply->Constant("alpha");
+            if (material_.Find("thermal_expansion") && !ofThePly)
                 notes_.LostBehavior("thermal_expansion", "it needs an elastic behavior beside it");
             return;
         }
@@ -119,6 +122,14 @@ private:
         }
         if (density) text += "RHO=" + RealDeckNumber(Constant(*density, "density")) + ", ";
         factors_.push_back(std::string(functions ? "ELAS_FO" : "ELAS") + "=_F(" + text + ")");
+    }
+
+    void Ply() {
+        if (!material_.ply) return;
+        auto ply = PlyNumbersOf(*material_.ply, units_, notes_);
+        if (!ply) return notes_.LostBehavior(kPlyConstants, "they make no ply");
+        if (ply->density) densityWritten_ = true;
+        factors_.push_back(CodeAsterPly(*ply));
     }
 
     std::optional<DeckTable> MeanExpansion() {
@@ -282,6 +293,7 @@ std::vector<CarryRule> Rules() {
          {"hyperelastic MOONEY_RIVLIN", Carry::CARRIED, "ELAS_HYPER", "D = 0 is written as K = 2e4 mu0"},
          {"hyperelastic REDUCED_POLYNOMIAL", Carry::CARRIED, "ELAS_HYPER", "to order 2; no D2"},
          {"hyperelastic POLYNOMIAL", Carry::CARRIED, "ELAS_HYPER", "order 1"},
+         {kPlyConstants, Carry::CARRIED, "ELAS_ORTH", "of the constants across the ply those that are given"},
          {"layup", Carry::CONVERTED, "ELAS_ORTH, DEFI_COMPOSITE",
           "every ply orthotropic; of the constants across it those that are given"}},
         "DEFI_MATERIAU has no keyword for it that this program writes");

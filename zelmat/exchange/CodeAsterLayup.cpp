@@ -1,17 +1,14 @@
 #include <algorithm>
 #include <set>
 
+#include "zelmat/exchange/CodeAsterPly.h"
 #include "zelmat/exchange/DeckForm.h"
-#include "zelmat/exchange/PlyNumbers.h"
 
 namespace zelmat {
 
 std::vector<DeckFile> CodeAsterLayup(const DeckLayup& layup, const DeckUnits& units, DeckNotes& notes);
 
-namespace {
-
-/// Of the constants across the ply those that are given; plates of the classical theory need none.
-std::string PlyText(const std::string& name, const PlyNumbers& ply) {
+std::string CodeAsterPly(const PlyNumbers& ply) {
     std::string text;
     const auto add = [&](const char* keyword, double value) {
         text += std::string(keyword) + "=" + RealDeckNumber(value) + ", ";
@@ -31,10 +28,8 @@ std::string PlyText(const std::string& name, const PlyNumbers& ply) {
     if (ply.density) add("RHO", *ply.density);
     if (ply.alpha1) add("ALPHA_L", *ply.alpha1);
     if (ply.alpha1) add("ALPHA_T", *ply.alpha2);
-    return name + " = DEFI_MATERIAU(\n    ELAS_ORTH=_F(" + text + "),\n)\n";
+    return "ELAS_ORTH=_F(" + text + ")";
 }
-
-}  // namespace
 
 std::vector<DeckFile> CodeAsterLayup(const DeckLayup& layup, const DeckUnits& units, DeckNotes& notes) {
     std::string text, layers;
@@ -53,7 +48,7 @@ std::vector<DeckFile> CodeAsterLayup(const DeckLayup& layup, const DeckUnits& un
         if (written.insert(name).second) {
             const auto numbers = PlyNumbersOf(*ply, units, notes);
             if (!numbers) return {};
-            text += PlyText(name, *numbers);
+            text += name + " = DEFI_MATERIAU(\n    " + CodeAsterPly(*numbers) + ",\n)\n";
         }
         layers += "    _F(EPAIS=" + RealDeckNumber(*thickness) + ", MATER=" + name +
                   ", ORIENTATION=" + RealDeckNumber(layer.angle) + "),\n";

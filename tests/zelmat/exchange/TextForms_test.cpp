@@ -170,6 +170,16 @@ TEST(CodeAsterForm, TakesNoWordOfItsLanguageForAName) {
     }
 }
 
+TEST(CodeAsterForm, WritesThePlyConstantsThatAreGiven) {
+    const auto deck = Exported("code_aster", {StuffWith(std::string(kSomeDensity) +
+                                                        R"(, "other_properties": {"E1": 181e9, "E2": 10.3e9,
+            "nu12": 0.28, "G12": 7.17e9, "G23": 4e9})")});
+    EXPECT_THAT(deck.text,
+                HasSubstr("Stuff = DEFI_MATERIAU(\n    ELAS_ORTH=_F(E_L=1.81e+11, E_T=1.03e+10, NU_LT=0.28, "
+                          "G_LT=7.17e+09, G_TN=4e+09, RHO=8000., ),\n)\n"));
+    EXPECT_THAT(deck.findings, testing::Not(Contains(HasSubstr("density"))));
+}
+
 TEST(CodeAsterForm, TellsADensityThatNoLawTakes) {
     const auto deck = Exported("code_aster", {StuffWith(std::string(kSomeDensity) +
                                                         R"(, "conductivity": {"temperature_dependent": false,
