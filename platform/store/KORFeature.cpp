@@ -4,6 +4,31 @@
 
 #include "platform/store/KORStoreDocument.h"
 
+void KORFeature::WriteTo(KORValue& stored, KORSlot slot, KORValue&& value) {
+    KORStoreDocument* document = StoreDocument();
+    if (!document || stored.SameAs(value) || (takenAway_ && slot != KORLayout::kContainer)) return;
+    KORUndoLog& log = document->Log();
+    value.SetStamp(log.Stamp());
+    if (stored.Stamp() == log.Stamp() || !log.IsOpen()) {
+        stored.Swap(value);
+        Changed(slot, value);
+    } else {
+        const KORValue& before = log.Log(*this, slot, std::move(stored));
+        stored.Swap(value);
+        Changed(slot, before);
+    }
+}
+
+void KORFeature::Write(KORSlot slot, KORValue&& value) {
+    WriteTo(Stored(slot), slot, std::move(value));
+}
+
+void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value) {
+    const KORLayout::Place place = PlaceOf(key);
+    if (place.slot == 0 || place.kind != kind) return;
+    WriteTo(Slots()[place.slot], place.slot, std::move(value));
+}
+
 KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHandle& layout,
                                    const KORUnicodeString& name, KORBaseUnknown& container) {
     KORFeatureType& type = document.TypeOf(layout);
@@ -218,26 +243,6 @@ std::string_view KORFeature::SlotText(KORSlot slot) const {
     if (slot < KORLayout::kFirstUndeclared) return Layout().SlotName(slot);
     const KORUndeclaredAttributes* undeclared = Undeclared();
     return undeclared ? undeclared->Name(slot).View() : std::string_view();
-}
-
-void KORFeature::WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value) {
-    const KORLayout::Place place = PlaceOf(key);
-    if (place.slot != 0 && place.kind == kind) Write(place.slot, std::move(value));
-}
-
-void KORFeature::Write(KORSlot slot, KORValue&& value) {
-    KORStoreDocument* document = StoreDocument();
-    KORValue& stored = Stored(slot);
-    if (!document || stored.SameAs(value) || (takenAway_ && slot != KORLayout::kContainer)) return;
-    KORUndoLog& log = document->Log();
-    value.SetStamp(log.Stamp());
-    if (stored.Stamp() == log.Stamp() || !log.IsOpen()) {
-        Swap(slot, value);
-    } else {
-        const KORValue& before = log.Log(*this, slot, std::move(stored));
-        stored.Swap(value);
-        Changed(slot, before);
-    }
 }
 
 void KORFeature::MarkDirty() noexcept {

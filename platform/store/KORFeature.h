@@ -163,6 +163,9 @@ private:
 
     void WriteAs(KORAttributeKind kind, KORISpecAttrKey* key, KORValue&& value);
 
+    /// Write, into a slot that was looked up. In every setter anew, where the value's kind is known.
+    [[gnu::always_inline]] inline void WriteTo(KORValue& stored, KORSlot slot, KORValue&& value);
+
     KORFeatureType* type_;  ///< counted
     std::uint32_t number_;
     bool hasUndeclared_ = false;  ///< the document keeps a table for it
