@@ -73,6 +73,32 @@ struct NewFile {
     std::string bytes;
 };
 
+/// One for every picture of a folder, else the one that holds them all. `drawn`: the sheets as gnuplot made
+/// them.
+std::vector<NewFile> FilesOf(const PicturesToWrite& pictures, const PictureOutput& output,
+                             const std::vector<PictureSheet>& sheets, std::vector<std::string> drawn,
+                             Findings& findings) {
+    std::vector<NewFile> files;
+    if (output.isFolder) {
+        const fs::path folder(output.path);
+        for (std::size_t i = 0; i < sheets.size(); ++i)
+            files.push_back({(folder / sheets[i].file).string(), std::move(drawn[i])});
+        for (const ReadyPicture& ready : pictures.ready)
+            files.push_back({(folder / (ready.name + Ending(output.format))).string(), ready.svg});
+        return files;
+    }
+    if (pictures.ready.empty()) {
+        files.push_back({output.path, std::move(drawn.front())});
+        return files;
+    }
+    std::vector<std::string> svgs;
+    for (const ReadyPicture& ready : pictures.ready) svgs.push_back(ready.svg);
+    svgs.insert(svgs.end(), drawn.begin(), drawn.end());
+    if (auto joined = Joined(std::move(svgs), output.format, findings))
+        files.push_back({output.path, std::move(*joined)});
+    return files;
+}
+
 }  // namespace
 
 std::optional<PictureOutput> PictureOutputOf(const std::string& path, Findings& findings) {
@@ -105,28 +131,13 @@ std::vector<WrittenFile> WritePictures(const PicturesToWrite& pictures, const Pi
     const auto sheets = SheetsOf(pictures, output, format);
     auto drawn = DrawSheets(sheets, format, findings);
     if (!drawn) return written;
-    const auto pathOf = [&](const std::string& name) { return (fs::path(output.path) / name).string(); };
-    std::vector<NewFile> files;
-    if (output.isFolder) {
-        for (std::size_t i = 0; i < sheets.size(); ++i)
-            files.push_back({pathOf(sheets[i].file), std::move((*drawn)[i])});
-        for (const ReadyPicture& ready : pictures.ready)
-            files.push_back({pathOf(ready.name + Ending(format)), ready.svg});
-    } else if (pictures.ready.empty()) {
-        files.push_back({output.path, std::move(drawn->front())});
-    } else {
-        std::vector<std::string> svgs;
-        for (const ReadyPicture& ready : pictures.ready) svgs.push_back(ready.svg);
-        svgs.insert(svgs.end(), drawn->begin(), drawn->end());
-        auto joined = Joined(std::move(svgs), output.format, findings);
-        if (!joined) return written;
-        files.push_back({output.path, std::move(*joined)});
-    }
+    auto files = FilesOf(pictures, output, sheets, std::move(*drawn), findings);
     if (keepScript && !sheets.empty()) {
-        files.push_back({output.isFolder ? pathOf("pictures.gp")
-                                         : fs::path(output.path).replace_extension(".gp").string(),
-                         GnuplotScript(sheets, format)});
+        const fs::path script = output.isFolder ? fs::path(output.path) / "pictures.gp"
+                                                : fs::path(output.path).replace_extension(".gp");
+        files.push_back({script.string(), GnuplotScript(sheets, format)});
     }
+    if (findings.HasErrors()) return written;
     // Made last: where nothing can be drawn, no folder is left.
     if (output.isFolder && !MakeFolder(output.path, findings)) return written;
     for (const NewFile& file : files) {

@@ -123,7 +123,7 @@ def compare(shown, section, card):
 def main():
     with tempfile.TemporaryDirectory() as folder:
         folder = pathlib.Path(folder)
-        cards = sorted(SAMPLES.glob("*.json"))
+        cards = sorted(SAMPLES.glob("*.json")) + sorted((SAMPLES / "forms").iterdir())
         layups = sorted((SAMPLES / "layups").glob("*.json"))
         page = folder / "report.html"
         made = zelmat("report", *cards, *layups, "--units", "si", "--output", page)
