@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
-#include <set>
 
-#include "zelmat/mechanics/fit/FitParameters.h"
-#include "zelmat/mechanics/fit/FitStarts.h"
-#include "zelmat/mechanics/fit/LeastSquares.h"
+#include "zelmat/mechanics/fit/ScaledFit.h"
 #include "zelmat/mechanics/hyperelastic/HyperelasticResponse.h"
 
 namespace zelmat::mechanics {
@@ -17,113 +14,10 @@ namespace {
 using enum HyperelasticModel;
 
 constexpr int kGreatestOrder = 8;
-constexpr int kFewIterations = 40;     ///< that every start gets
-constexpr std::size_t kFinalists = 5;  ///< starts that are followed until they come to rest
-constexpr double kNearlySame = 0.01;   ///< RMS deviations that differ by less are nearly the same
+constexpr double kNearlySame = 0.01;  ///< RMS deviations that differ by less are nearly the same
 constexpr double kDifferent =
     0.01;  ///< coefficients that differ by more are different, relative to the greater one
 constexpr double kExact = 1e-9;  ///< an RMS deviation of exact data
-constexpr double kMet = 1e-12;   ///< an RMS deviation that no other start needs to improve
-
-void SortBySum(std::vector<LeastSquaresResult>& minima) {
-    std::sort(minima.begin(), minima.end(),
-              [](const LeastSquaresResult& a, const LeastSquaresResult& b) { return a.sum < b.sum; });
-}
-
-/// Data and model in a unit in which the stresses are of the order of 1.
-class ScaledFit {
-public:
-    ScaledFit(HyperelasticModel model, int order, const std::vector<FitPoint>& points,
-              DeviationMeasure measure)
-        : model_(model), order_(order), points_(points), parameters_(model, order) {
-        for (const FitPoint& point : points_) unit_ = std::max(unit_, std::abs(point.nominalStress));
-        if (unit_ == 0.0) unit_ = 1.0;
-        for (FitPoint& point : points_) {
-            point.nominalStress /= unit_;
-            const double size = measure == DeviationMeasure::RELATIVE ? std::abs(point.nominalStress) : 1.0;
-            weights_.push_back(std::sqrt(point.weight) / size);
-        }
-    }
-
-    /// The minima that the most promising starts lead to, the smallest sum first: all starts descend for a
-    /// while, the best of them until they come to rest. One that meets the tests exactly ends the search:
-    /// that other coefficients would, too, is seen in its derivatives.
-    std::vector<LeastSquaresResult> Minima() const {
-        const LeastSquaresProblem problem{
-            .lower = parameters_.Lower(),
-            .upper = parameters_.Upper(),
-            .residuals = points_.size(),
-            .evaluate = [this](const std::vector<double>& parameters) { return Evaluate(parameters); }};
-        std::vector<LeastSquaresResult> minima;
-        for (const auto& start : FitStarts(model_, order_, points_, weights_)) {
-            auto minimum = Minimise(problem, parameters_.Parameters(start), kFewIterations);
-            if (!minimum) continue;
-            if (minimum->sum < kMet * kMet * static_cast<double>(points_.size())) return {Polished(problem, *minimum)};
-            minima.push_back(std::move(*minimum));
-        }
-        SortBySum(minima);
-        minima.resize(std::min(minima.size(), kFinalists));
-        for (LeastSquaresResult& minimum : minima) {
-            if (!minimum.converged) minimum = Minimise(problem, minimum.parameters).value_or(minimum);
-        }
-        for (LeastSquaresResult& minimum : minima) minimum = Polished(problem, minimum);
-        SortBySum(minima);
-        return minima;
-    }
-
-    /// In the unit of the data.
-    std::vector<double> Coefficients(const LeastSquaresResult& minimum) const {
-        auto coefficients = parameters_.Coefficients(minimum.parameters);
-        const auto units = Units();
-        for (std::size_t i = 0; i < units.size(); ++i) coefficients[i] *= units[i];
-        return coefficients;
-    }
-
-    Uncertainty UncertaintyAt(const LeastSquaresResult& minimum) const {
-        auto uncertainty = UncertaintyOf(minimum, parameters_.Slopes(minimum.parameters));
-        const auto units = Units();
-        for (std::size_t i = 0; i < units.size(); ++i) {
-            if (uncertainty.standardDeviations[i]) *uncertainty.standardDeviations[i] *= units[i];
-        }
-        return uncertainty;
-    }
-
-private:
-    std::vector<double> Units() const {
-        std::vector<double> units;
-        for (const auto& name : CoefficientNames(model_, order_)) {
-            units.push_back(IsStressCoefficient(name) ? unit_ : 1.0);
-        }
-        return units;
-    }
-
-    std::optional<Residuals> Evaluate(const std::vector<double>& parameters) const {
-        const auto energy = MakeStrainEnergy(model_, order_, parameters_.Coefficients(parameters));
-        if (!energy.Ok()) return std::nullopt;
-        const auto bySlope = parameters_.Slopes(parameters);
-        const std::size_t count = parameters.size();
-        Residuals residuals{.values = {}, .jacobian = std::vector<double>(points_.size() * count, 0.0)};
-        for (std::size_t i = 0; i < points_.size(); ++i) {
-            const auto response = Respond(**energy, points_[i].mode, points_[i].stretch);
-            if (!response.Ok()) return std::nullopt;
-            residuals.values.push_back(weights_[i] * (response->nominalStress - points_[i].nominalStress));
-            const auto slopes = NominalStressByCoefficient(**energy, points_[i].mode, points_[i].stretch);
-            for (std::size_t c = 0; c < count; ++c) {
-                for (std::size_t k = 0; k < count; ++k) {
-                    residuals.jacobian[i * count + k] += weights_[i] * slopes[c] * bySlope[c * count + k];
-                }
-            }
-        }
-        return residuals;
-    }
-
-    HyperelasticModel model_;
-    int order_;
-    std::vector<FitPoint> points_;
-    FitParameters parameters_;
-    double unit_ = 0.0;
-    std::vector<double> weights_;
-};
 
 /// The places of the coefficients when the terms of OGDEN stand by falling alpha; else as they are.
 std::vector<std::size_t> PlacesInOrder(HyperelasticModel model, const std::vector<double>& coefficients) {
@@ -151,8 +45,9 @@ std::vector<T> Reordered(const std::vector<T>& values, const std::vector<std::si
 
 bool Differ(const std::vector<double>& a, const std::vector<double>& b) {
     for (std::size_t i = 0; i < a.size(); ++i) {
-        if (std::abs(a[i] - b[i]) > kDifferent * std::max(std::abs(a[i]), std::abs(b[i])) + 1e-12)
+        if (std::abs(a[i] - b[i]) > kDifferent * std::max(std::abs(a[i]), std::abs(b[i])) + 1e-12) {
             return true;
+        }
     }
     return false;
 }

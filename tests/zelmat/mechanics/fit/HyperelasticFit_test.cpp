@@ -168,6 +168,20 @@ TEST(HyperelasticFit, KeepsTheShearModulusAboveZeroAndSaysSo) {
     EXPECT_THAT(fit.warnings, Contains("C10 is at its bound"));
 }
 
+// 60 times the same 53 points have the same minimum.
+TEST(HyperelasticFit, FindsInVeryManyPointsWhatItFindsInFew) {
+    const auto few = SampleCurves("natural_rubber_treloar");
+    std::vector<TestCurve> many;
+    for (int i = 0; i < 60; ++i) many.insert(many.end(), few.begin(), few.end());
+    for (const auto& [model, order] :
+         {std::pair(VAN_DER_WAALS, 1), std::pair(OGDEN, 2), std::pair(YEOH, 3)}) {
+        const auto of53 = Fitted(model, order, few).Values(), of3180 = Fitted(model, order, many).Values();
+        for (std::size_t i = 0; i < of53.size(); ++i) {
+            EXPECT_NEAR(of3180[i] / of53[i], 1.0, 1e-7) << Keyword(model) << ' ' << i;
+        }
+    }
+}
+
 TEST(HyperelasticFit, OfVanDerWaalsToANeoHookeanMaterialEndsAtItsBounds) {
     const auto fit = Fitted(VAN_DER_WAALS, 1, Synthetic(*MakeEnergy(NEO_HOOKE, 1, {0.5})));
     EXPECT_TRUE(fit.coefficients[1].atBound);
