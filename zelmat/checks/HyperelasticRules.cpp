@@ -59,6 +59,29 @@ void LookAtShearModulus(const Material& material, CheckReport& report) {
     });
 }
 
+/// K0 = 2/D1 of a row; nothing for an incompressible one.
+std::optional<double> BulkModulusOf(const Table& table, std::size_t row) {
+    const Column* first = table.Find("D1");
+    if (!first) first = table.Find("D");
+    if (!first || !(first->values[row] > 0.0)) return std::nullopt;
+    return 2.0 / first->values[row];
+}
+
+void LookAtBulkModulus(const Material& material, CheckReport& report) {
+    ForEachFit(material, [&](const Block& fit, const Table& table) {
+        for (std::size_t row = 0; row < table.Rows(); ++row) {
+            const auto energy = EnergyOfRow(fit, table, row);
+            const auto bulk = BulkModulusOf(table, row);
+            if (!bulk || !energy || !energy->Ok() || *bulk >= energy->Value()->ShearModulus()) continue;
+            report.Add(table.origin.Line(row),
+                       "row " + std::to_string(row + 1) + " of " + fit.kind->TableName(*table.kind) +
+                           ": the initial bulk modulus K0 is " + DerivedText(*bulk, "Pa") + ", mu0 " +
+                           DerivedText(energy->Value()->ShearModulus(), "Pa"),
+                       {"a D whose unit nobody says is in 1/Pa"});
+        }
+    });
+}
+
 void LookAtCompressibility(const Material& material, CheckReport& report) {
     ForEachFit(material, [&](const Block& fit, const Table& table) {
         for (const Column& column : table.columns) {
@@ -99,6 +122,13 @@ CheckTopic HyperelasticRules() {
              .bound = "has to be 0 or above",
              .source = "K0 = 2/D1 is a bulk modulus",
              .look = LookAtCompressibility},
+            {.kind = FindingKind::WARNING,
+             .code = "initial-bulk-modulus",
+             .says = "The initial bulk modulus K0 = 2/D1 of a fit is not below its initial shear modulus.",
+             .bound = "is hardly below mu0",
+             .source = "K0 < mu0 is a Poisson's ratio below 1/8; that of rubber is near 1/2, and its K0 a "
+                       "thousand times mu0: L. R. G. Treloar, The Physics of Rubber Elasticity, 1975",
+             .look = LookAtBulkModulus},
         }};
 }
 

@@ -156,6 +156,8 @@ std::vector<RuleSeed> OfRubberAndGaskets() {
          Fit("MOONEY_RIVLIN", "1", mooney, "[4e5, -1e5]")},
         {"compressibility", "error", Fit("NEO_HOOKE", "1", hooke, "[4e5, -1e-9]"),
          Fit("NEO_HOOKE", "1", hooke, "[4e5, 0]")},
+        {"initial-bulk-modulus", "warning", Fit("NEO_HOOKE", "1", hooke, "[4e5, 1e-3]"),
+         Fit("NEO_HOOKE", "1", hooke, "[4e5, 1e-9]")},
         {"first-pressure", "error", Gasket(Loading("[[1, 0, 293], [1e6, 1e-5, 293], [3e6, 2e-5, 293]]")),
          Gasket(kLoading)},
         {"first-closure", "error", Gasket(Loading("[[0, 1e-6, 293], [1e6, 1e-5, 293], [3e6, 2e-5, 293]]")),
