@@ -62,8 +62,9 @@ std::string NearestName(const std::string& misspelt, const std::vector<std::stri
     if (misspelt.size() > kLongest) return {};
     std::string nearest;
     std::size_t least = MostMistakes(misspelt) + 1;
+    const std::string small = Small(misspelt);
     for (const std::string& name : names) {
-        const std::size_t distance = Distance(misspelt, name);
+        const std::size_t distance = small == Small(name) ? 0 : Distance(misspelt, name);
         if (distance >= least) continue;
         least = distance;
         nearest = name;

@@ -6,7 +6,8 @@
 namespace zelmat {
 
 /// The name that a misspelt one most likely means: the one with the fewest letters added, left out, exchanged
-/// or swapped with their neighbour. Empty when none is near, which is within a third of the letters.
+/// or swapped with their neighbour, before all the one that differs in capitals alone. Empty when none is
+/// near, which is within a third of the letters.
 std::string NearestName(const std::string& misspelt, const std::vector<std::string>& names);
 
 /// The names that somebody most likely meant who wrote only a part of one, or misspelt that: those in which

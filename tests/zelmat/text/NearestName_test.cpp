@@ -26,6 +26,11 @@ TEST(NearestName, IsTheFirstOfSeveralThatAreAsNear) {
     EXPECT_EQ(NearestName("B", {"A", "C"}), "A");
 }
 
+TEST(NearestName, IsTheOneThatDiffersInCapitalsAlone) {
+    EXPECT_EQ(NearestName("ogden", {"voce", "OGDEN"}), "OGDEN");
+    EXPECT_EQ(NearestName("Voce", {"Vode", "voce"}), "voce");
+}
+
 TEST(NearestNames, HaveTheTextAtTheBeginningOfAWord) {
     EXPECT_EQ(NearestNames("rubber", {"Natural Rubber", "Steel", "Rubber A"}, 8),
               (Names{"Natural Rubber", "Rubber A"}));
