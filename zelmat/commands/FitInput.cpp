@@ -3,11 +3,10 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
-#include <map>
 #include <set>
-#include <tuple>
 
 #include "zelmat/commands/CardInput.h"
+#include "zelmat/commands/MeasuredTests.h"
 #include "zelmat/commands/OptionNumbers.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/properties/HardeningProperty.h"
@@ -30,8 +29,6 @@ using mechanics::TestCurve;
 /// A temperature below absolute zero, of points that have none.
 constexpr double kNotSaid = -1.0;
 
-constexpr const char* kModes = "uniaxial, equibiaxial, planar or shear";
-
 /// "planar=1:3" or "1:3": what stands before the "=" is a mode.
 struct ByMode {
     std::optional<LoadingMode> mode;
@@ -45,7 +42,7 @@ ByMode SplitByMode(const std::string& text, const char* option, Findings& findin
     const auto mode = mechanics::LoadingModeOf(text.substr(0, equals));
     if (!mode) {
         findings.Add(UsageFinding(option, "no-such-mode", QuotedText(text.substr(0, equals)) + " is no mode",
-                                  {std::string("expected ") + kModes}));
+                                  {std::string("expected ") + kTestModes}));
     }
     return {mode, text.substr(equals + 1), mode.has_value()};
 }
@@ -61,19 +58,6 @@ Finding DataFinding(Place place, const char* code, std::string text, std::vector
     return {FindingKind::ERROR, std::move(place), code, std::move(text), std::move(details)};
 }
 
-/// The stretch (amount of shear) of each row; nothing for columns that do not say it in this mode.
-std::optional<double> StretchOf(const MeasuredCsv& points, std::size_t row, LoadingMode mode) {
-    const auto at = [&](MeasuredColumn column) -> std::optional<double> {
-        const auto* numbers = points.Numbers(column);
-        return numbers ? std::optional((*numbers)[row]) : std::nullopt;
-    };
-    if (mode == LoadingMode::SIMPLE_SHEAR) return at(MeasuredColumn::SHEAR);
-    if (const auto stretch = at(MeasuredColumn::STRETCH)) return stretch;
-    if (const auto strain = at(MeasuredColumn::ENGINEERING_STRAIN)) return 1.0 + *strain;
-    if (const auto strain = at(MeasuredColumn::TRUE_STRAIN)) return std::exp(*strain);
-    return std::nullopt;
-}
-
 }  // namespace
 
 void FitInput::Declare(CLI::App& line) {
@@ -82,7 +66,7 @@ void FitInput::Declare(CLI::App& line) {
                     "or both; - is standard input")
         ->required();
     line.add_option("--mode", modeTexts_,
-                    std::string("Mode of each CSV file, or the modes that count of a card: ") + kModes)
+                    std::string("Mode of each CSV file, or the modes that count of a card: ") + kTestModes)
         ->delimiter(',');
     line.add_option("--range", limitTexts_, "Stretches that count: 1:4, or of one mode planar=1:4");
     line.add_option("--weight", weightTexts_, "Weight of the tests of a mode: equibiaxial=2");
@@ -96,7 +80,7 @@ bool FitInput::ReadModes(Findings& findings) {
         const auto mode = mechanics::LoadingModeOf(text);
         if (!mode) {
             findings.Add(UsageFinding("--mode", "no-such-mode", QuotedText(text) + " is no mode",
-                                      {std::string("expected ") + kModes}));
+                                      {std::string("expected ") + kTestModes}));
             return false;
         }
         modes_.push_back(*mode);
@@ -188,66 +172,6 @@ bool FitInput::ReadFiles(const std::vector<std::string>& paths, const std::optio
     return true;
 }
 
-void FitInput::AddCurves(const Measured& measured, std::optional<LoadingMode> given,
-                         std::vector<TestCurve>& curves, Findings& findings) const {
-    const MeasuredCsv& points = measured.points;
-    const auto* modes = points.Words(MeasuredColumn::MODE);
-    const auto* specimens = points.Words(MeasuredColumn::SPECIMEN);
-    const auto* weights = points.Numbers(MeasuredColumn::WEIGHT);
-    const auto* nominal = points.Numbers(MeasuredColumn::NOMINAL_STRESS);
-    const auto* trueStress = points.Numbers(MeasuredColumn::TRUE_STRESS);
-    if ((!nominal && !trueStress) || (nominal && trueStress)) {
-        return findings.Add(DataFinding({measured.file, 0}, "one-stress",
-                                        "the points need one stress, nominal or true",
-                                        {"NominalStress [MPa] or TrueStress [MPa]"}));
-    }
-    const bool sheared = points.Numbers(MeasuredColumn::SHEAR) && !points.Numbers(MeasuredColumn::STRETCH);
-    if (!given && sheared) given = LoadingMode::SIMPLE_SHEAR;  // nothing else has an amount of shear
-    if (!modes && !given) {
-        findings.Add({FindingKind::WARNING,
-                      {measured.file, 0},
-                      "mode-not-said",
-                      "the tests are taken as uniaxial",
-                      {"--mode or a column Mode says it"}});
-    }
-    using Key = std::tuple<LoadingMode, std::string, double>;
-    std::map<Key, TestCurve> specimensOf;
-    for (std::size_t row = 0; row < points.Rows(); ++row) {
-        const Place place{measured.file, points.Line(row)};
-        const auto mode = modes ? mechanics::LoadingModeOf((*modes)[row])
-                                : std::optional(given.value_or(LoadingMode::UNIAXIAL));
-        if (!mode) {
-            return findings.Add(DataFinding(place, "no-such-mode", QuotedText((*modes)[row]) + " is no mode",
-                                            {std::string("expected ") + kModes}));
-        }
-        const auto stretch = StretchOf(points, row, *mode);
-        if (!stretch) {
-            const bool shear = *mode == LoadingMode::SIMPLE_SHEAR;
-            return findings.Add(
-                DataFinding(place, "no-stretch",
-                            shear ? "a shear test needs a column AmountOfShear"
-                                  : "the points have no stretch and no strain",
-                            shear ? std::vector<std::string>()
-                                  : std::vector<std::string>{"Stretch, EngineeringStrain or TrueStrain"}));
-        }
-        if (!mechanics::IsReachable(*mode, *stretch)) {
-            return findings.Add(DataFinding(place, "impossible-stretch",
-                                            "the stretch is " + NumberText(*stretch), {"has to be above 0"}));
-        }
-        const double weight = weights ? (*weights)[row] : 1.0;
-        TestCurve& curve =
-            specimensOf
-                .try_emplace(
-                    {*mode, specimens ? (*specimens)[row] : "", weight},
-                    TestCurve{.mode = *mode, .points = {}, .weight = weight, .lower = {}, .upper = {}})
-                .first->second;
-        curve.points.push_back(
-            {*stretch,
-             nominal ? (*nominal)[row] : mechanics::NominalStressOf(*mode, *stretch, (*trueStress)[row])});
-    }
-    for (auto& [key, curve] : specimensOf) curves.push_back(std::move(curve));
-}
-
 void FitInput::Restrict(std::vector<TestCurve>& curves) const {
     for (TestCurve& curve : curves) {
         for (const Limits& limits : limits_) {
@@ -287,7 +211,8 @@ std::vector<TestCurve> FitInput::Curves(Findings& findings) const {
     for (std::size_t at = 0; at < measured_.size(); ++at) {
         const auto mode =
             modes_.empty() ? std::nullopt : std::optional(modes_[std::min(at, modes_.size() - 1)]);
-        AddCurves(measured_[at], mode, curves, findings);
+        const auto more = MeasuredTests(measured_[at].points, measured_[at].file, mode, findings);
+        curves.insert(curves.end(), more.begin(), more.end());
     }
     if (findings.HasErrors()) return {};
     Restrict(curves);

@@ -65,8 +65,6 @@ private:
     bool ReadOptions(Findings& findings);
     bool ReadFiles(const std::vector<std::string>& paths, const std::optional<std::string>& first,
                    Findings& findings);
-    void AddCurves(const Measured& measured, std::optional<mechanics::LoadingMode> mode,
-                   std::vector<mechanics::TestCurve>& curves, Findings& findings) const;
     void Restrict(std::vector<mechanics::TestCurve>& curves) const;
     bool AddHardening(const Material& material, std::vector<mechanics::HardeningPoint>& points, Place& place,
                       Findings& findings) const;

@@ -89,6 +89,9 @@ private:
                        curve.offsetYield->stress);
             result.Add("offset_yield_strain", "at the engineering strain", "strain",
                        curve.offsetYield->strain);
+            result.Note(
+                "the plastic strains of the hardening curve count from the yield point, whose own is "
+                "taken off");
             return;
         }
         result.Say("offset_yield", "offset yield stress", "none: the curve does not reach the offset line");

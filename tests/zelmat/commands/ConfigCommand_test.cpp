@@ -142,6 +142,14 @@ TEST_F(ConfigCommand, KeepsDocumentsFromBeingChangedWhenItCannotBeRead) {
     EXPECT_EQ(Run({"list", document}).exitCode, 0);
 }
 
+TEST_F(ConfigCommand, SaysThatAFullDiskTookNothing) {
+    for (const auto& arguments : {std::vector<std::string>{"config"}, {"config", "units=us"}}) {
+        const ProgramRun run = RunZelmatWith(arguments, ">/dev/full", {"XDG_CONFIG_HOME=" + folder_});
+        EXPECT_EQ(run.exitCode, 3);
+        EXPECT_THAT(run.err, HasSubstr("standard output: error[not-written]"));
+    }
+}
+
 TEST_F(ConfigCommand, PrintsOneJsonObject) {
     const json told = json::parse(Run({"config", "units=us", "history-bytes=1MB", "--json"}).out);
 

@@ -308,6 +308,18 @@ TEST(FitCommand, FitsFilesOfPointsBehindAMaterialInThePlaceOfItsOwn) {
     EXPECT_NEAR(fit.Number("initial_shear_modulus"), 1e6, 1e-6);
 }
 
+TEST(FitCommand, WarnsOfPointsThatNoModelMeetsAndOfThoseOutOfOrder) {
+    const std::string rest = FileOf("rest.csv", "Stretch [-],NominalStress [MPa]\n1,0.1\n2,1.75\n");
+    EXPECT_THAT(ResultJson({"fit", rest, "--model", "NEO_HOOKE", "--mode", "uniaxial"}).Findings(),
+                Contains("fit: 1 point with a stress and no strain: no potential meets that"));
+    const std::string curve =
+        FileOf("unsorted.csv", "YieldStress [MPa],PlasticStrain [-]\n500,0.3\n300,0\n0,0.05\n400,0.1\n");
+    const ResultJson voce({"fit", curve, "--model", "voce"});
+    EXPECT_THAT(voce.Findings(),
+                Contains("fit: the plastic strains do not rise from point to point: taken as they stand"));
+    EXPECT_THAT(voce["notes"], Contains("points of zero stress that do not count: 1"));
+}
+
 TEST(FitCommand, TellsAShearTestByItsColumn) {
     const std::string csv = FileOf("shear.csv", "AmountOfShear [-],ShearStress [MPa]\n0.5,0.4\n1,0.8\n");
     const ResultJson fit({"fit", csv, "--model", "NEO_HOOKE"});

@@ -215,6 +215,14 @@ TEST(LaminateCommand, SaysWhyThereIsNoFailure) {
                 Contains("no lamination parameters: lamination parameters exist for one ply material only"));
 }
 
+TEST(LaminateCommand, AsksWhichOfSeveralMaterialsThePliesAreOf) {
+    const std::string two = FileOf("two_plies.json", R"([{"name": "Glass", "E": "70 GPa", "nu": 0.22},
+        {"name": "Foam", "E": "70 MPa", "nu": 0.3}])");
+    EXPECT_THAT(
+        Refusal({"[0]", "--material", two, "--thickness", "1mm"}, 2),
+        HasSubstr("error[several-materials]: it holds 2 materials (name one of them, has: Glass, Foam)"));
+}
+
 TEST(LaminateCommand, ReadsALayupCardFromStandardInput) {
     const std::string card = "< '" + Sample("layups/kaw_0_30_m45.json") + "'";
     const ProgramRun run = RunZelmatWith({"laminate", "-"}, card);

@@ -80,6 +80,15 @@ TEST(UnitCommand, KnowsAbsoluteZero) {
     }
 }
 
+TEST(UnitCommand, SaysThatAFullDiskTookNothing) {
+    for (const auto& arguments :
+         {std::vector<std::string>{"unit", "210 GPa", "psi"}, {"unit", "--list", "stress"}}) {
+        const ProgramRun run = RunZelmatWith(arguments, ">/dev/full");
+        EXPECT_EQ(run.exitCode, 3);
+        EXPECT_THAT(run.err, HasSubstr("standard output: error[not-written]"));
+    }
+}
+
 TEST(UnitCommand, RefusesWhatIsNoNumberOrNoUnit) {
     const std::vector<std::vector<std::string>> wrong = {{"unit"},
                                                          {"unit", "210 GPa"},
