@@ -174,10 +174,6 @@ void AddSetting(ordered_json& block, const Setting& setting) {
 void AddOwnTable(ordered_json& schema, const BlockKind& block, const TableKind& table) {
     ordered_json tabular = ordered_json::object();
     AddTable(tabular, block, table);
-    if (block.alternatives) {
-        schema["allOf"].push_back(std::move(tabular));
-        return;
-    }
     schema["if"] = {{"anyOf", {{{"required", {"columns"}}}, {{"required", {"rows"}}}}}};
     schema["then"] = std::move(tabular);
     schema["else"] = {{"minProperties", 1}};

@@ -23,12 +23,15 @@ bool Fits(const TableForm& form, const std::vector<std::string>& names) {
     return met == names.size();
 }
 
-/// The values that tell a table's form: its first setting's choices, or none.
+/// The values that tell a table's form: its first setting's choices, or none; of a potential, which has its
+/// order for second setting, with the most terms.
 std::vector<Values> FormValues(const BlockKind& block) {
     std::vector<Values> all(1);
     if (block.settings.empty()) return all;
     for (const std::string& choice : block.settings.front().choices) {
-        all.emplace_back().Set(block.settings.front().name, choice);
+        Values& values = all.emplace_back();
+        values.Set(block.settings.front().name, choice);
+        if (block.alternatives) values.Set(block.settings.at(1).name, block.settings.at(1).most);
     }
     return all;
 }

@@ -50,6 +50,18 @@ TEST(CardNames, TakeATableOfOneRowValueByValue) {
     EXPECT_THAT(RowsOf(card, "plastic"), ElementsAre(ElementsAre(90e6, 292e6, 0.31, 1.09, 1356.15, 298.0)));
 }
 
+TEST(CardNames, TakeAFitCoefficientByCoefficient) {
+    const auto card = CardOf(R"({"name": "M", "hyperelastic": [
+        {"model": "NEO_HOOKE", "order": 1, "C10": "0.5 MPa", "D1": "0.001 1/MPa"},
+        {"model": "OGDEN", "order": 2, "ogden_convention": "mu/alpha", "mu_1": "1 MPa", "alpha_1": 3,
+         "mu_2": "2 kPa", "alpha_2": -2, "status": "published"}]})");
+
+    EXPECT_THAT(Rows(card.fits.at(0).tables.front()), ElementsAre(ElementsAre(0.5e6, 1e-9)));
+    EXPECT_THAT(Rows(card.fits.at(1).tables.front()),
+                ElementsAre(ElementsAre(1e6, 3.0, 2e3, -2.0, 0.0, 0.0)));
+    EXPECT_TRUE(card.fits.at(1).kept.empty());
+}
+
 TEST(CardNames, NameTheLineOnWhichAValueStands) {
     EXPECT_THAT(FindingsOf("{\"name\": \"M\",\n\"nu\": 0.3,\n\"E\": \"210 kg\",\n\"rho\":\n\"7 m\"}"),
                 ElementsAre(HasSubstr("card.json:3: error[wrong-unit]: modulus: the unit 'kg' measures"),
