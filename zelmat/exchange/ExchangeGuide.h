@@ -20,14 +20,14 @@ names them, with absolute zero on their scale of temperature. Systems that do no
 beside psi and in) are warned of. Whatever is lost or changed is a finding and a comment in the deck: `not-carried`,
 `changed-in-deck`, `solver-limit`. The card's own checks run first (`--keep-going` goes on). A deck is written whole
 or not at all, files of a folder together; where a material has nothing that the solver takes, there is none, and
-the exit code is 1. A switched-off behavior is not exported. Of
-alternative hyperelastic fits the first is taken, or that of `--model` and `--variant`. Of a user material, a
-hyperelastic and an elastic-plastic behavior that are all on, the first in this order is the deck's.
+the exit code is 1. A switched-off behavior is not exported. Of alternative hyperelastic fits the first is taken, or that
+of `--model` and `--variant`. Of a user material, a hyperelastic and an elastic-plastic behavior that are all on, the first
+in this order is the deck's.
 
 Ply constants (E1, E2, nu12, G12, ...) stand among a card's `other_properties`; they are the deck's law where no behavior
 is one. nu12 is the strain along 2 that a stress along 1 causes, so that nu21 = nu12 E2/E1. Layups are those of layup
-cards and of documents. A ply whose material is in the deck with the same constants refers to it; for others the deck
-has a material of its own. A material that is nothing but a ply is no material without a deck.
+cards and of documents. For CalculiX a ply whose material is in the deck with the same constants refers to it; any other
+one gets a material of its own there. A material that says nothing but what a layup takes from it needs no deck.
 
 **Import** reads material cards of CalculiX back: several materials in one deck, continued lines, any case, blanks and
 comments. Keywords that describe no material are skipped and named, once each. A deck is read line by line, however
@@ -48,8 +48,9 @@ proves the material cards of a deck that somebody has written or changed, in pla
 60 s, or `--timeout`; it leaves nothing behind, also when it is interrupted. On Debian the solver is the package
 `calculix-ccx`.
 
-**The other forms** have no solver here: their decks follow the documented keywords and columns, hold the numbers that
-the tests expect, and have not been run. Try a deck on one element before an analysis stands on it.
+**The other forms** have no solver here. Their keywords and columns are those of the solvers' manuals as we know them, which
+were not at hand (`/MAT/PLAS_TAB` and `/MAT/OGDEN` above all); tests hold the decks against that grammar and their numbers
+against the material's. None has been run: try a deck on one element before an analysis stands on it.
 
 **What CalculiX (2.20) does and the writer heeds**: a number of more than 20 characters is cut off without a word, with
 its exponent, so none is longer (which changes a number by less than 1e-12 of itself); names have up to 80 characters;
