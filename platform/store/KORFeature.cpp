@@ -14,7 +14,7 @@ void KORFeature::WriteTo(KORValue& stored, KORSlot slot, KORValue&& value) {
         Changed(slot, value);
     } else {
         const KORValue& before = log.Log(*this, slot, std::move(stored));
-        stored.Swap(value);
+        stored.Swap(value);  // NOLINT(bugprone-use-after-move): what was moved from is an empty value
         Changed(slot, before);
     }
 }

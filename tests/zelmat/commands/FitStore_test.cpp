@@ -61,7 +61,7 @@ TEST(FitStore, LeavesTheDocumentAsItWasWhenNothingCanBeStored) {
 
 /// A new document with one card in it.
 std::string DocumentOf(const std::string& name, const std::string& card) {
-    const std::string path = FileOf(name, "");
+    std::string path = FileOf(name, "");
     std::filesystem::remove(path);
     EXPECT_EQ(RunZelmat({"new", path}).exitCode, 0);
     EXPECT_EQ(RunZelmat({"add", path, card}).exitCode, 0);

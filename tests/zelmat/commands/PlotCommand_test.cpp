@@ -21,7 +21,7 @@ class PlotCommand : public FolderTest {
 protected:
     /// Copper, a laminate's material and a core of foam; layups of the latter two.
     std::string DocumentWithLayups() const {
-        const std::string document = In("a.zeldoc");
+        std::string document = In("a.zeldoc");
         const auto run = [](const std::vector<std::string>& arguments) {
             const ProgramRun ran = RunZelmat(arguments);
             EXPECT_EQ(ran.exitCode, 0) << ran.err;
