@@ -86,9 +86,10 @@ MaybeProblem ReadPlastic(const Block& block, const AtQuestion& question, Result&
     const auto* curves = std::get_if<mechanics::HardeningTable>(&hardening->law);
     if (curves && hardening->temperatureDependent) range = curves->Temperatures();
     MaybeNumber strainTo;
-    if (curves)
+    if (curves) {
         strainTo =
             curves->GreatestPlasticStrain(question.temperature.value_or(curves->Temperatures().lowest));
+    }
     auto ranges = RangeText(range, result);
     if (strainTo) ranges.push_back("plastic strains up to " + NumberText(*strainTo));
     const auto stress = FlowStressAt(*hardening, *question.plasticStrain, question.temperature,

@@ -247,9 +247,10 @@ private:
             const std::string name = CoefficientNames(property->Model(), property->Order())[at];
             const auto number = units_.FromStored(material->coefficients[at], "stress");
             const bool known = name == "C10" || name == "C01" || name == "C20";
-            if (!number || !known)
+            if (!number || !known) {
                 return notes_.LostBehavior(BehaviorOf(*block),
                                            "ELAS_HYPER has C10, C01 and C20, not " + name);
+            }
             text += name + "=" + RealDeckNumber(*number) + ", ";
         }
         if (text.find("C01") == std::string::npos) text += "C01=0., ";

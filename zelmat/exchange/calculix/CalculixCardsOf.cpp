@@ -30,9 +30,10 @@ std::optional<std::string> CalculixCardsOf(const std::string& path, Findings& fi
             if (keyword.keyword == "*MATERIAL") {
                 if (!cards.empty())
                     return Refuse(path, keyword.line, "several-materials", "a second *MATERIAL", findings);
-                if (keyword.name.empty())
+                if (keyword.name.empty()) {
                     return Refuse(path, keyword.line, "no-name", "*MATERIAL has no NAME on its line",
                                   findings);
+                }
                 cards = "*MATERIAL, NAME=" + keyword.name + "\n";
                 continue;
             }
