@@ -68,7 +68,7 @@ private:
     /// "f", four digits of the material's number and three of a count: eight characters, where a material's
     /// name has at most seven, so that they never meet.
     std::string NewFunction(const std::string& command) {
-        const std::string name = "f" + Digits36(material_.number, 4) + Digits36(++functionCount_, 3);
+        std::string name = "f" + Digits36(material_.number, 4) + Digits36(++functionCount_, 3);
         functions_ += name + " = " + command + "\n";
         return name;
     }
