@@ -4,11 +4,13 @@ target_compile_features(zel_build_flags INTERFACE cxx_std_20)
 target_compile_options(zel_build_flags INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wconversion -Wsign-conversion
     -Wold-style-cast $<$<BOOL:${ZEL_WARNINGS_AS_ERRORS}>:-Werror>)
-# When g++ 12 optimises, it takes what it inlined from std::string and its own containers for overlapping copies and for
-# reads of nothing: false alarms about code that is not ours. clang and the sanitizers look for the real ones.
+# When g++ 12 optimises, it takes what it inlined from the standard library's and JSON's containers for overlapping copies,
+# for reads of nothing and for reads beyond a string: false alarms about code that is not ours. clang and the sanitizers
+# look for the real ones.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(zel_build_flags INTERFACE
-        $<$<NOT:$<CONFIG:Debug>>:-Wno-restrict> $<$<NOT:$<CONFIG:Debug>>:-Wno-maybe-uninitialized>)
+    foreach(alarm IN ITEMS restrict maybe-uninitialized array-bounds)
+        target_compile_options(zel_build_flags INTERFACE $<$<NOT:$<CONFIG:Debug>>:-Wno-${alarm}>)
+    endforeach()
 endif()
 # Nobody replaces a function of ours at run time, so a shared library may inline its own exported functions and call
 # them directly. clang does so by itself.

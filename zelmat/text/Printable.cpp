@@ -22,7 +22,7 @@ bool ChangesTheLine(std::uint32_t point) {
 }
 
 std::string Hexadecimal(const char* format, std::uint32_t point) {
-    std::array<char, 8> text{};
+    std::array<char, 12> text{};  // two signs, eight digits, and the end
     std::snprintf(text.data(), text.size(), format, point);
     return text.data();
 }
