@@ -1,4 +1,4 @@
-#include "zelmat/commands/Program.h"
+#include "zelmat/commands/frame/Program.h"
 
 int main(int argc, char** argv) {
     return zelmat::RunProgram(argc, argv);

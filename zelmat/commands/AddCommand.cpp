@@ -3,12 +3,12 @@
 #include <set>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/Progress.h"
-#include "zelmat/commands/WriteGate.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/Progress.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/inputs/CardInput.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
+#include "zelmat/commands/reports/ChangeReport.h"
 #include "zelmat/materials/NewMaterial.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"

@@ -1,10 +1,10 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/AtBlock.h"
-#include "zelmat/commands/Calculation.h"
-#include "zelmat/commands/FitOption.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/OptionNumbers.h"
+#include "zelmat/commands/frame/Calculation.h"
+#include "zelmat/commands/inputs/FitOption.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
+#include "zelmat/commands/reports/AtBlock.h"
 #include "zelmat/properties/UsedBlock.h"
 #include "zelmat/text/WordList.h"
 

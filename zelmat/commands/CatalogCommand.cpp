@@ -1,6 +1,6 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/materials/BuiltInCatalog.h"
 #include "zelmat/materials/CatalogPage.h"
 #include "zelmat/text/NearestName.h"

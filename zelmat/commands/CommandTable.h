@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 
 namespace zelmat {
 

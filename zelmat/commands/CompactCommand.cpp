@@ -2,7 +2,7 @@
 #include <filesystem>
 
 #include "platform/disk/KORDiskCopy.h"
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/text/Printable.h"
 

@@ -1,8 +1,8 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/CommandLine.h"
 #include "zelmat/commands/CommandTable.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/CommandLine.h"
 
 namespace zelmat {
 

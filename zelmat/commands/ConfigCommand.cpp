@@ -1,6 +1,6 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/settings/ConfigurationFile.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/QuotedText.h"

@@ -3,8 +3,8 @@
 #include <array>
 #include <cmath>
 
-#include "zelmat/commands/Calculation.h"
-#include "zelmat/commands/OptionNumbers.h"
+#include "zelmat/commands/frame/Calculation.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/mechanics/elastic/IsotropicElasticity.h"
 #include "zelmat/mechanics/laminate/PlyStiffness.h"
 #include "zelmat/text/NearestName.h"

@@ -4,11 +4,11 @@
 #include <iterator>
 
 #include "zelmat/cards/WriteCard.h"
-#include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/WriteGate.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/frame/WrittenReport.h"
+#include "zelmat/commands/inputs/CardInput.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
 #include "zelmat/files/ReadText.h"
 
 namespace zelmat {

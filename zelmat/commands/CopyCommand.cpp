@@ -1,8 +1,8 @@
 #include <CLI/CLI.hpp>
 
 #include "platform/disk/KORDiskCopy.h"
-#include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/reports/ChangeReport.h"
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/documents/MaterialUses.h"

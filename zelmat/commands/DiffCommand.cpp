@@ -3,10 +3,10 @@
 #include <charconv>
 #include <filesystem>
 
-#include "zelmat/commands/Command.h"
 #include "zelmat/commands/ComparedPairs.h"
-#include "zelmat/commands/GivenLayups.h"
-#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/inputs/GivenLayups.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/text/Printable.h"
 

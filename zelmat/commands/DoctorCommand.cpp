@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 
 #include "platform/disk/KORDoctor.h"
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"

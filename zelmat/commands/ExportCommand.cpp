@@ -3,11 +3,11 @@
 #include <filesystem>
 #include <iterator>
 
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenLayups.h"
-#include "zelmat/commands/MaterialChoice.h"
-#include "zelmat/commands/WriteGate.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/frame/WrittenReport.h"
+#include "zelmat/commands/inputs/GivenLayups.h"
+#include "zelmat/commands/inputs/MaterialChoice.h"
 #include "zelmat/exchange/CarryPage.h"
 #include "zelmat/exchange/ExportDeck.h"
 #include "zelmat/files/OutputFolder.h"

@@ -1,10 +1,10 @@
 #include <CLI/CLI.hpp>
 
 #include "zelmat/cards/WriteCard.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/MaterialChoice.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/WrittenReport.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
+#include "zelmat/commands/inputs/MaterialChoice.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/layups/LayupCardText.h"
 #include "zelmat/layups/WholeLayup.h"

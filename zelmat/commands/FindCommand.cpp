@@ -1,9 +1,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/inputs/CardInput.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
 #include "zelmat/materials/Condition.h"
 #include "zelmat/text/Printable.h"
 

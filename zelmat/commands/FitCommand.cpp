@@ -1,11 +1,11 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "zelmat/commands/Calculation.h"
-#include "zelmat/commands/FitInput.h"
-#include "zelmat/commands/FitReport.h"
 #include "zelmat/commands/FitStore.h"
-#include "zelmat/commands/OptionNumbers.h"
+#include "zelmat/commands/frame/Calculation.h"
+#include "zelmat/commands/inputs/FitInput.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
+#include "zelmat/commands/reports/FitReport.h"
 #include "zelmat/text/NearestName.h"
 #include "zelmat/text/QuotedText.h"
 #include "zelmat/text/WordList.h"

@@ -3,9 +3,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/FittedBlock.h"
-#include "zelmat/commands/OptionNumbers.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
+#include "zelmat/commands/reports/ChangeReport.h"
+#include "zelmat/commands/reports/FittedBlock.h"
 #include "zelmat/materials/CardExtras.h"
 #include "zelmat/materials/MaterialWriter.h"
 

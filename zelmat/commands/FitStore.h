@@ -5,10 +5,10 @@
 #include <string>
 
 #include "platform/store/KORStep.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/FitInput.h"
-#include "zelmat/commands/Result.h"
-#include "zelmat/commands/WriteGate.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/Result.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/inputs/FitInput.h"
 #include "zelmat/documents/DocumentToChange.h"
 #include "zelmat/materials/DocumentMaterials.h"
 #include "zelmat/mechanics/fit/HardeningFit.h"

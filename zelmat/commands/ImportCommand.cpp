@@ -1,9 +1,9 @@
 #include <CLI/CLI.hpp>
 
 #include "zelmat/cards/CardJson.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/WriteGate.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/exchange/calculix/ReadCalculix.h"
 #include "zelmat/exchange/calculix/ReadCalculixLayup.h"
 #include "zelmat/files/OutputFile.h"

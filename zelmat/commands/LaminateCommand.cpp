@@ -1,8 +1,8 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/Calculation.h"
-#include "zelmat/commands/LaminateInput.h"
-#include "zelmat/commands/LaminateReport.h"
+#include "zelmat/commands/frame/Calculation.h"
+#include "zelmat/commands/inputs/LaminateInput.h"
+#include "zelmat/commands/reports/LaminateReport.h"
 #include "zelmat/layups/StackingNotation.h"
 #include "zelmat/properties/LaminateProperty.h"
 

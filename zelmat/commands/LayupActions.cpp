@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <map>
 
-#include "zelmat/commands/GivenLayups.h"
-#include "zelmat/commands/LayupReport.h"
+#include "zelmat/commands/inputs/GivenLayups.h"
+#include "zelmat/commands/reports/LayupReport.h"
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/findings/DiagnosticLines.h"
 #include "zelmat/layups/DocumentLayups.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/reports/ChangeReport.h"
 #include "zelmat/layups/LayupCard.h"
 #include "zelmat/layups/WholeLayup.h"
 

@@ -1,9 +1,9 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/LayupReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/inputs/CardInput.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
+#include "zelmat/commands/reports/LayupReport.h"
 #include "zelmat/layups/WholeLayup.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/TablePrinter.h"

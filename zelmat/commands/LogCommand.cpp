@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 
 #include "platform/disk/KORDiskDocument.h"
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/materials/HostPlatform.h"

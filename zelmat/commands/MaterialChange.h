@@ -1,6 +1,6 @@
 #pragma once
 
-#include "zelmat/commands/ChangeReport.h"
+#include "zelmat/commands/reports/ChangeReport.h"
 
 namespace zelmat {
 

@@ -3,9 +3,9 @@
 
 #include "zelmat/cards/CardSchema.h"
 #include "zelmat/cards/CardTemplate.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/HistoryOrigin.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/WrittenReport.h"
+#include "zelmat/commands/reports/HistoryOrigin.h"
 #include "zelmat/documents/DocumentToChange.h"
 #include "zelmat/files/JsonText.h"
 #include "zelmat/files/OutputFile.h"

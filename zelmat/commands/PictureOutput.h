@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/pictures/GnuplotScript.h"
 

@@ -2,10 +2,10 @@
 #include <algorithm>
 #include <iterator>
 
-#include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/PictureOutput.h"
-#include "zelmat/commands/PlotInput.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/ChosenUnits.h"
+#include "zelmat/commands/frame/WrittenReport.h"
+#include "zelmat/commands/inputs/PlotInput.h"
 #include "zelmat/pictures/ComparedPictures.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/pictures/MaterialPictures.h"

@@ -1,9 +1,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/WrittenReport.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
 #include "zelmat/exchange/calculix/CalculixCardsOf.h"
 #include "zelmat/exchange/calculix/Proof.h"
 #include "zelmat/quantities/NumberText.h"

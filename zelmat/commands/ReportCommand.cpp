@@ -2,11 +2,11 @@
 #include <array>
 #include <cstdio>
 
-#include "zelmat/commands/ChosenUnits.h"
 #include "zelmat/commands/PagePrinting.h"
 #include "zelmat/commands/ReportChanges.h"
 #include "zelmat/commands/ReportGathering.h"
-#include "zelmat/commands/WrittenReport.h"
+#include "zelmat/commands/frame/ChosenUnits.h"
+#include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/OutputFile.h"
 #include "zelmat/report/ReportPage.h"

@@ -4,7 +4,7 @@
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/checks/Checks.h"
-#include "zelmat/commands/KeptReport.h"
+#include "zelmat/commands/reports/KeptReport.h"
 #include "zelmat/pictures/LayupPictures.h"
 #include "zelmat/pictures/MaterialPictures.h"
 #include "zelmat/pictures/PictureDrawing.h"

@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenLayups.h"
-#include "zelmat/commands/Progress.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/Progress.h"
+#include "zelmat/commands/inputs/GivenLayups.h"
 #include "zelmat/report/ReportContent.h"
 
 namespace zelmat {

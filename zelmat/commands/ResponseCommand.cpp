@@ -1,12 +1,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "zelmat/commands/Calculation.h"
-#include "zelmat/commands/FitOption.h"
-#include "zelmat/commands/FitReport.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/OptionNumbers.h"
-#include "zelmat/commands/StretchOption.h"
+#include "zelmat/commands/frame/Calculation.h"
+#include "zelmat/commands/inputs/FitOption.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
+#include "zelmat/commands/inputs/StretchOption.h"
+#include "zelmat/commands/reports/FitReport.h"
 #include "zelmat/mechanics/fit/HyperelasticFit.h"
 #include "zelmat/mechanics/hyperelastic/HyperelasticResponse.h"
 #include "zelmat/mechanics/hyperelastic/Stability.h"

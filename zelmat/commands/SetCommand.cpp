@@ -3,9 +3,9 @@
 
 #include "zelmat/cards/CardEdit.h"
 #include "zelmat/cards/CardJson.h"
-#include "zelmat/commands/CardInput.h"
 #include "zelmat/commands/MaterialChange.h"
-#include "zelmat/commands/WriteGate.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/materials/CardExtras.h"
 #include "zelmat/materials/MaterialWriter.h"
 #include "zelmat/text/WordList.h"

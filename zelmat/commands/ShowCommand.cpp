@@ -5,13 +5,13 @@
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/commands/CallTrace.h"
-#include "zelmat/commands/ChangeReport.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/CsvReport.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/JsonReport.h"
-#include "zelmat/commands/ShowReport.h"
-#include "zelmat/commands/WriteGate.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/CsvReport.h"
+#include "zelmat/commands/frame/JsonReport.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
+#include "zelmat/commands/reports/ChangeReport.h"
+#include "zelmat/commands/reports/ShowReport.h"
 #include "zelmat/materials/MaterialHost.h"
 
 namespace zelmat {

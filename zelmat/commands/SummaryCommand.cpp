@@ -2,11 +2,11 @@
 #include <deque>
 
 #include "zelmat/cards/FitChoice.h"
-#include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/GivenMaterials.h"
-#include "zelmat/commands/JsonReport.h"
-#include "zelmat/commands/WriteGate.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/frame/JsonReport.h"
+#include "zelmat/commands/frame/WriteGate.h"
+#include "zelmat/commands/inputs/CardInput.h"
+#include "zelmat/commands/inputs/GivenMaterials.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 #include "zelmat/text/WordList.h"

@@ -2,9 +2,9 @@
 #include <cmath>
 
 #include "zelmat/cards/MeasuredCsv.h"
-#include "zelmat/commands/Calculation.h"
-#include "zelmat/commands/CardInput.h"
-#include "zelmat/commands/OptionNumbers.h"
+#include "zelmat/commands/frame/Calculation.h"
+#include "zelmat/commands/inputs/CardInput.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/mechanics/plastic/TensileCurve.h"
 #include "zelmat/text/CountText.h"

@@ -1,7 +1,7 @@
 #include <CLI/CLI.hpp>
 
-#include "zelmat/commands/Command.h"
-#include "zelmat/commands/HistoryOrigin.h"
+#include "zelmat/commands/frame/Command.h"
+#include "zelmat/commands/reports/HistoryOrigin.h"
 #include "zelmat/documents/DocumentToChange.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/Printable.h"

@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/UnitConversion.h"
 #include "zelmat/text/NearestName.h"

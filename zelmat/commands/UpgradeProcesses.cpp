@@ -11,7 +11,7 @@
 #include <thread>
 #include <utility>
 
-#include "zelmat/commands/Progress.h"
+#include "zelmat/commands/frame/Progress.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/ShellWord.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "zelmat/commands/Command.h"
+#include "zelmat/commands/frame/Command.h"
 
 namespace zelmat {
 

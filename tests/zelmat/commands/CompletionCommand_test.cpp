@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
 #include "tests/zelmat/support/DocumentFolder.h"
-#include "zelmat/commands/CommandLine.h"
 #include "zelmat/commands/CommandTable.h"
+#include "zelmat/commands/frame/CommandLine.h"
 
 namespace {
 
