@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <deque>
 #include <set>
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/Progress.h"
 #include "zelmat/commands/frame/WriteGate.h"
@@ -32,12 +32,11 @@ struct AddedMaterial {
 /// Puts the materials of cards into a document, all of them or, with a mistake in one, none.
 class Add final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DOC", document_, "Document")->required();
-        line.add_option("CARD", paths_, "Material cards of any form, or documents; - is standard input")
-            ->required();
-        line.add_option("--model", fit_.model, "Hyperelastic fit of this model: OGDEN, ...");
-        line.add_option("--variant", fit_.variant, "Hyperelastic fit with this text in its variant");
+    void Declare(Arguments& line) override {
+        line.Add("DOC", document_, "Document").Required();
+        line.Add("CARD", paths_, "Material cards of any form, or documents; - is standard input").Required();
+        line.Add("--model", fit_.model, "Hyperelastic fit of this model: OGDEN, ...");
+        line.Add("--variant", fit_.variant, "Hyperelastic fit with this text in its variant");
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }

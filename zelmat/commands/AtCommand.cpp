@@ -1,5 +1,5 @@
-#include <CLI/CLI.hpp>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/FitOption.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -15,22 +15,21 @@ namespace {
 /// What a block of a material says at one temperature, strain, rate or closure.
 class At final : public Calculation {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         given_.Declare(line);
-        line.add_option("BLOCK", block_, "elastic, plastic, density, thermal_expansion, gasket, ...");
+        line.Add("BLOCK", block_, "elastic, plastic, density, thermal_expansion, gasket, ...");
         AddNumberOption(line, "--temperature", texts_.temperature, "Temperature: 600K, 20degC");
         AddNumberOption(line, "--plastic-strain", texts_.plasticStrain, "plastic: plastic strain: 0.1, 10%");
         AddNumberOption(line, "--strain-rate", texts_.strainRate,
                         "plastic: strain rate, where the card gives C and the reference rate: \"10 1/s\"");
         AddNumberOption(line, "--closure", texts_.closure, "gasket: closure: 0.15mm");
-        line.add_option(
-                "--outside", texts_.outside,
-                "Outside a table: error (default), constant (of hardening tables the default) or linear")
-            ->check(CLI::IsMember({"error", "constant", "linear"}));
+        line.Add("--outside", texts_.outside,
+                 "Outside a table: error (default), constant (of hardening tables the default) or linear")
+            .OneOf({"error", "constant", "linear"});
         AddNumberOption(line, "--reference-temperature", texts_.referenceTemperature,
                         "thermal_expansion: mean coefficient from this temperature");
-        line.add_flag("--instantaneous", instantaneous_,
-                      "thermal_expansion: the instantaneous coefficient, too");
+        line.AddFlag("--instantaneous", instantaneous_,
+                     "thermal_expansion: the instantaneous coefficient, too");
         fit_.Declare(line);
     }
 

@@ -1,5 +1,5 @@
-#include <CLI/CLI.hpp>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/materials/BuiltInCatalog.h"
 #include "zelmat/materials/CatalogPage.h"
@@ -36,8 +36,8 @@ nlohmann::ordered_json JsonOf(const KORCatalogType& type) {
 /// Prints the catalog that the program was built with, or one late type of it.
 class Catalog final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("TYPE", name_, "One late type: ZELElasticLT; without it, the whole catalog");
+    void Declare(Arguments& line) override {
+        line.Add("TYPE", name_, "One late type: ZELElasticLT; without it, the whole catalog");
     }
 
     void Work(CommandContext& context) override {

@@ -1,9 +1,9 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "zelmat/cards/ReadCard.h"
 #include "zelmat/checks/Checks.h"
 #include "zelmat/checks/RulesPage.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/GivenLayups.h"
@@ -49,10 +49,10 @@ Findings Named(const Findings& findings, const std::string& name) {
 /// Reads cards and documents and holds them against every rule. Writes nothing anywhere.
 class Check final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        auto* rules = line.add_flag("--rules", rules_, "Print every rule instead, as Markdown");
-        line.add_option("CARD", paths_, "Material cards, layup cards or documents; - is standard input")
-            ->excludes(rules);
+    void Declare(Arguments& line) override {
+        const Argument rules = line.AddFlag("--rules", rules_, "Print every rule instead, as Markdown");
+        line.Add("CARD", paths_, "Material cards, layup cards or documents; - is standard input")
+            .Excludes(rules);
         DeclareCardReading(line, how_);
     }
 

@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 #include <filesystem>
 
 #include "platform/disk/KORDiskCopy.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/text/Printable.h"
@@ -13,7 +13,7 @@ namespace {
 /// Writes a document anew without the room that removed features left in it.
 class Compact final : public Command {
 public:
-    void Declare(CLI::App& line) override { line.add_option("DOC", document_, "Document")->required(); }
+    void Declare(Arguments& line) override { line.Add("DOC", document_, "Document").Required(); }
 
     void Work(CommandContext& context) override {
         before_ = SizeOf(document_);

@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "zelmat/commands/CommandTable.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/CommandLine.h"
 
@@ -100,10 +100,8 @@ std::string FishScript() {
 /// Prints a script with which a shell completes the words of a command line.
 class Completion final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("SHELL", shell_, "bash, zsh or fish")
-            ->required()
-            ->check(CLI::IsMember({"bash", "zsh", "fish"}));
+    void Declare(Arguments& line) override {
+        line.Add("SHELL", shell_, "bash, zsh or fish").Required().OneOf({"bash", "zsh", "fish"});
     }
 
     void Work(CommandContext&) override {

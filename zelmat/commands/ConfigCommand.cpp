@@ -1,5 +1,5 @@
-#include <CLI/CLI.hpp>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/settings/ConfigurationFile.h"
 #include "zelmat/text/Printable.h"
@@ -13,8 +13,8 @@ namespace {
 /// Shows the user's configuration, and changes it when it is given settings: all of them or none.
 class Config final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("NAME=VALUE", changes_, "Settings to change: units=us; without a value: to unset");
+    void Declare(Arguments& line) override {
+        line.Add("NAME=VALUE", changes_, "Settings to change: units=us; without a value: to unset");
     }
 
     void Work(CommandContext& context) override {

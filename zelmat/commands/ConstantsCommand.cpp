@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <array>
 #include <cmath>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/mechanics/elastic/IsotropicElasticity.h"
@@ -83,12 +83,11 @@ private:
 /// Takes two constants of an isotropic material to the others, or looks at those of an orthotropic ply.
 class Constants final : public Calculation {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option(
-                "KEY=VALUE", given_,
-                "Two of E, nu, G, K, lambda, M, and a density for the wave speeds: E=210GPa nu=0.3; or "
-                "E1, E2, nu12 and G12 of a ply")
-            ->required();
+    void Declare(Arguments& line) override {
+        line.Add("KEY=VALUE", given_,
+                 "Two of E, nu, G, K, lambda, M, and a density for the wave speeds: E=210GPa nu=0.3; or "
+                 "E1, E2, nu12 and G12 of a ply")
+            .Required();
     }
 
 protected:

@@ -1,9 +1,9 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
 
 #include "zelmat/cards/WriteCard.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WriteGate.h"
 #include "zelmat/commands/frame/WrittenReport.h"
@@ -19,10 +19,9 @@ namespace {
 /// a mistake, of form or found by the checks, is not written; of several that go into one text then none.
 class Convert final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("CARD", paths_, "Material cards of any form, or documents; - is standard input")
-            ->required();
-        line.add_option("--to", form_, "Form to write")->required()->check(CLI::IsMember(CardFormNames()));
+    void Declare(Arguments& line) override {
+        line.Add("CARD", paths_, "Material cards of any form, or documents; - is standard input").Required();
+        line.Add("--to", form_, "Form to write").Required().OneOf(CardFormNames());
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }

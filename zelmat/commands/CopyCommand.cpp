@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "platform/disk/KORDiskCopy.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/reports/ChangeReport.h"
 #include "zelmat/documents/DocumentForm.h"
@@ -18,12 +18,11 @@ namespace {
 /// Copies a material within its document or into another one; or a whole document.
 class Copy final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DOC", document_, "Document")->required();
-        line.add_option("MATERIAL|NEW.zeldoc", what_,
-                        "What is copied; a path alone: the whole document, to there")
-            ->required();
-        line.add_option("NEW|OTHER.zeldoc", target_, "Name of the copy, or the document that it goes into");
+    void Declare(Arguments& line) override {
+        line.Add("DOC", document_, "Document").Required();
+        line.Add("MATERIAL|NEW.zeldoc", what_, "What is copied; a path alone: the whole document, to there")
+            .Required();
+        line.Add("NEW|OTHER.zeldoc", target_, "Name of the copy, or the document that it goes into");
     }
 
     void Work(CommandContext& context) override {

@@ -1,9 +1,9 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
 #include <filesystem>
 
 #include "zelmat/commands/ComparedPairs.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/inputs/GivenLayups.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -68,9 +68,9 @@ nlohmann::ordered_json SideJson(const DifferenceSide& side) {
 /// Compares materials and layups value for value.
 class Diff final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("A", before_, "Card, document, or DOC#3: the document after its step 3")->required();
-        line.add_option("B", after_, "What it is compared with")->required();
+    void Declare(Arguments& line) override {
+        line.Add("A", before_, "Card, document, or DOC#3: the document after its step 3").Required();
+        line.Add("B", after_, "What it is compared with").Required();
     }
 
     void Work(CommandContext& context) override {

@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "platform/disk/KORDoctor.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/files/UnreadableFile.h"
 #include "zelmat/text/CountText.h"
@@ -31,7 +31,7 @@ const char* CodeOf(KORDoctorFinding::Kind kind) {
 /// Examines documents row by row and tells what is wrong inside. Repairs nothing.
 class Doctor final : public Command {
 public:
-    void Declare(CLI::App& line) override { line.add_option("DOC", documents_, "Documents")->required(); }
+    void Declare(Arguments& line) override { line.Add("DOC", documents_, "Documents").Required(); }
 
     void Work(CommandContext& context) override {
         for (const std::string& document : documents_) {

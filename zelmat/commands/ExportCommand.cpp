@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WriteGate.h"
 #include "zelmat/commands/frame/WrittenReport.h"
@@ -27,16 +27,16 @@ std::vector<std::string> FormNames() {
 /// Writes the materials of cards and documents, and layups of layup cards, as input of a solver.
 class Export final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        auto* page = line.add_flag("--carries", page_, "Print instead what each solver gets, as Markdown");
-        line.add_option(
-                "CARD|DOC", paths_,
-                "Material cards, documents, layup cards; behind one alone, which of its materials or\n"
-                "layups")
-            ->excludes(page);
-        line.add_option("--to", form_, "Solver")->check(CLI::IsMember(FormNames()))->excludes(page);
-        line.add_option("--model", fit_.model, "Hyperelastic model to carry");
-        line.add_option("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to carry");
+    void Declare(Arguments& line) override {
+        const Argument page =
+            line.AddFlag("--carries", page_, "Print instead what each solver gets, as Markdown");
+        line.Add("CARD|DOC", paths_,
+                 "Material cards, documents, layup cards; behind one alone, which of its materials or\n"
+                 "layups")
+            .Excludes(page);
+        line.Add("--to", form_, "Solver").OneOf(FormNames()).Excludes(page);
+        line.Add("--model", fit_.model, "Hyperelastic model to carry");
+        line.Add("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to carry");
         gate_.Declare(line);
     }
 

@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "zelmat/cards/WriteCard.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -16,11 +16,9 @@ namespace {
 /// Writes a material or a layup of a document as a card.
 class Extract final : public Command {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         what_.Declare(line);
-        line.add_option("--to", form_, "Form of the card")
-            ->check(CLI::IsMember(CardFormNames()))
-            ->capture_default_str();
+        line.Add("--to", form_, "Form of the card").OneOf(CardFormNames()).ShowsDefault();
     }
 
     void Work(CommandContext& context) override {

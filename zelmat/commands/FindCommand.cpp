@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -14,11 +14,10 @@ namespace {
 /// The materials of a document that meet conditions.
 class Find final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("CARD|DOC", path_, "Document, or material card; - is standard input")->required();
-        line.add_option("CONDITION", conditions_,
-                        "\"density<3000kg/m3 and elastic.youngs_modulus@20degC>60GPa\"")
-            ->required();
+    void Declare(Arguments& line) override {
+        line.Add("CARD|DOC", path_, "Document, or material card; - is standard input").Required();
+        line.Add("CONDITION", conditions_, "\"density<3000kg/m3 and elastic.youngs_modulus@20degC>60GPa\"")
+            .Required();
         DeclareCardReading(line, how_);
     }
 

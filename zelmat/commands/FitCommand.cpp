@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "zelmat/commands/FitStore.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/FitInput.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
@@ -49,17 +49,17 @@ std::vector<std::string> KnownModels() {
 /// Finds the coefficients of a potential, or of a hardening law, behind measured points.
 class Fit final : public Calculation {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         input_.Declare(line);
         store_.Declare(line);
-        auto* model = line.add_option("--model", model_,
-                                      "OGDEN, YEOH, ...; of metals ludwik, swift, voce or johnson-cook");
-        line.add_option("--order", order_, "Number of terms of OGDEN, POLYNOMIAL or REDUCED_POLYNOMIAL");
-        line.add_flag("--all-models", all_, "Fit every model and rank them")->excludes(model);
-        auto* relative =
-            line.add_flag("--relative", relative_,
-                          "Make relative deviations small (default); points of zero stress do not count");
-        line.add_flag("--absolute", absolute_, "Make the deviations themselves small")->excludes(relative);
+        const Argument model =
+            line.Add("--model", model_, "OGDEN, YEOH, ...; of metals ludwik, swift, voce or johnson-cook");
+        line.Add("--order", order_, "Number of terms of OGDEN, POLYNOMIAL or REDUCED_POLYNOMIAL");
+        line.AddFlag("--all-models", all_, "Fit every model and rank them").Excludes(model);
+        const Argument relative =
+            line.AddFlag("--relative", relative_,
+                         "Make relative deviations small (default); points of zero stress do not count");
+        line.AddFlag("--absolute", absolute_, "Make the deviations themselves small").Excludes(relative);
     }
 
 protected:

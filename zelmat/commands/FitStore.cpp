@@ -1,8 +1,8 @@
 #include "zelmat/commands/FitStore.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/commands/reports/ChangeReport.h"
 #include "zelmat/commands/reports/FittedBlock.h"
@@ -23,8 +23,8 @@ int GreatestOrder() {
 
 }  // namespace
 
-void FitStore::Declare(CLI::App& line) {
-    line.add_flag("--store", wanted_, "Store the fit in the material of the document, as one step");
+void FitStore::Declare(Arguments& line) {
+    line.AddFlag("--store", wanted_, "Store the fit in the material of the document, as one step");
     gate_.Declare(line);
 }
 

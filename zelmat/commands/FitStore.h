@@ -16,13 +16,15 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// `fit --store`: puts a fitted potential or hardening law into a material of a document, as one step that
 /// undo takes back. The document is open for change from before it is read, so that nobody changes it in
 /// between. A potential that was stored before stays among the material's fits; a law takes the place of the
 /// plastic block.
 class FitStore {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
     bool IsWanted() const { return wanted_; }
 
     /// The material as it stands in the document. Nothing, and findings, when it cannot be changed.

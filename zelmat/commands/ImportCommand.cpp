@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "zelmat/cards/CardJson.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WriteGate.h"
 #include "zelmat/commands/frame/WrittenReport.h"
@@ -16,10 +16,10 @@ namespace {
 /// Brings the materials of a solver's deck into a card.
 class Import final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DECK", deck_, "CalculiX deck; - is standard input")->required();
-        line.add_option("--layup", layup_,
-                        "Read the composite shell section of this element set into a layup card instead");
+    void Declare(Arguments& line) override {
+        line.Add("DECK", deck_, "CalculiX deck; - is standard input").Required();
+        line.Add("--layup", layup_,
+                 "Read the composite shell section of this element set into a layup card instead");
         gate_.Declare(line);
     }
 

@@ -1,4 +1,3 @@
-#include <CLI/CLI.hpp>
 
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/LaminateInput.h"
@@ -18,7 +17,7 @@ constexpr const char* kConvention =
 /// The stiffness of a laminate by classical lamination theory, and what it does under a load.
 class LaminateOfPlies final : public Calculation {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         input_.Declare(line);
         load_.Declare(line);
     }

@@ -1,9 +1,9 @@
 #include "zelmat/commands/LayupActions.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <map>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/GivenLayups.h"
 #include "zelmat/commands/reports/LayupReport.h"
 #include "zelmat/documents/DocumentToRead.h"
@@ -73,12 +73,11 @@ bool IsFile(const std::string& path) {
 
 }  // namespace
 
-void LayupActions::Declare(CLI::App& line) {
-    line.add_option("ACTION", action_, "With a document: list, show, add, set, remove")
-        ->check(CLI::IsMember({"list", "show", "add", "set", "remove"}));
-    line.add_option("NAME", name_,
-                    "Of a layup of the document; a beginning, or #number. add CARD: the card's");
-    line.add_option("STACK", stack_, "To add or set: stacking notation, or layup card");
+void LayupActions::Declare(Arguments& line) {
+    line.Add("ACTION", action_, "With a document: list, show, add, set, remove")
+        .OneOf({"list", "show", "add", "set", "remove"});
+    line.Add("NAME", name_, "Of a layup of the document; a beginning, or #number. add CARD: the card's");
+    line.Add("STACK", stack_, "To add or set: stacking notation, or layup card");
 }
 
 void LayupActions::Work(CommandContext& context, const std::string& path, const ReadStack& read) {

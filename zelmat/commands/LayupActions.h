@@ -12,11 +12,13 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// What `zelmat layup` does with the layups that a document keeps: list, show, add, set, remove. Their plies
 /// are links to materials of the document.
 class LayupActions {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     /// Whether an action was asked for.
     bool IsAsked() const { return !action_.empty(); }

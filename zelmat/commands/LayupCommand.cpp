@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "zelmat/commands/LayupActions.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/ChosenUnits.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WriteGate.h"
@@ -48,16 +48,14 @@ std::optional<double> ReadThickness(const std::string& text, Findings& findings)
 /// checks it, prints it and draws it. Keeps nothing on disk but the drawing.
 class Layup final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("NOTATION|CARD|DOC", layup_, "Stacking notation, layup card, or document")
-            ->required();
+    void Declare(Arguments& line) override {
+        line.Add("NOTATION|CARD|DOC", layup_, "Stacking notation, layup card, or document").Required();
         actions_.Declare(line);
-        line.add_option("--material", material_, "Material of a notation's plies");
-        line.add_option("--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
-        line.add_option("--section", section_,
-                        "Reference the layup from a shell section: composite or homogeneous")
-            ->check(CLI::IsMember({"composite", "homogeneous"}));
-        line.add_option("--svg", drawing_, "Draw the stack into this SVG file");
+        line.Add("--material", material_, "Material of a notation's plies");
+        line.Add("--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
+        line.Add("--section", section_, "Reference the layup from a shell section: composite or homogeneous")
+            .OneOf({"composite", "homogeneous"});
+        line.Add("--svg", drawing_, "Draw the stack into this SVG file");
         gate_.Declare(line);
     }
 

@@ -1,5 +1,5 @@
-#include <CLI/CLI.hpp>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -43,8 +43,8 @@ std::vector<std::string> OtherData(const Material& material) {
 /// One line for each material of a document, and one for each layup.
 class List final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("CARD|DOC", path_, "Document, or material card; - is standard input")->required();
+    void Declare(Arguments& line) override {
+        line.Add("CARD|DOC", path_, "Document, or material card; - is standard input").Required();
         DeclareCardReading(line, how_);
     }
 

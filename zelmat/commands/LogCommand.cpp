@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "platform/disk/KORDiskDocument.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/documents/DocumentForm.h"
 #include "zelmat/files/UnreadableFile.h"
@@ -15,7 +15,7 @@ namespace {
 /// The steps that a document keeps. Reads the file and looks at nothing else of it.
 class Log final : public Command {
 public:
-    void Declare(CLI::App& line) override { line.add_option("DOC", document_, "Document")->required(); }
+    void Declare(Arguments& line) override { line.Add("DOC", document_, "Document").Required(); }
 
     void Work(CommandContext& context) override {
         if (IsTextDocumentFile(document_)) {

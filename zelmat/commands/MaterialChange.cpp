@@ -1,12 +1,12 @@
 #include "zelmat/commands/MaterialChange.h"
 
-#include <CLI/CLI.hpp>
+#include "zelmat/commands/frame/Arguments.h"
 
 namespace zelmat {
 
-void MaterialChange::Declare(CLI::App& line) {
-    line.add_option("DOC", document_, "Document")->required();
-    line.add_option("MATERIAL", wanted_, "Its name, a beginning that no other has, or #number")->required();
+void MaterialChange::Declare(Arguments& line) {
+    line.Add("DOC", document_, "Document").Required();
+    line.Add("MATERIAL", wanted_, "Its name, a beginning that no other has, or #number").Required();
     DeclareFurther(line);
 }
 

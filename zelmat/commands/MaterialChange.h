@@ -4,17 +4,19 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// The frame of a command that changes one material of a document, in one step: `DOC MATERIAL`, and what the
 /// command itself takes.
 class MaterialChange : public Command {
 public:
-    void Declare(CLI::App& line) final;
+    void Declare(Arguments& line) final;
     void Work(CommandContext& context) final;
     void Print(std::ostream& out) const override;
     nlohmann::ordered_json Json() const override;
 
 protected:
-    virtual void DeclareFurther(CLI::App& line) = 0;
+    virtual void DeclareFurther(Arguments& line) = 0;
 
     /// What the step is called.
     virtual std::string StepName(const DocumentMaterial& material) const = 0;

@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <optional>
 
 #include "zelmat/cards/CardSchema.h"
 #include "zelmat/cards/CardTemplate.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/commands/reports/HistoryOrigin.h"
@@ -18,10 +18,10 @@ namespace {
 /// Makes an empty document; or writes a card to fill in, or the schema that all cards follow.
 class New final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DOC", document_, "Path of a document to make");
-        auto* card = line.add_option("--card", name_, "Name of the material; a card for it is written");
-        line.add_flag("--schema", schema_, "Write the JSON Schema of cards instead")->excludes(card);
+    void Declare(Arguments& line) override {
+        line.Add("DOC", document_, "Path of a document to make");
+        const Argument card = line.Add("--card", name_, "Name of the material; a card for it is written");
+        line.AddFlag("--schema", schema_, "Write the JSON Schema of cards instead").Excludes(card);
     }
 
     void Work(CommandContext& context) override {

@@ -1,8 +1,8 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iterator>
 
 #include "zelmat/commands/PictureOutput.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/ChosenUnits.h"
 #include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/commands/inputs/PlotInput.h"
@@ -23,19 +23,16 @@ constexpr const char* kLaminate = "laminate";
 /// Draws what materials and layups hold. Keeps nothing but the pictures.
 class Plot final : public Command {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         given_.Declare(line);
-        line.add_option(
-            "--block", block_,
-            "Only what this block of the card holds: elastic, ...; of a layup: stack or laminate");
-        line.add_option("--compare", others_,
-                        "Draw all materials into one picture for each property, with those of further cards "
-                        "and documents")
-            ->expected(0, -1)
-            ->trigger_on_parse()
-            ->each([this](const std::string&) { compares_ = true; });
-        line.add_flag("--keep-script", keepScript_,
-                      "Keep gnuplot's script, which holds the data, beside the pictures");
+        line.Add("--block", block_,
+                 "Only what this block of the card holds: elastic, ...; of a layup: stack or laminate");
+        line.Add("--compare", others_,
+                 "Draw all materials into one picture for each property, with those of further cards "
+                 "and documents")
+            .NoneOrMore(compares_);
+        line.AddFlag("--keep-script", keepScript_,
+                     "Keep gnuplot's script, which holds the data, beside the pictures");
     }
 
     void Work(CommandContext& context) override {

@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -22,16 +22,14 @@ std::string Shown(double number, int digits) {
 /// Runs a solver on a material's deck and holds the results against the formulas.
 class Prove final : public Command {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         given_.Declare(line);
-        line.add_option("--solver", solver_, "The solver's program: ccx, or a path of it")->required();
-        line.add_option("--model", fit_.model, "Hyperelastic model to prove");
-        line.add_option("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to prove");
-        line.add_option("--timeout", timeout_, "Seconds that one run of the solver may take")
-            ->check(CLI::Range(1, 86'400));
-        line.add_option("--deck", deck_,
-                        "Prove the material cards of this CalculiX deck, not those of export");
-        line.add_option("--keep-deck", keep_, "Folder in which the models that are run are kept");
+        line.Add("--solver", solver_, "The solver's program: ccx, or a path of it").Required();
+        line.Add("--model", fit_.model, "Hyperelastic model to prove");
+        line.Add("--variant", fit_.variant, "Part of the variant of the hyperelastic fit to prove");
+        line.Add("--timeout", timeout_, "Seconds that one run of the solver may take").Within(1, 86'400);
+        line.Add("--deck", deck_, "Prove the material cards of this CalculiX deck, not those of export");
+        line.Add("--keep-deck", keep_, "Folder in which the models that are run are kept");
     }
 
     void Work(CommandContext& context) override {

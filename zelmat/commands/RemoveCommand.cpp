@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 
 #include "zelmat/commands/MaterialChange.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/documents/MaterialUses.h"
 #include "zelmat/text/WordList.h"
 
@@ -11,8 +11,8 @@ namespace {
 /// Takes a material out of a document, with all that hangs on it.
 class Remove final : public MaterialChange {
 protected:
-    void DeclareFurther(CLI::App& line) override {
-        line.add_flag("--force", force_, "Remove it though layups use it");
+    void DeclareFurther(Arguments& line) override {
+        line.AddFlag("--force", force_, "Remove it though layups use it");
     }
 
     std::string StepName(const DocumentMaterial& material) const override {

@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 
 #include "interfaces/KORIAlias.h"
 #include "zelmat/commands/MaterialChange.h"
+#include "zelmat/commands/frame/Arguments.h"
 
 namespace zelmat {
 
@@ -10,9 +10,7 @@ namespace {
 /// Gives a material of a document another name. Whatever refers to it still does.
 class Rename final : public MaterialChange {
 protected:
-    void DeclareFurther(CLI::App& line) override {
-        line.add_option("NEW", name_, "The new name")->required();
-    }
+    void DeclareFurther(Arguments& line) override { line.Add("NEW", name_, "The new name").Required(); }
 
     std::string StepName(const DocumentMaterial& material) const override {
         return "Rename " + material.name + " to " + name_;

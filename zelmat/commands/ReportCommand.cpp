@@ -1,10 +1,10 @@
-#include <CLI/CLI.hpp>
 #include <array>
 #include <cstdio>
 
 #include "zelmat/commands/PagePrinting.h"
 #include "zelmat/commands/ReportChanges.h"
 #include "zelmat/commands/ReportGathering.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/ChosenUnits.h"
 #include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/documents/DocumentForm.h"
@@ -29,12 +29,12 @@ std::string SizeText(std::size_t bytes) {
 /// Makes one page of data sheets of everything that it is given.
 class Report final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("CARD|DOC", paths_, "Material cards, layup cards, documents")->required();
-        line.add_option("--title", title_, "Of the page; else what it is given");
-        line.add_option("--since", since_, "Also list what has changed in the document since its step N")
-            ->type_name("N");
-        line.add_option("--pdf", pdf_, "The same as a PDF on A4, through chromium");
+    void Declare(Arguments& line) override {
+        line.Add("CARD|DOC", paths_, "Material cards, layup cards, documents").Required();
+        line.Add("--title", title_, "Of the page; else what it is given");
+        line.Add("--since", since_, "Also list what has changed in the document since its step N")
+            .NamedInHelp("N");
+        line.Add("--pdf", pdf_, "The same as a PDF on A4, through chromium");
     }
 
     bool TakesStandardOutput() const override { return pdf_ == "-"; }

@@ -1,6 +1,6 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/FitOption.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
@@ -29,12 +29,11 @@ std::string Word(std::string_view keyword) {
 /// What a set of coefficients answers, mode by mode.
 class Response final : public Calculation {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         given_.Declare(line);
-        line.add_option(
-                "--mode", mode_,
-                "How the specimen is loaded: uniaxial, equibiaxial, planar or shear; else the first three")
-            ->check(CLI::IsMember({"uniaxial", "equibiaxial", "planar", "shear"}));
+        line.Add("--mode", mode_,
+                 "How the specimen is loaded: uniaxial, equibiaxial, planar or shear; else the first three")
+            .OneOf({"uniaxial", "equibiaxial", "planar", "shear"});
         stretches_.Declare(line);
         AddNumberOption(line, "--temperature", temperature_,
                         "Temperature of coefficients that depend on it: 20degC");

@@ -1,9 +1,9 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "zelmat/cards/CardEdit.h"
 #include "zelmat/cards/CardJson.h"
 #include "zelmat/commands/MaterialChange.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/WriteGate.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/materials/CardExtras.h"
@@ -47,8 +47,8 @@ public:
     }
 
 protected:
-    void DeclareFurther(CLI::App& line) override {
-        line.add_option("KEY=VALUE", changes_, "density=\"7.85 g/cm^3\", plastic=curve.csv, ...")->required();
+    void DeclareFurther(Arguments& line) override {
+        line.Add("KEY=VALUE", changes_, "density=\"7.85 g/cm^3\", plastic=curve.csv, ...").Required();
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }

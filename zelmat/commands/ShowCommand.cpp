@@ -1,10 +1,10 @@
-#include <CLI/CLI.hpp>
 #include <deque>
 #include <optional>
 #include <utility>
 
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/commands/CallTrace.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/CsvReport.h"
 #include "zelmat/commands/frame/JsonReport.h"
@@ -28,16 +28,16 @@ struct ShownMaterial {
 /// from there. Nothing is kept on disk.
 class Show final : public Command {
 public:
-    void Declare(CLI::App& line) override {
+    void Declare(Arguments& line) override {
         what_.Declare(line);
-        auto* model = line.add_option("--model", fit_.model, "Hyperelastic fit of this model: OGDEN, ...");
-        auto* variant =
-            line.add_option("--variant", fit_.variant, "Hyperelastic fit with this text in its variant");
-        line.add_flag("--all-models", allFits_, "Store and show each hyperelastic fit of a card in turn")
-            ->excludes(model)
-            ->excludes(variant);
+        const Argument model = line.Add("--model", fit_.model, "Hyperelastic fit of this model: OGDEN, ...");
+        const Argument variant =
+            line.Add("--variant", fit_.variant, "Hyperelastic fit with this text in its variant");
+        line.AddFlag("--all-models", allFits_, "Store and show each hyperelastic fit of a card in turn")
+            .Excludes(model)
+            .Excludes(variant);
         gate_.Declare(line);
-        line.add_flag("--trace", trace_, "Print each call of a material interface on standard error");
+        line.AddFlag("--trace", trace_, "Print each call of a material interface on standard error");
     }
 
     void Work(CommandContext& context) override {

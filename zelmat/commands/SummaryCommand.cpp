@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 #include <deque>
 
 #include "zelmat/cards/FitChoice.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/JsonReport.h"
 #include "zelmat/commands/frame/WriteGate.h"
@@ -56,9 +56,8 @@ void PrintTable(std::ostream& out, const std::deque<StoredMaterial>& materials) 
 /// its findings say why. Keeps nothing on disk.
 class Summary final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("CARD", paths_, "Material cards of any form, or documents; - is standard input")
-            ->required();
+    void Declare(Arguments& line) override {
+        line.Add("CARD", paths_, "Material cards of any form, or documents; - is standard input").Required();
         DeclareCardReading(line, how_);
         gate_.Declare(line);
     }

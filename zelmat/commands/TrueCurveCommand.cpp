@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 #include <cmath>
 
 #include "zelmat/cards/MeasuredCsv.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
@@ -18,12 +18,11 @@ using mechanics::StressStrain;
 /// Makes a measured tensile curve ready for a simulation: true stress over plastic strain, up to necking.
 class TrueCurve final : public Calculation {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("CSV", path_, "Points of the test: EngineeringStrain [-],EngineeringStress [MPa]")
-            ->required();
-        AddNumberOption(line, "--youngs-modulus", modulus_, "Young's modulus: 210GPa")->required();
-        AddNumberOption(line, "--offset", offset_, "Plastic strain of the offset yield point")
-            ->capture_default_str();
+    void Declare(Arguments& line) override {
+        line.Add("CSV", path_, "Points of the test: EngineeringStrain [-],EngineeringStress [MPa]")
+            .Required();
+        AddNumberOption(line, "--youngs-modulus", modulus_, "Young's modulus: 210GPa").Required();
+        AddNumberOption(line, "--offset", offset_, "Plastic strain of the offset yield point").ShowsDefault();
         DeclareCardReading(line, how_);
     }
 

@@ -1,5 +1,5 @@
-#include <CLI/CLI.hpp>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/reports/HistoryOrigin.h"
 #include "zelmat/documents/DocumentToChange.h"
@@ -25,11 +25,9 @@ constexpr Direction kRedo = {"redo", "redone", "nothing-to-redo", &KORMemoryDocu
 template <const Direction& kDirection>
 class Move final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DOC", document_, "Document")->required();
-        line.add_option("N", count_, "How many steps")
-            ->check(CLI::Range(1, 1'000'000'000))
-            ->capture_default_str();
+    void Declare(Arguments& line) override {
+        line.Add("DOC", document_, "Document").Required();
+        line.Add("N", count_, "How many steps").Within(1, 1'000'000'000).ShowsDefault();
     }
 
     void Work(CommandContext& context) override {

@@ -1,7 +1,7 @@
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <optional>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/UnitConversion.h"
@@ -46,10 +46,10 @@ std::vector<std::string> Names() {
 /// knows no material: whether a number is likely is not its business.
 class Units final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        auto* number = line.add_option("NUMBER", number_, "A number with its unit: \"210 GPa\"");
-        line.add_option("UNIT", unit_, "The unit to convert it to: psi")->needs(number);
-        line.add_option("--list", list_, "List the units of a quantity, or of all")->excludes(number);
+    void Declare(Arguments& line) override {
+        const Argument number = line.Add("NUMBER", number_, "A number with its unit: \"210 GPa\"");
+        line.Add("UNIT", unit_, "The unit to convert it to: psi").Needs(number);
+        line.Add("--list", list_, "List the units of a quantity, or of all").Excludes(number);
     }
 
     void Work(CommandContext& context) override {

@@ -1,9 +1,9 @@
-#include <CLI/CLI.hpp>
 #include <optional>
 
 #include "platform/analysis/KORUnitsService.h"
 #include "platform/document/KORTextDocument.h"
 #include "zelmat/commands/UpgradeProcesses.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/frame/WrittenReport.h"
 #include "zelmat/commands/inputs/WrongForm.h"
@@ -68,12 +68,12 @@ std::optional<WrittenFile> WriteDocument(const KORTextDocument& text, const std:
 /// its own.
 class Upgrade final : public Command {
 public:
-    void Declare(CLI::App& line) override {
-        line.add_option("DOC", documents_, "Documents, or one in its text form")->required();
-        line.add_flag("--dry-run", dryRun_, "Tell what would change and save nothing");
-        line.add_option("--pressure-unit", pressureUnit_,
-                        "Unit of the coefficients in a document that names no unit of pressure")
-            ->check(CLI::IsMember(PressureUnits()));
+    void Declare(Arguments& line) override {
+        line.Add("DOC", documents_, "Documents, or one in its text form").Required();
+        line.AddFlag("--dry-run", dryRun_, "Tell what would change and save nothing");
+        line.Add("--pressure-unit", pressureUnit_,
+                 "Unit of the coefficients in a document that names no unit of pressure")
+            .OneOf(PressureUnits());
     }
 
     void Work(CommandContext& context) override {

@@ -8,11 +8,9 @@
 #include "zelmat/findings/Findings.h"
 #include "zelmat/quantities/UnitChoice.h"
 
-namespace CLI {
-class App;
-}
-
 namespace zelmat {
+
+class Arguments;
 
 /// The options that mean the same on every command that has them, as the user gave them.
 struct CommonOptions {
@@ -30,7 +28,7 @@ struct CommandContext {
     const CommonOptions& options;
     const UnitChoice& units;  ///< of the numbers shown, as options and configuration choose them
     Findings& findings;
-    std::ostream& notes;  ///< standard error, for what is neither result nor finding
+    std::ostream& notes;           ///< standard error, for what is neither result nor finding
     std::string commandLine = {};  ///< as it was given, for a shell
 };
 
@@ -42,7 +40,7 @@ public:
     virtual ~Command() = default;
 
     /// Adds the command's own arguments and options.
-    virtual void Declare(CLI::App& line) = 0;
+    virtual void Declare(Arguments& line) = 0;
 
     virtual void Work(CommandContext& context) = 0;
 
@@ -50,8 +48,8 @@ public:
     /// goes to standard error then.
     virtual bool TakesStandardOutput() const { return false; }
 
-    /// The exit code that the result itself asks for, where there is nothing to find fault with: that what was
-    /// compared differs.
+    /// The exit code that the result itself asks for, where there is nothing to find fault with: that what
+    /// was compared differs.
     virtual ExitCode Outcome() const { return EXIT_CLEAN; }
 
     /// What the work came to, for a reader; nothing when it came to nothing.

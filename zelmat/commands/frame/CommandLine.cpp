@@ -1,11 +1,11 @@
 #include "zelmat/commands/frame/CommandLine.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
 
 #include "zelmat/commands/CommandTable.h"
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/text/NearestName.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/WordList.h"
@@ -25,33 +25,28 @@ Finding Usage(const std::string& place, const char* code, std::string text,
     return {FindingKind::USAGE, {place, 0}, code, std::move(text), std::move(details)};
 }
 
-void Declare(CLI::App& line, const CommandKind& kind, CommonOptions& options, Command& command) {
-    command.Declare(line);
-    options.catalogs = CatalogsOfThisProgram();
-    if (!kind.output.empty()) line.add_option("--output", options.output, kind.output);
-    auto* json = line.add_flag("--json", options.json, "Print one JSON object, findings included");
-    if (kind.csv) line.add_flag("--csv", options.csv, "Print the tables as CSV")->excludes(json);
-    if (kind.units) {
-        line.add_option("--units", options.units,
-                        "Units of the numbers shown: si, mm-t-s, mm-kg-ms, us, stress=MPa,temperature=degC");
+/// The line of a command, with its own arguments and those of the frame.
+class DeclaredLine : public Arguments {
+public:
+    DeclaredLine(const CommandKind& kind, CommonOptions& options, Command& command)
+        : Arguments("zelmat " + kind.name, kind.text) {
+        command.Declare(*this);
+        options.catalogs = CatalogsOfThisProgram();
+        if (!kind.output.empty()) Add("--output", options.output, kind.output);
+        const Argument json = AddFlag("--json", options.json, "Print one JSON object, findings included");
+        if (kind.csv) AddFlag("--csv", options.csv, "Print the tables as CSV").Excludes(json);
+        if (kind.units) {
+            Add("--units", options.units,
+                "Units of the numbers shown: si, mm-t-s, mm-kg-ms, us, stress=MPa,temperature=degC");
+        }
+        AddFlag("--strict", options.strict, "End with exit code 1 for warnings, too");
+        Add("--catalogs", options.catalogs, "Folder of the feature catalogs")
+            .ShowsDefault(Printable(options.catalogs));
+        Add("--color", options.color, "Colours: auto (on a terminal, unless NO_COLOR is set), always, never")
+            .OneOf({"auto", "always", "never"})
+            .ShowsDefault();
     }
-    line.add_flag("--strict", options.strict, "End with exit code 1 for warnings, too");
-    line.add_option("--catalogs", options.catalogs, "Folder of the feature catalogs")
-        ->default_str(Printable(options.catalogs));
-    line.add_option("--color", options.color,
-                    "Colours: auto (on a terminal, unless NO_COLOR is set), always, never")
-        ->check(CLI::IsMember({"auto", "always", "never"}))
-        ->capture_default_str();
-}
-
-std::vector<std::string> OptionNames(const CLI::App& line) {
-    std::vector<std::string> names;
-    for (const CLI::Option* option : line.get_options()) {
-        for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
-        for (const std::string& name : option->get_snames()) names.push_back("-" + name);
-    }
-    return names;
-}
+};
 
 bool LooksLikeAnOption(const std::string& argument) {
     const bool longOne = argument.size() > 2 && argument.starts_with("--");
@@ -60,15 +55,15 @@ bool LooksLikeAnOption(const std::string& argument) {
 }
 
 /// Looked for before anything else: a misspelt option makes the arguments behind it look wrong, too.
-std::optional<Finding> UnknownOption(const CLI::App& line, const std::vector<std::string>& arguments) {
-    const auto known = OptionNames(line);
+std::optional<Finding> UnknownOption(const CommandKind& kind, const std::vector<std::string>& known,
+                                     const std::vector<std::string>& arguments) {
     for (const std::string& argument : arguments) {
         if (argument == "--") break;
         if (!LooksLikeAnOption(argument)) continue;
         const std::string name = argument.substr(0, argument.find('='));
         if (std::find(known.begin(), known.end(), name) != known.end()) continue;
         const std::string nearest = NearestName(name, known);
-        return Usage(line.get_name(), "unknown-option", "there is no option " + Quoted(name),
+        return Usage("zelmat " + kind.name, "unknown-option", "there is no option " + Quoted(name),
                      {nearest.empty() ? "known: " + WordList(known) : "did you mean " + nearest + "?"});
     }
     return std::nullopt;
@@ -85,18 +80,15 @@ void WriteZeroBeforePoint(std::string& argument) {
 
 CommandLine ReadCommandLine(const CommandKind& kind, Command& command, std::vector<std::string> arguments) {
     CommandLine read;
-    CLI::App line(kind.text, "zelmat " + kind.name);
-    Declare(line, kind, read.options, command);
-    read.mistake = UnknownOption(line, arguments);
+    DeclaredLine line(kind, read.options, command);
+    read.mistake = UnknownOption(kind, line.OptionNames(), arguments);
     if (read.mistake) return read;
     std::ranges::for_each(arguments, WriteZeroBeforePoint);
-    try {
-        std::reverse(arguments.begin(), arguments.end());  // as the parser takes them
-        line.parse(arguments);
-    } catch (const CLI::CallForHelp&) {
-        read.help = line.help();
-    } catch (const CLI::ParseError& error) {
-        read.mistake = Usage(line.get_name(), "usage", error.what(), {"see zelmat help " + kind.name});
+    const Arguments::Outcome outcome = line.Read(std::move(arguments));
+    if (outcome.asksForHelp) read.help = line.Help();
+    if (!outcome.mistake.empty()) {
+        read.mistake =
+            Usage("zelmat " + kind.name, "usage", outcome.mistake, {"see zelmat help " + kind.name});
     }
     return read;
 }
@@ -104,17 +96,13 @@ CommandLine ReadCommandLine(const CommandKind& kind, Command& command, std::vect
 std::string CommandHelp(const CommandKind& kind) {
     CommonOptions options;
     const auto command = kind.make();
-    CLI::App line(kind.text, "zelmat " + kind.name);
-    Declare(line, kind, options, *command);
-    return line.help();
+    return DeclaredLine(kind, options, *command).Help();
 }
 
 std::vector<std::string> CommandOptions(const CommandKind& kind) {
     CommonOptions options;
     const auto command = kind.make();
-    CLI::App line(kind.text, "zelmat " + kind.name);
-    Declare(line, kind, options, *command);
-    return OptionNames(line);
+    return DeclaredLine(kind, options, *command).OptionNames();
 }
 
 std::string ProgramHelp() {

@@ -23,7 +23,7 @@ namespace zelmat {
 
 namespace {
 
-using Arguments = std::vector<std::string>;
+using Words = std::vector<std::string>;
 
 ExitCode EndWith(const Findings& findings, const CommonOptions& options) {
     const bool colored = IsColored(STDERR_FILENO, options.color);
@@ -61,7 +61,7 @@ void PrintJson(std::ostream& out, const CommandKind* command, const nlohmann::or
 }
 
 /// Looked for by itself: a command line that is wrong has not been read.
-bool WantsJson(const Arguments& arguments) {
+bool WantsJson(const Words& arguments) {
     const auto end = std::find(arguments.begin(), arguments.end(), "--");
     return std::find(arguments.begin(), end, "--json") != end;
 }
@@ -74,7 +74,7 @@ ExitCode EndWithMistake(const CommandKind* command, const Finding& mistake, bool
     return findings.Exit();
 }
 
-ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
+ExitCode RunCommand(const CommandKind& kind, Words arguments) {
     const auto command = kind.make();
     const bool json = WantsJson(arguments);
     std::string text = "zelmat " + kind.name;
@@ -106,7 +106,7 @@ ExitCode RunCommand(const CommandKind& kind, Arguments arguments) {
 }
 
 /// `zelmat help`, `zelmat help COMMAND`
-ExitCode Help(const Arguments& arguments) {
+ExitCode Help(const Words& arguments) {
     if (arguments.empty()) {
         std::cout << ProgramHelp();
         return EXIT_CLEAN;
@@ -121,7 +121,7 @@ ExitCode Help(const Arguments& arguments) {
     return EXIT_CLEAN;
 }
 
-ExitCode Run(Arguments arguments) {
+ExitCode Run(Words arguments) {
     if (arguments.empty()) {
         std::cerr << ProgramHelp();
         return EXIT_USAGE;
@@ -153,7 +153,7 @@ void TakeClosedDescriptors() {
 int RunProgram(int argc, char** argv) noexcept {
     try {
         TakeClosedDescriptors();
-        const ExitCode code = Run(Arguments(argv + (argc > 0 ? 1 : 0), argv + argc));
+        const ExitCode code = Run(Words(argv + (argc > 0 ? 1 : 0), argv + argc));
         Findings lost;
         return FlushOutput(lost) ? code : EndWith(lost, CommonOptions{});
     } catch (const std::exception& problem) {

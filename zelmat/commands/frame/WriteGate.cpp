@@ -1,14 +1,14 @@
 #include "zelmat/commands/frame/WriteGate.h"
 
-#include <CLI/CLI.hpp>
 #include <set>
 
 #include "zelmat/checks/Checks.h"
+#include "zelmat/commands/frame/Arguments.h"
 
 namespace zelmat {
 
-void WriteGate::Declare(CLI::App& line) {
-    line.add_flag("--keep-going", keepGoing_, "Go on with a card on which the checks find errors");
+void WriteGate::Declare(Arguments& line) {
+    line.AddFlag("--keep-going", keepGoing_, "Go on with a card on which the checks find errors");
 }
 
 bool WriteGate::Passes(const Material& material, Findings& findings) const {

@@ -4,17 +4,15 @@
 #include "zelmat/layups/LayupCard.h"
 #include "zelmat/materials/Material.h"
 
-namespace CLI {
-class App;
-}
-
 namespace zelmat {
+
+class Arguments;
 
 /// Stands before whatever a command writes of a material or layup: it runs the checks, and errors stop the
 /// write unless the user wants it all the same.
 class WriteGate {
 public:
-    void Declare(CLI::App& line);  ///< --keep-going
+    void Declare(Arguments& line);  ///< --keep-going
 
     /// Adds what the checks find. False: nothing of the material is to be written.
     bool Passes(const Material& material, Findings& findings) const;

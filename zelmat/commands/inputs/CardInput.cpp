@@ -1,12 +1,12 @@
 #include "zelmat/commands/inputs/CardInput.h"
 
-#include <CLI/CLI.hpp>
+#include "zelmat/commands/frame/Arguments.h"
 
 namespace zelmat {
 
-void DeclareCardReading(CLI::App& line, CardReading& how) {
-    line.add_flag("--decimal-comma", how.decimalComma,
-                  "Numbers of a CSV card have a decimal comma (then ; or a tab sets columns apart)");
+void DeclareCardReading(Arguments& line, CardReading& how) {
+    line.AddFlag("--decimal-comma", how.decimalComma,
+                 "Numbers of a CSV card have a decimal comma (then ; or a tab sets columns apart)");
 }
 
 }  // namespace zelmat

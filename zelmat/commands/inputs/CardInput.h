@@ -2,13 +2,11 @@
 
 #include "zelmat/cards/ReadCard.h"
 
-namespace CLI {
-class App;
-}
-
 namespace zelmat {
 
+class Arguments;
+
 /// Declares --decimal-comma, for every command that reads cards.
-void DeclareCardReading(CLI::App& line, CardReading& how);
+void DeclareCardReading(Arguments& line, CardReading& how);
 
 }  // namespace zelmat

@@ -1,10 +1,10 @@
 #include "zelmat/commands/inputs/FitInput.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <set>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/MeasuredTests.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
@@ -60,16 +60,16 @@ Finding DataFinding(Place place, const char* code, std::string text, std::vector
 
 }  // namespace
 
-void FitInput::Declare(CLI::App& line) {
-    line.add_option("CARD|DOC|CSV", what_,
-                    "Material card or document and one of its materials, or CSV files of measured points, "
-                    "or both; - is standard input")
-        ->required();
-    line.add_option("--mode", modeTexts_,
-                    std::string("Mode of each CSV file, or the modes that count of a card: ") + kTestModes)
-        ->delimiter(',');
-    line.add_option("--range", limitTexts_, "Stretches that count: 1:4, or of one mode planar=1:4");
-    line.add_option("--weight", weightTexts_, "Weight of the tests of a mode: equibiaxial=2");
+void FitInput::Declare(Arguments& line) {
+    line.Add("CARD|DOC|CSV", what_,
+             "Material card or document and one of its materials, or CSV files of measured points, "
+             "or both; - is standard input")
+        .Required();
+    line.Add("--mode", modeTexts_,
+             std::string("Mode of each CSV file, or the modes that count of a card: ") + kTestModes)
+        .AtCommas();
+    line.Add("--range", limitTexts_, "Stretches that count: 1:4, or of one mode planar=1:4");
+    line.Add("--weight", weightTexts_, "Weight of the tests of a mode: equibiaxial=2");
     AddNumberOption(line, "--temperature", temperatureText_,
                     "Which hardening curve of several, or of what temperature a CSV file is: 20degC");
     DeclareCardReading(line, how_);

@@ -13,6 +13,8 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// Points of a metal's hardening at one temperature.
 struct HardeningCurve {
     std::vector<mechanics::StressStrain> points;  ///< plastic strain, true stress in Pa
@@ -23,7 +25,7 @@ struct HardeningCurve {
 /// that they are of, with the options that choose among the points.
 class FitInput {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     const std::string& Path() const { return what_.front(); }
     /// Which of a document's materials; empty: not said.

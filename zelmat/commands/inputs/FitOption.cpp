@@ -1,15 +1,14 @@
 #include "zelmat/commands/inputs/FitOption.h"
 
-#include <CLI/CLI.hpp>
-
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/properties/UsedBlock.h"
 #include "zelmat/text/CountText.h"
 
 namespace zelmat {
 
-void FitOption::Declare(CLI::App& line) {
-    line.add_option("--model", choice_.model, "Hyperelastic fit of this model: OGDEN, ...");
-    line.add_option("--variant", choice_.variant, "Hyperelastic fit with this text in its variant");
+void FitOption::Declare(Arguments& line) {
+    line.Add("--model", choice_.model, "Hyperelastic fit of this model: OGDEN, ...");
+    line.Add("--variant", choice_.variant, "Hyperelastic fit with this text in its variant");
 }
 
 std::optional<Block> FitOption::Choose(const Material& material, Findings& findings) const {

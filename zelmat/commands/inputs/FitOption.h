@@ -5,16 +5,14 @@
 #include "zelmat/cards/FitChoice.h"
 #include "zelmat/materials/Material.h"
 
-namespace CLI {
-class App;
-}
-
 namespace zelmat {
+
+class Arguments;
 
 /// `--model` and `--variant`: which of a material's hyperelastic fits a command works with.
 class FitOption {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
     bool IsMade() const { return choice_.IsMade(); }
 
     /// The fit in the stored meaning; of several that would do the first, which is told as a note where

@@ -1,9 +1,9 @@
 #include "zelmat/commands/inputs/GivenMaterials.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <utility>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/MaterialChoice.h"
 #include "zelmat/commands/inputs/WrongForm.h"
@@ -65,10 +65,10 @@ std::vector<Material> MaterialsIn(GivenFile given, const std::string& path, Find
     return given.text ? CardsOfText(std::move(*given.text), path, findings, how) : std::vector<Material>();
 }
 
-void GivenMaterials::Declare(CLI::App& line) {
-    line.add_option("CARD|DOC", path_, "Material card or document; - is standard input")->required();
-    line.add_option("MATERIAL", material_,
-                    "Which of its materials: its name, a beginning that no other has, or #number");
+void GivenMaterials::Declare(Arguments& line) {
+    line.Add("CARD|DOC", path_, "Material card or document; - is standard input").Required();
+    line.Add("MATERIAL", material_,
+             "Which of its materials: its name, a beginning that no other has, or #number");
     DeclareCardReading(line, how_);
 }
 

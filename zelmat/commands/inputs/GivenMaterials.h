@@ -13,6 +13,8 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// A file that a command was given, opened as what it is: a document, or else the text of a card. Neither,
 /// and findings, when it cannot be read.
 struct GivenFile {
@@ -41,7 +43,7 @@ std::vector<Material> MaterialsIn(GivenFile given, const std::string& path, Find
 /// `CARD|DOC [MATERIAL]` on the command line of a command that works with one material, or with all.
 class GivenMaterials {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     /// In the place of Declare, for a command that takes its arguments apart itself.
     void Set(std::string path, std::string material, const CardReading& how) {

@@ -1,8 +1,8 @@
 #include "zelmat/commands/inputs/LaminateInput.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/GivenLayups.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
@@ -52,15 +52,14 @@ mechanics::Vector3 ReadVector(const char* option, const std::string& text, const
 
 }  // namespace
 
-void LaminateInput::Declare(CLI::App& line) {
-    line.add_option("NOTATION|CARD|DOC", layup_, "Stacking notation, layup card, or document")->required();
-    line.add_option("LAYUP", wanted_, "Which layup of a document: its name, a beginning of it, or #number");
-    auto* material = line.add_option("--material", material_, "Material card of a notation's plies");
-    line.add_option(
-            "--ply", ply_,
-            "Constants of a notation's plies: E1=181GPa,E2=10.3GPa,nu12=0.28,G12=7.17GPa and, as they "
-            "are known, alpha1, alpha2, density, Xt, Xc, Yt, Yc, S")
-        ->excludes(material);
+void LaminateInput::Declare(Arguments& line) {
+    line.Add("NOTATION|CARD|DOC", layup_, "Stacking notation, layup card, or document").Required();
+    line.Add("LAYUP", wanted_, "Which layup of a document: its name, a beginning of it, or #number");
+    const Argument material = line.Add("--material", material_, "Material card of a notation's plies");
+    line.Add("--ply", ply_,
+             "Constants of a notation's plies: E1=181GPa,E2=10.3GPa,nu12=0.28,G12=7.17GPa and, as they "
+             "are known, alpha1, alpha2, density, Xt, Xc, Yt, Yc, S")
+        .Excludes(material);
     AddNumberOption(line, "--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
 }
 
@@ -159,7 +158,7 @@ std::optional<PlyMaterial> LaminateInput::PlyOfText(Findings& findings) const {
     return ply;
 }
 
-void LoadOption::Declare(CLI::App& line) {
+void LoadOption::Declare(Arguments& line) {
     AddNumberOption(line, "--N", force_, "Forces Nx,Ny,Nxy per length: 100,0,0N/mm");
     AddNumberOption(line, "--M", moment_, "Moments Mx,My,Mxy per length: \"5,0,0 N m/m\"");
     AddNumberOption(line, "--dT", temperature_, "Change of temperature from the one without stress: -100K");

@@ -11,11 +11,13 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// The laminate that a command works with: `NOTATION|CARD|DOC [LAYUP]`, and of a notation what its plies
 /// are.
 class LaminateInput {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     /// Nothing, and findings, when something is missing or cannot be.
     std::optional<LayupCard> Read(CommandContext& context) const;
@@ -36,7 +38,7 @@ private:
 /// `--N`, `--M` and `--dT`.
 class LoadOption {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     bool IsGiven() const { return !force_.empty() || !moment_.empty() || !temperature_.empty(); }
 

@@ -1,18 +1,14 @@
 #include "zelmat/commands/inputs/OptionNumbers.h"
 
-#include <CLI/CLI.hpp>
-
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/PlainUnitText.h"
 
 namespace zelmat {
 
-CLI::Option* AddNumberOption(CLI::App& line, const std::string& name, std::string& text,
-                             const std::string& help) {
-    const auto check = [](const std::string& given) {
-        return std::string(given.empty() ? "a number is missing" : "");
-    };
-    return line.add_option(name, text, help)->check(CLI::Validator(check, ""));
+Argument AddNumberOption(Arguments& line, const std::string& name, std::string& text,
+                         const std::string& help) {
+    return line.Add(name, text, help).NotEmpty("a number is missing");
 }
 
 Finding UsageFinding(const std::string& place, const char* code, std::string text,

@@ -4,18 +4,14 @@
 #include <string>
 #include <vector>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/findings/Findings.h"
-
-namespace CLI {
-class App;
-class Option;
-}  // namespace CLI
 
 namespace zelmat {
 
 /// Declares an option that holds a number with its unit; an empty text is none and refused.
-CLI::Option* AddNumberOption(CLI::App& line, const std::string& name, std::string& text,
-                             const std::string& help);
+Argument AddNumberOption(Arguments& line, const std::string& name, std::string& text,
+                         const std::string& help);
 
 /// A finding about the command line: `place` is the option or argument.
 Finding UsageFinding(const std::string& place, const char* code, std::string text,

@@ -1,8 +1,8 @@
 #include "zelmat/commands/inputs/PlotInput.h"
 
-#include <CLI/CLI.hpp>
 #include <utility>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/GivenLayups.h"
 #include "zelmat/commands/inputs/MaterialChoice.h"
@@ -29,11 +29,10 @@ void KeepOne(std::vector<Any>& all, std::size_t place) {
 
 }  // namespace
 
-void PlotInput::Declare(CLI::App& line) {
-    line.add_option("CARD|DOC", path_, "Material card, layup card or document; - is standard input")
-        ->required();
-    line.add_option("MATERIAL|LAYUP", wanted_,
-                    "Which of its materials or layups: its name, a beginning that no other has, or #number");
+void PlotInput::Declare(Arguments& line) {
+    line.Add("CARD|DOC", path_, "Material card, layup card or document; - is standard input").Required();
+    line.Add("MATERIAL|LAYUP", wanted_,
+             "Which of its materials or layups: its name, a beginning that no other has, or #number");
     DeclareCardReading(line, how_);
 }
 

@@ -9,6 +9,8 @@
 
 namespace zelmat {
 
+class Arguments;
+
 /// What is to be drawn.
 struct PlotContent {
     std::vector<Material> materials;
@@ -18,7 +20,7 @@ struct PlotContent {
 /// `CARD|DOC [MATERIAL|LAYUP]`: what a command draws that draws materials and layups alike.
 class PlotInput {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     const std::string& Path() const { return path_; }
 

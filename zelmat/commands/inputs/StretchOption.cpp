@@ -1,8 +1,8 @@
 #include "zelmat/commands/inputs/StretchOption.h"
 
-#include <CLI/CLI.hpp>
 #include <cmath>
 
+#include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/quantities/ReadNumber.h"
 #include "zelmat/text/QuotedText.h"
@@ -39,8 +39,8 @@ void AddRange(const std::string& text, const std::vector<double>& parts, std::ve
 
 }  // namespace
 
-void StretchOption::Declare(CLI::App& line) {
-    line.add_option(kOption, texts_, "Stretches (amounts of shear): 1.5 2, or FROM:TO:COUNT");
+void StretchOption::Declare(Arguments& line) {
+    line.Add(kOption, texts_, "Stretches (amounts of shear): 1.5 2, or FROM:TO:COUNT");
 }
 
 std::vector<double> StretchOption::Read(Findings& findings) const {

@@ -5,16 +5,14 @@
 
 #include "zelmat/findings/Findings.h"
 
-namespace CLI {
-class App;
-}
-
 namespace zelmat {
+
+class Arguments;
 
 /// `--stretch X...`: single stretches, or FROM:TO:COUNT for evenly spaced ones.
 class StretchOption {
 public:
-    void Declare(CLI::App& line);
+    void Declare(Arguments& line);
 
     /// In the order in which they are given; findings for what is none. Empty when the option is left out.
     std::vector<double> Read(Findings& findings) const;

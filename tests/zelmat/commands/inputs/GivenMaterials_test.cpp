@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -10,6 +9,7 @@
 #include "tests/zelmat/support/CardFile.h"
 #include "tests/zelmat/support/CatalogFolder.h"
 #include "tests/zelmat/support/Program.h"
+#include "zelmat/commands/frame/Arguments.h"
 
 namespace {
 
@@ -43,10 +43,9 @@ constexpr const char* kDocument = R"({
 /// What a command is given on its line and finds there.
 struct Given {
     explicit Given(std::vector<std::string> words) {
-        CLI::App line;
+        zelmat::Arguments line("zelmat", "a test");
         what.Declare(line);
-        std::reverse(words.begin(), words.end());
-        line.parse(words);
+        EXPECT_EQ(line.Read(std::move(words)).mistake, "");
     }
 
     std::vector<Material> All() { return what.ReadAll(context); }
