@@ -5,7 +5,7 @@
 inline const KORIID IID_KORISamUpgrade = KORName::Intern("KORISamUpgrade");
 
 /// Brings a feature of an older document up to the current release. Both operations belong together: the
-/// query finds out what the upgrade then does, on the same object.
+/// query finds out what the upgrade then does, on the same object, and is good for one upgrade.
 class KORISamUpgrade : public KORInterface<IID_KORISamUpgrade> {
 public:
     virtual bool IsUpgradeNeeded() = 0;

@@ -29,11 +29,11 @@ void KORChildren::Append(KORISpecObject* child) {
 
 void KORChildren::Remove(const KORISpecObject_var& child) {
     if (!Contain(child)) return;
+    const KORBaseUnknown_var gone(child);
     KORValue left = KORValue::EmptyList(KORAttributeKind::ListOfComponents);
-    const KORListValKORISpecObject_var children = All();
-    for (int position = 1; position <= children.Size(); ++position) {
-        if (children[position] == child) continue;
-        left.Append(KORBaseUnknown_var(children[position]).Get());
+    for (int position = 1; position <= parent_.GetListSize(kChildren); ++position) {
+        const auto entry = KORBaseUnknown_var::Adopt(parent_.GetComponent(kChildren, position));
+        if (entry != gone) left.Append(entry.Get());
     }
     parent_.Write(parent_.Layout().Find(kChildren).slot, std::move(left));
 }

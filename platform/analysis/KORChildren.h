@@ -13,7 +13,7 @@ public:
 
     bool CanBe() const;  ///< the parent has that attribute
     void Append(KORISpecObject* child);
-    void Remove(const KORISpecObject_var& child);  ///< if it is one of them
+    void Remove(const KORISpecObject_var& child);  ///< if it is one of them; other entries stay, of any kind
 
     /// Those of a late type, in order.
     KORListValKORISpecObject_var OfType(const KORUnicodeString& lateType) const;

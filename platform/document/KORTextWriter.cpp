@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 namespace {
 
@@ -13,6 +14,14 @@ std::string NumberText(double number) {
     char text[32];
     const auto end = std::to_chars(std::begin(text), std::end(text), number).ptr;
     return {text, end};
+}
+
+/// The text of a number whose kind no late type declares: one that reads as a whole number gets a fraction,
+/// or a reader would take it for an integer.
+std::string UndeclaredNumberText(double number) {
+    const std::string text = NumberText(number);
+    const bool whole = text.find_first_not_of("-0123456789") == std::string::npos;
+    return whole && std::fabs(number) <= std::numeric_limits<int>::max() ? text + ".0" : text;
 }
 
 /// "[a, b, c]"
@@ -102,19 +111,25 @@ void KORTextWriter::WriteContainer(const KORFeature& feature) {
 
 std::vector<std::string> KORTextWriter::AttributesOf(const KORFeature& feature) {
     std::vector<std::string> attributes;
-    const auto add = [&](std::string_view name, const KORValue& value) {
-        attributes.push_back(Quoted(name) + ": " + ValueText(feature, name, value));
+    const auto add = [&](std::string_view name, const std::string& text) {
+        attributes.push_back(Quoted(name) + ": " + text);
     };
     KORSlot slot = KORLayout::kFirstAttribute;
     for (const KORAttribute& attribute : feature.Layout().Attributes()) {
         const KORValue& value = feature.At(slot++);
-        if (!value.SameAs(attribute.initial)) add(attribute.name->Text(), value);
+        if (value.SameAs(attribute.initial)) continue;
+        add(attribute.name->Text(), ValueText(feature, attribute.name->Text(), value));
     }
     std::vector<std::pair<KORUnicodeString, KORValue>> undeclared;
     feature.ForEachUndeclared(
         [&](const KORUnicodeString& name, const KORValue& value) { undeclared.emplace_back(name, value); });
     std::ranges::sort(undeclared, {}, [](const auto& attribute) { return attribute.first.View(); });
-    for (const auto& [name, value] : undeclared) add(name.View(), value);
+    for (const auto& [name, value] : undeclared) {
+        const bool isDouble =
+            value.Kind() == KORAttributeKind::Double && value.State() == KORValueState::Valued;
+        add(name.View(),
+            isDouble ? UndeclaredNumberText(value.Double()) : ValueText(feature, name.View(), value));
+    }
     return attributes;
 }
 

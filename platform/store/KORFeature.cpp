@@ -1,5 +1,6 @@
 #include "platform/store/KORFeature.h"
 
+#include <memory>
 #include <new>
 
 #include "platform/store/KORStoreDocument.h"
@@ -74,10 +75,10 @@ KORFeature::KORFeature(KORFeatureType& type, std::uint32_t number, std::uint32_t
     new (slots + KORLayout::kContainer) KORValue(KORAttributeKind::Component);
     const KORValue* const values = original ? original->Slots() : type.Layout().Initials();
     const KORSlot count = type.Layout().SlotCount();
-    for (KORSlot slot = KORLayout::kFirstAttribute; slot < count; ++slot) {
-        // As if logged: undoing the creation takes the values along.
-        (new (slots + slot) KORValue(values[slot]))->SetStamp(stamp);
-    }
+    std::uninitialized_copy(values + KORLayout::kFirstAttribute, values + count,
+                            slots + KORLayout::kFirstAttribute);  // all of them, or none and no memory
+    // As if logged: undoing the creation takes the values along.
+    for (KORSlot slot = KORLayout::kFirstAttribute; slot < count; ++slot) slots[slot].SetStamp(stamp);
     type.AddRef();
     type.Document()->Features().Add(number, *this);
 }

@@ -10,3 +10,14 @@ zel_test(test_older_documents
     LINKS module_src module_store ZELShared test_support)
 target_compile_definitions(test_older_documents PRIVATE
     ZEL_OLDER_DOCUMENTS="${PROJECT_SOURCE_DIR}/tests/data/older")
+
+# A program of its own, since it replaces the allocation functions of its process.
+zel_test(test_module_memory
+    FILES
+        memory/ZELModuleMemory_test.cpp
+        older/ZELCatalogFolder.cpp
+        older/ZELOlderDocument.cpp
+        "${PROJECT_SOURCE_DIR}/tests/support/ZELFailingAllocation.cpp"
+    LINKS module_src module_store ZELShared test_support)
+target_compile_definitions(test_module_memory PRIVATE
+    ZEL_OLDER_DOCUMENTS="${PROJECT_SOURCE_DIR}/tests/data/older")

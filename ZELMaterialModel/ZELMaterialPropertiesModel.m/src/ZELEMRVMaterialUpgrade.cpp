@@ -1,6 +1,7 @@
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELEMRVMaterialUpgrade.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELFeatureCopy.h"
 #include "ZELMaterialModel/ZELMaterialPropertiesModel.m/src/ZELHyperelasticUnits.h"
@@ -110,6 +111,9 @@ void ZELEMRVMaterialUpgrade::LookForBehaviors(KORISpecAttrAccess& material) {
 }
 
 HRESULT ZELEMRVMaterialUpgrade::Upgrade() {
+    // One query is good for one upgrade: what is done by then, by whoever looked at the material in between,
+    // is never done twice.
+    const Needs needs = std::exchange(needs_, {});
     Work work;
     work.material = KORISpecObject_var::Of(this);
     if (!work.material) return E_FAIL;
@@ -122,13 +126,13 @@ HRESULT ZELEMRVMaterialUpgrade::Upgrade() {
         unsigned char needed;
         HRESULT (*run)(const Work&);
     } steps[] = {
-        {needs_.userMaterial, AddUserMaterial},
-        {needs_.hyperelasticity, AddHyperelasticity},
-        {needs_.johnsonCookV2, MoveJohnsonCook},
-        {needs_.hyperelasticModelV2, MoveHyperelasticModel},
-        {needs_.hyperelasticUnits, ConvertHyperelasticUnits},
-        {needs_.inOldApplicativeContainer, LeaveOldContainer},
-        {needs_.testDataInForeignContainer, FetchTestData},
+        {needs.userMaterial, AddUserMaterial},
+        {needs.hyperelasticity, AddHyperelasticity},
+        {needs.johnsonCookV2, MoveJohnsonCook},
+        {needs.hyperelasticModelV2, MoveHyperelasticModel},
+        {needs.hyperelasticUnits, ConvertHyperelasticUnits},
+        {needs.inOldApplicativeContainer, LeaveOldContainer},
+        {needs.testDataInForeignContainer, FetchTestData},
     };
     for (const auto& step : steps) {
         if (!step.needed) continue;

@@ -6,8 +6,9 @@
 #include "interfaces/KORISpecAttrAccess.h"
 
 /// Implements KORISamUpgrade on "ZELMaterialLT" features: brings a material of an older document up to the
-/// current catalog. The query finds out what is to be done and the upgrade does it, so both go to one object.
-/// Steps already done stay when a later one fails; the next run goes on from what is stored.
+/// current catalog. The query finds out what is to be done and the upgrade does it, so both go to one object;
+/// an upgrade that no query came before does nothing. Steps already done stay when a later one fails; the
+/// next query finds what is left.
 class ZELEMRVMaterialUpgrade final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
 
@@ -15,7 +16,7 @@ class ZELEMRVMaterialUpgrade final : public KORBaseUnknown, private ZELModuleObj
     HRESULT Upgrade();
 
 private:
-    /// What the last query found to be done; the upgrade works through it in this order.
+    /// What the last query found to be done, until an upgrade works through it in this order.
     struct Needs {
         unsigned char userMaterial = 0;               ///< there is no user-material feature
         unsigned char hyperelasticity = 0;            ///< there is no hyperelastic feature

@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <new>
 
 #include "ZELMaterialModel/include/ZELGenHeapObjectProxy.h"
+#include "tests/support/ZELFailingAllocation.h"
 
 namespace {
-
-bool memoryIsShort = false;
 
 struct Shared {
     Shared() { ++alive; }
@@ -15,32 +13,14 @@ struct Shared {
     static inline int alive = 0;
 };
 
-/// No allocation succeeds while it lives.
-struct ShortMemory {
-    ShortMemory() { memoryIsShort = true; }
-    ~ShortMemory() { memoryIsShort = false; }
-};
-
 }  // namespace
-
-void* operator new(std::size_t size) {
-    void* memory = memoryIsShort ? nullptr : std::malloc(size);
-    if (!memory) throw std::bad_alloc();
-    return memory;
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 TEST(ZELGenHeapObjectProxy, DeletesTheObjectWhenThereIsNoMemoryForItsCounter) {
     ZELGenHeapObjectProxy<Shared> proxy(new Shared);
     auto* object = new Shared;
     bool refused = false;
     try {
-        const ShortMemory shortMemory;
+        const ZELFailingAllocation fault(1);
         proxy.InsertObject(object);
     } catch (const std::bad_alloc&) {
         refused = true;
@@ -56,7 +36,7 @@ TEST(ZELGenHeapObjectProxy, LeavesNothingBehindWhenItCannotBeMadeFromAnObject) {
     auto* object = new Shared;
     bool refused = false;
     try {
-        const ShortMemory shortMemory;
+        const ZELFailingAllocation fault(1);
         const ZELGenHeapObjectProxy<Shared> proxy(object);
     } catch (const std::bad_alloc&) {
         refused = true;

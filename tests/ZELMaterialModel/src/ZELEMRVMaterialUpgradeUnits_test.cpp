@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include "ZELMaterialModel/include/ZELIMaterial.h"
 #include "tests/ZELMaterialModel/src/ZELUpgradeTest.h"
 
 using testing::ElementsAre;
@@ -69,6 +70,30 @@ TEST_P(ZELUpgradeUnits, NeverConvertsTwice) {
 
     EXPECT_THAT(Needs(tree.material), ElementsAre(0, 0, 0, 0, 0, 0, 0));
     EXPECT_EQ(Upgrade(tree.material), S_OK);
+
+    EXPECT_EQ(RowsOf(tree.model), (ZELRows{{4.0, 8.0, 2.0}}));
+}
+
+TEST_P(ZELUpgradeUnits, ConvertsOnceForOneQueryHoweverOftenItIsRun) {
+    const ZELFullMaterialTree tree(Store());
+    SetUnconverted(tree, "MOONEY_RIVLIN", 1, {{1.0, 2.0, 8.0}});
+    const KORISamUpgrade_var upgrade = tree.material;
+    EXPECT_TRUE(upgrade->IsUpgradeNeeded());
+    EXPECT_EQ(upgrade->Upgrade(), S_OK);
+
+    EXPECT_EQ(upgrade->Upgrade(), S_OK);
+
+    EXPECT_EQ(RowsOf(tree.model), (ZELRows{{4.0, 8.0, 2.0}}));
+}
+
+TEST_P(ZELUpgradeUnits, ConvertsOnceWhereTheMaterialIsLookedAtBetweenQueryAndUpgrade) {
+    const ZELFullMaterialTree tree(Store());
+    SetUnconverted(tree, "MOONEY_RIVLIN", 1, {{1.0, 2.0, 8.0}});
+    const KORISamUpgrade_var upgrade = tree.material;
+    EXPECT_TRUE(upgrade->IsUpgradeNeeded());
+    EXPECT_TRUE(ZELIMaterial_var(tree.material)) << "which upgrades it";
+
+    EXPECT_EQ(upgrade->Upgrade(), S_OK);
 
     EXPECT_EQ(RowsOf(tree.model), (ZELRows{{4.0, 8.0, 2.0}}));
 }

@@ -154,6 +154,23 @@ TEST_F(KORAnalysisModel, HandsAnEntityToTheSetItIsPutInto) {
     EXPECT_EQ(Numbers{}, Scan(kEntity, 4));
 }
 
+// What is no feature comes into the list past this platform's own operations.
+TEST_F(KORAnalysisModel, KeepsWhatElseItListsWhenAnEntityGoesIntoASet) {
+    const KORName* const children = KORName::Intern("Children");
+    const KORISamAnalysisSet_var set(Create(kSet));
+    const auto stranger = KORBaseUnknown_var::Adopt(new KORBaseUnknown);
+    model->AppendComponent(children, stranger.Get());
+    model->AppendComponent(children, nullptr);
+    const auto child = Create(kSet);
+
+    set->AddChild(child);
+
+    EXPECT_EQ(3, model->GetListSize(children));
+    EXPECT_EQ(stranger, KORBaseUnknown_var::Adopt(model->GetComponent(children, 2)));
+    EXPECT_EQ(nullptr, model->GetComponent(children, 3));
+    EXPECT_EQ(2, stranger->References()) << "this test and the model";
+}
+
 TEST_F(KORAnalysisModel, FindsAFeatureOnceAndAtAnyDepth) {
     EXPECT_EQ(S_OK, document->LoadCatalog(kCatalogName));
     const auto outer = Create(kSet);     // 2

@@ -290,6 +290,17 @@ TEST_F(KORTextDocumentTest, GivesUndeclaredAttributesTheKindThatTheyAreWrittenAs
     EXPECT_EQ(KORAttributeKind::ListOfComponents, kinds["None"]);
 }
 
+TEST_F(KORTextDocumentTest, ShowsThatAWholeNumberThatNobodyDeclaresIsADouble) {
+    Read(R"json({"format": 1, "features": [
+      {"id": 1, "type": "KORMaterialLT", "attributes": {"Length": 2.0, "Depth": -3e0, "Far": 1e22}}]})json");
+
+    const std::string written = Written();
+
+    EXPECT_NE(std::string::npos, written.find("\"Length\": 2.0")) << written;
+    EXPECT_NE(std::string::npos, written.find("\"Depth\": -3.0")) << written;
+    EXPECT_NE(std::string::npos, written.find("\"Far\": 1e+22")) << written;
+}
+
 TEST_F(KORTextDocumentTest, KeepsWhatOnlyAnUndeclaredAttributeReferences) {
     Read(R"json({"format": 1, "features": [
       {"id": 1, "type": "KORMaterialLT", "attributes": {"Next": {"ref": 2}}},

@@ -1,36 +1,11 @@
 // What the store is like after an operation for which there was no memory. A program of its own, since it
 // replaces the allocation functions of its process.
 
-#include <cstdlib>
 #include <functional>
 #include <new>
 
 #include "KORTestDocument.h"
-
-namespace {
-
-int allocationsLeft = 0;  ///< until the one that fails; 0: none fails
-
-/// While it lives, the n-th allocation of the process, counted from 1, throws.
-struct FailingAllocation {
-    explicit FailingAllocation(int n) { allocationsLeft = n; }
-    ~FailingAllocation() { allocationsLeft = 0; }
-};
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-    const bool fails = allocationsLeft > 0 && --allocationsLeft == 0;
-    void* memory = fails ? nullptr : std::malloc(size);
-    if (!memory) throw std::bad_alloc();
-    return memory;
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
+#include "tests/support/ZELFailingAllocation.h"
 
 namespace {
 
@@ -67,7 +42,7 @@ protected:
         KORStep step(*document, "Edit");
         bool failed = false;
         try {
-            const FailingAllocation fault(n);
+            const ZELFailingAllocation fault(n);
             operation();
         } catch (const std::bad_alloc&) {
             failed = true;
@@ -115,7 +90,7 @@ TEST_F(KORStoreMemory, LeavesAListThatGrowsInPlaceWhole) {
             if (before == 1) created->AppendComponent(others, stranger.Get());
             bool failed = false;
             try {
-                const FailingAllocation fault(n);
+                const ZELFailingAllocation fault(n);
                 created->AppendComponent(others, stranger.Get());
             } catch (const std::bad_alloc&) {
                 failed = true;
@@ -167,6 +142,26 @@ TEST_F(KORStoreMemory, LeavesADocumentWithTheNewFeatureOrWithout) {
         EXPECT_FALSE(document->CanUndo()) << "allocation " << n;
     }
     EXPECT_EQ("2", features());
+}
+
+// The list of components is the last value that a copy takes over, and the only one that needs memory.
+TEST_F(KORStoreMemory, GivesBackWhatACopyReferencesThatCannotBeMade) {
+    feature->SetComponent(other, stranger.Get(), 0);
+    feature->AppendComponent(others, stranger.Get());
+    feature->SetString(text, "a text of its own, longer than any that lies in the string itself", 0);
+    const std::int32_t references = stranger->References();
+    const std::size_t alive = document->Features().Size();
+    bool failed = true;
+    int failures = 0;
+    for (int n = 1; failed; ++n) {
+        failed = RunWithFault([&] { KORFeature::NewCopy(*feature, *container); }, n);
+        if (!failed) break;
+        ++failures;
+        EXPECT_EQ(references, stranger->References()) << "allocation " << n;
+        EXPECT_EQ(alive, document->Features().Size()) << "allocation " << n;
+    }
+    EXPECT_GE(failures, 2);
+    EXPECT_EQ(references + 2, stranger->References());
 }
 
 }  // namespace
