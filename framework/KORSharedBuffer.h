@@ -104,8 +104,8 @@ public:
         static_assert(std::is_trivially_copyable_v<T>);
         const int size = SizeOf(first);
         if (size != SizeOf(other)) return false;
-        return first == other || size == 0 ||
-               std::memcmp(first, other, sizeof(T) * static_cast<std::size_t>(size)) == 0;
+        if (!first || !other || first == other) return true;
+        return std::memcmp(first, other, sizeof(T) * static_cast<std::size_t>(size)) == 0;
     }
     static int SizeOf(const T* first) { return first ? HeaderOf(first).size : 0; }
 
