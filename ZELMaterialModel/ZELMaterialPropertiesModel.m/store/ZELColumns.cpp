@@ -26,9 +26,11 @@ void FillColumns(std::index_sequence<Column...>, const ZELCftArrayZELCftArrayDou
                  KORRawColldouble* lists) {
     const int rows = table.size();
     double* const to[] = {lists[Column].Extend(rows)...};
+    const ZELCftArraydouble* const from = &table[0];  // rows lie side by side: asked for once
     for (int row = 0; row < rows; ++row) {
-        const ZELCftArraydouble& numbers = table[row];
-        ((to[Column][row] = numbers[static_cast<int>(Column)]), ...);
+        const ZELCftArraydouble& numbers = from[row];
+        const double taken[] = {numbers[static_cast<int>(Column)]...};
+        ((to[Column][row] = taken[Column]), ...);
     }
 }
 
