@@ -140,7 +140,8 @@ void KORDiskReader::ReadAttributes(std::string_view packed, KORFeature& feature)
             const bool list = kind == KORAttributeKind::ListOfComponents;
             pending_.push_back({&feature, slot, list, first, read.references});
         } else {
-            feature.Swap(slot, read.value);
+            read.value.SetSlot(slot);
+            feature.Swap(read.value);
         }
     }
 }
@@ -158,7 +159,8 @@ void KORDiskReader::Resolve() {
     for (const Pending& pending : pending_) {
         KORValue value = pending.list ? ResolveList(pending) : KORValue::OfComponent(Target(pending, 0));
         if (Failed()) return;
-        pending.feature->Swap(pending.slot, value);
+        value.SetSlot(pending.slot);
+        pending.feature->Swap(value);
     }
     pending_.clear();
     references_.clear();
@@ -216,7 +218,7 @@ bool KORDiskReader::ReadEntries(std::string_view packed, const KORDiskContainers
     while (!entries.AtEnd()) {
         auto entry = KORUnpackEntry(entries, containers, *slots_, document_);
         if (!entry) return false;
-        step.entries.Append(*entry->feature, entry->slot, std::move(entry->other));
+        step.entries.Append(*entry->feature, entry->Slot(), std::move(entry->other));
     }
     return true;
 }

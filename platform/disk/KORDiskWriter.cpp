@@ -68,7 +68,7 @@ bool KORDiskWriter::PackStep(const KORUndoStep& step) {
 }
 
 std::int64_t KORDiskWriter::BytesBehind(const KORUndoEntry& entry) {
-    if (entry.slot != KORLayout::kContainer) return 0;
+    if (entry.Slot() != KORLayout::kContainer) return 0;
     if (entry.feature->LiesInContainer() == (entry.other.Component() != nullptr)) return 0;
     PackAttributes(*entry.feature);
     return static_cast<std::int64_t>(packed_.Bytes().size());

@@ -102,7 +102,7 @@ private:
 
 bool KORPackEntry(KORPacker& packer, const KORUndoEntry& entry, const KORDiskContainers& containers,
                   KORDiskNames& names, const KORStoreDocument& document) {
-    const Place place = PlaceOf(entry.slot);
+    const Place place = PlaceOf(entry.Slot());
     packer.Count(entry.feature->Number());
     packer.Byte(place);
     if (place == kContainer) {
@@ -110,7 +110,7 @@ bool KORPackEntry(KORPacker& packer, const KORUndoEntry& entry, const KORDiskCon
         packer.Count(container.value_or(0));
         return container.has_value();
     }
-    if (place >= kDeclared) packer.Count(names.Of(entry.feature->SlotText(entry.slot)));
+    if (place >= kDeclared) packer.Count(names.Of(entry.feature->SlotText(entry.Slot())));
     return KORPackValue(packer, entry.other, document);
 }
 

@@ -3,9 +3,9 @@
 void KORUnlistedFeatures::Suspect(std::span<const KORUndoEntry> changes, std::uint32_t cause) {
     for (const KORUndoEntry& change : changes) {
         const KORValue& before = change.other;
-        if (change.slot == KORLayout::kContainer) {
+        if (change.Slot() == KORLayout::kContainer) {
             Add(change.feature.Get(), cause);
-        } else if (change.slot == change.feature->Layout().FatherSlot()) {
+        } else if (change.Slot() == change.feature->Layout().FatherSlot()) {
             continue;  // hanging on it lists nothing
         } else if (before.Kind() == KORAttributeKind::Component) {
             Add(before.Component(), cause);

@@ -9,15 +9,12 @@ void KORFeature::WriteTo(KORValue& stored, KORSlot slot, KORValue&& value) {
     KORStoreDocument* document = StoreDocument();
     if (!document || stored.SameAs(value) || (takenAway_ && slot != KORLayout::kContainer)) return;
     KORUndoLog& log = document->Log();
+    const bool logged = log.IsOpen() && stored.Stamp() != log.Stamp();
+    if (logged) log.MakeRoom();  // first of all: without memory the value stays
     value.SetStamp(log.Stamp());
-    if (stored.Stamp() == log.Stamp() || !log.IsOpen()) {
-        stored.Swap(value);
-        Changed(slot, value);
-    } else {
-        const KORValue& before = log.Log(*this, slot, std::move(stored));
-        stored.Swap(value);  // NOLINT(bugprone-use-after-move): what was moved from is an empty value
-        Changed(slot, before);
-    }
+    value.SetSlot(slot);
+    stored.Swap(value);
+    Changed(slot, logged ? log.Keep(*this, std::move(value)) : value);
 }
 
 void KORFeature::Write(KORSlot slot, KORValue&& value) {
@@ -39,7 +36,7 @@ KORVar<KORFeature> KORFeature::New(KORStoreDocument& document, const KORLayoutHa
     if (name != layout->NameText()) {
         feature->MakeUndeclared(document).At(KORLayout::kName) = KORValue::OfString(name);
     }
-    feature->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
+    feature->Enter(container);
     return feature;
 }
 
@@ -50,7 +47,7 @@ KORVar<KORFeature> KORFeature::NewCopy(const KORFeature& original, KORBaseUnknow
     auto copy = KORVar<KORFeature>::Adopt(
         new (slots) KORFeature(*original.type_, number, document.Log().Stamp(), &original));
     if (original.hasUndeclared_) copy->CopyUndeclared(document, original);
-    copy->Write(KORLayout::kContainer, KORValue::OfComponent(&container));
+    copy->Enter(container);
     return copy;
 }
 
@@ -89,6 +86,17 @@ KORFeature::~KORFeature() {
     KORValue* slots = Slots();
     for (KORSlot slot = 0; slot < Layout().SlotCount(); ++slot) slots[slot].~KORValue();
     type_->Release();
+}
+
+void KORFeature::Enter(KORBaseUnknown& container) {
+    KORUndoLog& log = StoreDocument()->Log();
+    if (log.IsOpen()) log.MakeRoom();
+    KORValue value = KORValue::OfComponent(&container);
+    value.SetStamp(log.Stamp());
+    Slots()[KORLayout::kContainer].Swap(value);
+    if (log.IsOpen()) log.Keep(*this, std::move(value));
+    AddRef();
+    StoreDocument()->MemberEntered();
 }
 
 void* KORFeature::OwnInterface(KORIID iid) {

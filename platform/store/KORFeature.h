@@ -110,9 +110,11 @@ public:
     template <class Visitor>
     void ForEachComponent(Visitor&& visit) const;
 
-    /// Exchanges a slot's value for another: all there is to do, undo and redo a change. Marks the feature
-    /// dirty. The caller holds a reference. The slot is there: see UndeclaredSlot and MakeNameSlots.
-    void Swap(KORSlot slot, KORValue& other) noexcept {
+    /// Exchanges the value of a slot for another that knows its slot: all there is to do, undo and redo a
+    /// change. Marks the feature dirty. The caller holds a reference. The slot is there: see UndeclaredSlot
+    /// and MakeNameSlots.
+    void Swap(KORValue& other) noexcept {
+        const KORSlot slot = other.Slot();
         Stored(slot).Swap(other);
         Changed(slot, other);
     }
@@ -148,6 +150,10 @@ private:
     void CopyUndeclared(KORStoreDocument& document, const KORFeature& original);
     const KORValue& UndeclaredAt(KORSlot slot) const;
     void DropUndeclared() noexcept;
+
+    /// Puts a new feature into its container: what Write does, but there is nothing yet to compare and to
+    /// drop.
+    void Enter(KORBaseUnknown& container);
 
     /// A slot was written that held another value before.
     void Changed(KORSlot slot, const KORValue& before) noexcept {

@@ -19,14 +19,18 @@ KORLayout::KORLayout(const KORName* name, std::vector<KORAttribute> attributes, 
       attributes_(std::move(attributes)),
       ordinal_(NextOrdinal()) {
     initials_.assign(kFirstAttribute, KORValue(KORAttributeKind::Component));
-    for (const KORAttribute& attribute : attributes_) initials_.push_back(attribute.initial);
+    for (const KORAttribute& attribute : attributes_) {
+        initials_.push_back(attribute.initial);
+        initials_.back().SetSlot(static_cast<KORSlot>(initials_.size() - 1));
+    }
     if (attributes_.empty()) return;
     const auto byNumber = [](const KORAttribute& a, const KORAttribute& b) {
         return a.name->Number() < b.name->Number();
     };
     const auto [first, last] = std::minmax_element(attributes_.begin(), attributes_.end(), byNumber);
     firstNumber_ = first->name->Number();
-    places_.resize(last->name->Number() - firstNumber_ + 1);
+    numbers_ = last->name->Number() - firstNumber_ + 1;
+    places_.resize(numbers_);
     KORSlot slot = kFirstAttribute;
     for (const KORAttribute& attribute : attributes_) {
         if (attribute.isFather) father_ = slot;

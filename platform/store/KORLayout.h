@@ -5,8 +5,6 @@
 
 #include "platform/store/KORValue.h"
 
-using KORSlot = std::uint16_t;
-
 /// One attribute of a late type.
 struct KORAttribute {
     const KORName* name;
@@ -54,7 +52,7 @@ public:
 
     Place Find(const KORName* key) const {
         const std::uint32_t index = key->Number() - firstNumber_;
-        return index < places_.size() ? places_[index] : Place{};
+        return index < numbers_ ? places_[index] : Place{};
     }
 
     /// What a new feature starts with, by slot: SlotCount() values in a row. It lies in no container.
@@ -76,6 +74,7 @@ private:
     std::vector<KORValue> initials_;
     std::vector<Place> places_;  ///< by the key's number, from firstNumber_ on
     std::uint32_t firstNumber_ = 0;
+    std::uint32_t numbers_ = 0;  ///< how many places there are: asked at every access
     KORSlot father_ = 0;
     std::uint32_t ordinal_;
 };

@@ -7,6 +7,7 @@ KORSlot KORUndeclaredAttributes::SlotOf(const KORUnicodeString& name) {
     if (attributes_.size() == kMost) throw std::length_error("a feature has too many undeclared attributes");
     const auto slot = static_cast<KORSlot>(KORLayout::kFirstUndeclared + attributes_.size());
     attributes_.push_back({name});
+    attributes_.back().value.SetSlot(slot);
     slots_.emplace(attributes_.back().name.View(), slot);
     return slot;
 }

@@ -18,6 +18,11 @@ class KORUndeclaredAttributes {
 public:
     static constexpr std::size_t kMost = 0x10000 - KORLayout::kFirstUndeclared;
 
+    KORUndeclaredAttributes() {
+        name_.SetSlot(KORLayout::kName);
+        alias_.SetSlot(KORLayout::kAlias);
+    }
+
     /// The slot of a name; made, and absent, when there is none. Throws std::length_error at the end of
     /// kMost.
     KORSlot SlotOf(const KORUnicodeString& name);

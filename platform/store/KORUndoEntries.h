@@ -8,20 +8,26 @@
 /// One reversible change. Holds the value the feature does not have at the moment, so applying it is a swap.
 /// That a feature was created, removed or moved is a change of its container slot.
 struct KORUndoEntry {
-    KORUndoEntry(KORFeature& changed, KORSlot in, KORValue&& value) noexcept
-        : feature(&changed), other(std::move(value)), slot(in) {}
+    KORUndoEntry(KORFeature& changed, KORValue&& value) noexcept
+        : feature(&changed), other(std::move(value)) {}
+    KORUndoEntry(KORFeature& changed, KORSlot slot, KORValue&& value) noexcept
+        : KORUndoEntry(changed, std::move(value)) {
+        other.SetSlot(slot);
+    }
 
     KORVar<KORFeature> feature;  ///< owned: an undone creation must be able to come back
-    [[no_unique_address]] KORValue other;
-    KORSlot slot;  ///< lies in what the value leaves unused of its 16 bytes
+    KORValue other;              ///< knows its slot
+
+    KORSlot Slot() const { return other.Slot(); }
 
     void Apply() noexcept {
-        feature->Swap(slot, other);
+        const KORSlot slot = Slot();
+        feature->Swap(other);
         if (slot == KORLayout::kContainer) feature->WasPutBack();
     }
 
     /// What changed, for reports: an attribute's name, or "Name", "Alias", "Container".
-    const char* AttributeName() const { return feature->SlotName(slot); }
+    const char* AttributeName() const { return feature->SlotName(Slot()); }
 };
 
 static_assert(sizeof(KORUndoEntry) == 24);
@@ -41,13 +47,21 @@ public:
     }
 
     /// The value is as it was when there is no memory.
-    KORUndoEntry& Append(KORFeature& feature, KORSlot slot, KORValue&& other) {
+    void Append(KORFeature& feature, KORSlot slot, KORValue&& other) {
+        MakeRoom();
+        new (first_ + size_++) KORUndoEntry(feature, slot, std::move(other));
+    }
+
+    /// Append in two: room for one more, and a value that knows its slot, for which there is room.
+    void MakeRoom() {
         if (size_ == room_) Grow();
-        return *new (first_ + size_++) KORUndoEntry(feature, slot, std::move(other));
+    }
+    const KORValue& Put(KORFeature& feature, KORValue&& other) noexcept {
+        return (new (first_ + size_++) KORUndoEntry(feature, std::move(other)))->other;
     }
     KORUndoEntry TakeLast() noexcept;
 
-    /// All of them, in no more room than they need. This one is empty then and keeps its room for others.
+    /// All of them, in no more room than they need. This one is empty then and as roomy as before.
     KORUndoEntries TakeAll();
     void Clear() noexcept;
 
@@ -62,7 +76,9 @@ public:
 private:
     void Drop() noexcept;
     void Grow();
-    void MoveInto(std::size_t room);  ///< another block
+    void SetRoom(std::size_t room);  ///< for all that there are, at least
+    void Shrink() noexcept;
+    bool Reallocate(std::size_t room) noexcept;  ///< false, and nothing changed, without memory
     void Swap(KORUndoEntries& other) noexcept {
         std::swap(first_, other.first_);
         std::swap(size_, other.size_);

@@ -55,7 +55,7 @@ void KORUndoLog::Open() {
 
 void KORUndoLog::Commit(std::string&& name, std::uint32_t outerStamp) {
     if (outerStamp == 0 && !open_.empty()) {
-        // The open entries' room is used again by the next step; what is kept takes no more than it needs.
+        // What is kept takes no more room than it needs.
         KORUndoEntries entries = open_.TakeAll();
         steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
         steps_.push_back({std::move(name), std::move(entries), ++lastNumber_});

@@ -54,9 +54,12 @@ public:
     /// a stale one for its own only if it was left alone for exactly 2^32 scopes.
     std::uint32_t Stamp() const { return stamp_; }
 
-    /// Keeps what a slot held before it is written: what is needed to go back.
-    const KORValue& Log(KORFeature& feature, KORSlot slot, KORValue&& before) {
-        return open_.Append(feature, slot, std::move(before)).other;
+    /// Room for what is kept next, so that keeping it needs no memory.
+    void MakeRoom() { open_.MakeRoom(); }
+
+    /// Keeps what a slot held before it was written: what is needed to go back. There is room for it.
+    const KORValue& Keep(KORFeature& feature, KORValue&& before) noexcept {
+        return open_.Put(feature, std::move(before));
     }
 
 private:

@@ -28,12 +28,12 @@ KORValue KORValue::OfComponent(KORBaseUnknown* component) noexcept {
 
 KORValue KORValue::EmptyList(KORAttributeKind kind) noexcept {
     KORValue empty(kind);
-    empty.form_.state = KORValueState::Empty;
+    empty.SetState(KORValueState::Empty);
     return empty;
 }
 
 std::uint64_t KORValue::CopyOwned() const {
-    switch (form_.kind) {
+    switch (Kind()) {
         case KORAttributeKind::Boolean:
         case KORAttributeKind::Integer:
         case KORAttributeKind::Double:
@@ -54,7 +54,7 @@ std::uint64_t KORValue::CopyOwned() const {
 }
 
 void KORValue::DropOwned() noexcept {
-    switch (form_.kind) {
+    switch (Kind()) {
         case KORAttributeKind::Boolean:
         case KORAttributeKind::Integer:
         case KORAttributeKind::Double:
@@ -75,7 +75,7 @@ void KORValue::DropOwned() noexcept {
 }
 
 bool KORValue::OwnsSameAs(const KORValue& other) const {
-    switch (form_.kind) {
+    switch (Kind()) {
         case KORAttributeKind::Boolean:
         case KORAttributeKind::Integer:
         case KORAttributeKind::Double:
@@ -106,8 +106,8 @@ KORBaseUnknown_var KORValue::ComponentAt(int position) const {
 
 int KORValue::ListSize() const {
     if (bits_ == 0) return 0;
-    return form_.kind == KORAttributeKind::ListOfDoubles ? KORSharedBuffer<double>::SizeOf(Pointer<double>())
-                                                         : Components()->Size();
+    return Kind() == KORAttributeKind::ListOfDoubles ? KORSharedBuffer<double>::SizeOf(Pointer<double>())
+                                                     : Components()->Size();
 }
 
 void KORValue::Append(KORBaseUnknown* component) {
@@ -115,5 +115,5 @@ void KORValue::Append(KORBaseUnknown* component) {
     auto list = std::make_unique<KORComponentList>();
     list->Append(component);
     bits_ = AddressOf(list.release());
-    form_.state = KORValueState::Valued;
+    SetState(KORValueState::Valued);
 }

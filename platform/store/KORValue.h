@@ -8,6 +8,9 @@
 #include "platform/store/KORAttributeKind.h"
 #include "platform/store/KORComponentList.h"
 
+/// The place of a value in its feature; see KORLayout.
+using KORSlot = std::uint16_t;
+
 /// Never valued and empty are different for a list: the first reads as no list at all. Scalars, strings and
 /// components are never empty. Absent is the slot of an undeclared attribute that its feature does not have.
 enum class KORValueState : std::uint8_t { NeverValued, Empty, Valued, Absent };
@@ -20,7 +23,7 @@ enum class KORValueState : std::uint8_t { NeverValued, Empty, Valued, Absent };
 class KORValue {
 public:
     explicit KORValue(KORAttributeKind kind) noexcept
-        : form_{kind, KORValueState::NeverValued} {}  ///< never valued
+        : rest_(Form(kind, KORValueState::NeverValued)) {}  ///< never valued
 
     static KORValue OfBoolean(bool value) noexcept;
     static KORValue OfInteger(int value) noexcept;
@@ -32,14 +35,13 @@ public:
     static KORValue Absent() noexcept;
 
     KORValue(const KORValue& other)
-        : bits_(other.OwnsNothing() ? other.bits_ : other.CopyOwned()),
-          stamp_(other.stamp_),
-          form_(other.form_) {}
+        : bits_(other.OwnsNothing() ? other.bits_ : other.CopyOwned()), rest_(other.rest_) {}
     KORValue(KORValue&& other) noexcept
         : bits_(std::exchange(other.bits_, 0)),
-          stamp_(std::exchange(other.stamp_, 0)),
-          form_(std::exchange(other.form_, {other.form_.kind, KORValueState::NeverValued})) {}
+          rest_(std::exchange(other.rest_, Form(other.Kind(), KORValueState::NeverValued))) {}
+    /// Stays in its slot.
     KORValue& operator=(KORValue other) noexcept {
+        other.SetSlot(Slot());
         Swap(other);
         return *this;
     }
@@ -49,17 +51,16 @@ public:
 
     void Swap(KORValue& other) noexcept {
         std::swap(bits_, other.bits_);
-        std::swap(stamp_, other.stamp_);
-        std::swap(form_, other.form_);
+        std::swap(rest_, other.rest_);
     }
 
-    KORAttributeKind Kind() const { return form_.kind; }
-    KORValueState State() const { return form_.state; }
+    KORAttributeKind Kind() const { return static_cast<KORAttributeKind>(rest_ >> kKindAt & 0xFF); }
+    KORValueState State() const { return static_cast<KORValueState>(rest_ >> kStateAt & 0xFF); }
 
     /// The same state and the same bits: a NaN equals itself, 0.0 differs from -0.0. Strings and lists are
     /// compared by what they hold.
     bool SameAs(const KORValue& other) const {
-        if (form_ != other.form_) return false;
+        if (Kind() != other.Kind() || State() != other.State()) return false;
         if (bits_ == other.bits_) return true;
         return !OwnsNothing() && other.bits_ != 0 && OwnsSameAs(other);
     }
@@ -80,20 +81,27 @@ public:
 
     /// The undo scope that logged this slot last. It belongs to the slot, not to the value, and travels with
     /// a swap; 0 before the first one.
-    std::uint32_t Stamp() const { return stamp_; }
-    void SetStamp(std::uint32_t stamp) { stamp_ = stamp; }
+    std::uint32_t Stamp() const { return static_cast<std::uint32_t>(rest_); }
+    void SetStamp(std::uint32_t stamp) { rest_ = rest_ >> kKindAt << kKindAt | stamp; }
+
+    /// The slot of a feature in which it stands, or for which an undo entry keeps it; 0 anywhere else.
+    KORSlot Slot() const { return static_cast<KORSlot>(rest_ >> kSlotAt); }
+    void SetSlot(KORSlot slot) { rest_ = (rest_ & (kOneSlot - 1)) | slot * kOneSlot; }
 
 private:
-    struct Form {
-        KORAttributeKind kind;
-        KORValueState state;
-        bool operator==(const Form&) const = default;
-    };
+    static constexpr std::uint64_t Form(KORAttributeKind kind, KORValueState state) {
+        return static_cast<std::uint64_t>(kind) << kKindAt | static_cast<std::uint64_t>(state) << kStateAt;
+    }
 
     KORValue(KORAttributeKind kind, std::uint64_t bits) noexcept
-        : bits_(bits), form_{kind, KORValueState::Valued} {}
+        : bits_(bits), rest_(Form(kind, KORValueState::Valued)) {}
 
-    bool OwnsNothing() const { return bits_ == 0 || form_.kind <= KORAttributeKind::Double; }
+    void SetState(KORValueState state) {
+        rest_ = (rest_ & ~(std::uint64_t{0xFF} << kStateAt)) | std::uint64_t{static_cast<std::uint8_t>(state)}
+                                                                   << kStateAt;
+    }
+
+    bool OwnsNothing() const { return bits_ == 0 || Kind() <= KORAttributeKind::Double; }
     bool OwnsSameAs(const KORValue& other) const;  ///< both own something of the same kind
     std::uint64_t CopyOwned() const;
     void DropOwned() noexcept;
@@ -106,15 +114,21 @@ private:
     KORComponentList* Components() const { return Pointer<KORComponentList>(); }
 
     std::uint64_t bits_ = 0;  ///< the scalar, or the address of what is owned; 0: nothing is owned
-    std::uint32_t stamp_ = 0;
-    Form form_;
+
+    /// The stamp and, from these bits on, kind, state and slot: in one word, so that a value is two registers
+    /// on the way into a feature, and undo exchanges two words.
+    std::uint64_t rest_;
+    static constexpr int kKindAt = 32;
+    static constexpr int kStateAt = 40;
+    static constexpr int kSlotAt = 48;
+    static constexpr std::uint64_t kOneSlot = std::uint64_t{1} << kSlotAt;
 };
 
 static_assert(sizeof(KORValue) == 16);
 
 inline KORValue KORValue::Absent() noexcept {
     KORValue absent(KORAttributeKind::Boolean);
-    absent.form_.state = KORValueState::Absent;
+    absent.SetState(KORValueState::Absent);
     return absent;
 }
 

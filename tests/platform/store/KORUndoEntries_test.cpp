@@ -27,7 +27,7 @@ TEST_F(KORUndoEntriesTest, KeepWhatTheyHoldWhileTheyGrow) {
     ASSERT_EQ(1000u, entries.size());
     for (std::size_t i = 0; i < 1000; ++i) {
         EXPECT_EQ(feature, entries[i].feature);
-        EXPECT_EQ(i % 2 == 0 ? 1 : 2, entries[i].slot);
+        EXPECT_EQ(i % 2 == 0 ? 1 : 2, entries[i].Slot());
         EXPECT_EQ(static_cast<double>(i), entries[i].other.ListOfDoubles()[1]);
     }
     EXPECT_EQ(handles + 1000, feature->References());
@@ -51,29 +51,49 @@ TEST_F(KORUndoEntriesTest, HandAllOverAndAreEmptyThen) {
     EXPECT_EQ(handles, feature->References());
 }
 
+// Many are handed over with their block, and not copied.
+TEST_F(KORUndoEntriesTest, HandVeryManyOverAndAreEmptyThen) {
+    for (int turn = 0; turn < 2; ++turn) {
+        Fill(1000);
+
+        KORUndoEntries all = entries.TakeAll();
+
+        EXPECT_TRUE(entries.empty());
+        ASSERT_EQ(1000u, all.size());
+        Fill(20);
+        EXPECT_EQ(20u, entries.size());
+        EXPECT_EQ(0.0, all[0].other.ListOfDoubles()[1]);
+        EXPECT_EQ(999.0, all[999].other.ListOfDoubles()[1]);
+        EXPECT_EQ(handles + 1020, feature->References());
+        entries.Clear();
+    }
+    EXPECT_EQ(handles, feature->References());
+}
+
 TEST_F(KORUndoEntriesTest, GiveTheLastOneOut) {
     Fill(2);
 
     const KORUndoEntry last = entries.TakeLast();
 
     EXPECT_EQ(1.0, last.other.ListOfDoubles()[1]);
-    EXPECT_EQ(2, last.slot);
+    EXPECT_EQ(2, last.Slot());
     EXPECT_EQ(1u, entries.size());
     EXPECT_EQ(handles + 2, feature->References());
 }
 
 TEST_F(KORUndoEntriesTest, KeepTheirSlotWhenTheirValueIsExchanged) {
     entries.Append(*feature, 0x8001, KORValue::OfDouble(1.0));
-    KORValue before = KORValue::OfListOfDoubles(KORNumbers({2.0}));
-    before.SetStamp(0xFFFFFFFF);
+    entries.begin()->other.SetStamp(0xFFFFFFFF);
+    EXPECT_EQ(0x8001, entries[0].Slot());
 
-    entries.begin()->other.Swap(before);
+    entries.begin()->other = KORValue::OfListOfDoubles(KORNumbers({2.0}));
 
-    EXPECT_EQ(0x8001, entries[0].slot) << "it lies in the value's unused bytes";
+    EXPECT_EQ(0x8001, entries[0].Slot());
     EXPECT_EQ(2.0, entries[0].other.ListOfDoubles()[1]);
-    EXPECT_EQ(1.0, before.Double());
-    entries.begin()->other = KORValue(KORAttributeKind::String);
-    EXPECT_EQ(0x8001, entries[0].slot);
+    entries.begin()->other.SetStamp(0);
+    EXPECT_EQ(0x8001, entries[0].Slot());
+    EXPECT_EQ(KORAttributeKind::ListOfDoubles, entries[0].other.Kind());
+    EXPECT_EQ(KORValueState::Valued, entries[0].other.State());
 }
 
 }  // namespace
