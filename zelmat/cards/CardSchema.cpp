@@ -199,7 +199,7 @@ ordered_json MaterialSchema() {
     ordered_json properties = {
         {"version",
          {{"type", "integer"}, {"minimum", JsonCardReader::kVersion}, {"maximum", JsonCardReader::kVersion}}},
-        {"name", {{"type", "string"}}},
+        {"name", {{"type", "string"}, {"pattern", "\\S"}}},
         {"description", {{"type", "string"}}},
         {"class", {{"type", "string"}}},
         {"source", Reference("text_or_texts")},

@@ -62,7 +62,7 @@ bool JsonCardReader::ReadVersion(const JsonNode& root) const {
 
 void JsonCardReader::ReadHead(const JsonNode& root, Material& material) const {
     const std::vector<std::string> none;
-    if (const auto name = root.Required("name")) material.name = name->Text().value_or("");
+    if (const auto name = root.Required("name")) material.name = name->Name().value_or("");
     if (root.Has("description")) material.description = root.At("description").Text().value_or("");
     if (root.Has("class")) material.materialClass = root.At("class").Text().value_or("");
     if (root.Has("illustrative")) material.illustrative = root.At("illustrative").Flag().value_or(false);

@@ -22,7 +22,8 @@ public:
         line.Add("DOC", document_, "Document").Required();
         line.Add("MATERIAL|NEW.zeldoc", what_, "What is copied; a path alone: the whole document, to there")
             .Required();
-        line.Add("NEW|OTHER.zeldoc", target_, "Name of the copy, or the document that it goes into");
+        line.Add("NEW|OTHER.zeldoc", target_, "Name of the copy, or the document that it goes into")
+            .NotEmpty("a name cannot be empty");
     }
 
     void Work(CommandContext& context) override {
@@ -64,6 +65,7 @@ private:
 
     void CopyWithin(CommandContext& context) {
         Findings& findings = context.findings;
+        if (!target_.empty() && !IsNewName(target_, "zelmat copy", findings)) return;
         const auto document = DocumentToChange::Open(document_, context.options.catalogs, findings);
         if (!document) return;
         const auto material = ChosenMaterial(document->Document(), what_, document_, findings);

@@ -85,9 +85,7 @@ bool FitStore::Write(const Material& now, const Block& changed, CommandContext& 
     step_->Commit();
     const auto saved = SaveChange(*document_, context);
     if (!saved) return false;
-    result.Say("stored", "stored",
-               saved->step ? "step " + std::to_string(saved->step->number) + ": " + saved->step->name
-                           : "nothing has changed");
+    result.Say("stored", "stored", ChangeText(*saved));
     return true;
 }
 

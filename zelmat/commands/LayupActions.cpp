@@ -99,6 +99,7 @@ void LayupActions::Work(CommandContext& context, const std::string& path, const 
     const auto card = changes ? read(stack_, findings) : std::nullopt;
     if (changes && !card) return;
     if (!named) name_ = card->name;
+    if (action_ == "add" && !IsNewName(name_, "zelmat layup", findings)) return;
     Change(context, path, card);
 }
 

@@ -17,10 +17,7 @@ protected:
     }
 
     bool Change(KORMemoryDocument& document, const DocumentMaterial& material, Findings& findings) override {
-        if (name_.empty()) {
-            findings.Add({FindingKind::USAGE, {"zelmat rename", 0}, "usage", "a name cannot be empty", {}});
-            return false;
-        }
+        if (!IsNewName(name_, "zelmat rename", findings)) return false;
         if (material.name != name_ && IsTaken(document, name_, Path(), findings)) return false;
         KORIAlias_var::Of(material.feature.Get())->SetAlias(name_.c_str());
         return true;

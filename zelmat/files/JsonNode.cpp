@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "zelmat/text/NameProblem.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
@@ -62,6 +63,14 @@ bool JsonNode::ExpectKeys(const std::vector<std::string>& known) const {
 std::optional<std::string> JsonNode::Text() const {
     if (json_->is_string()) return json_->get<std::string>();
     ReportKind("a text");
+    return std::nullopt;
+}
+
+std::optional<std::string> JsonNode::Name() const {
+    auto name = Text();
+    const auto problem = name ? NameProblem(*name) : std::nullopt;
+    if (!problem) return name;
+    Report("wrong-value", *problem);
     return std::nullopt;
 }
 

@@ -32,6 +32,7 @@ public:
     /// Reports every key of an object that is none of these.
     bool ExpectKeys(const std::vector<std::string>& known) const;
     std::optional<std::string> Text() const;
+    std::optional<std::string> Name() const;  ///< by which something can be asked for: see NameProblem
     std::optional<bool> Flag() const;
     std::optional<double> Number() const;
     std::optional<int> Whole(int least, int most) const;             ///< a whole number, the bounds included

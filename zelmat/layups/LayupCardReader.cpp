@@ -63,7 +63,7 @@ std::optional<LayupCard> LayupCardReader::ReadText(std::string text, const std::
 
 void LayupCardReader::ReadCard(const JsonNode& root, LayupCard& card) const {
     root.ExpectKeys(kKeys);
-    if (const auto name = root.Required("name")) card.name = name->Text().value_or("");
+    if (const auto name = root.Required("name")) card.name = name->Name().value_or("");
     if (root.Has("description")) card.description = root.At("description").Text().value_or("");
     if (root.Has("source")) {
         card.sources = root.At("source").OneOrMoreTexts().value_or(std::vector<std::string>());

@@ -116,6 +116,19 @@ TEST_F(ConfigCommand, BoundsTheHistoryOfTheDocumentsThatAreChanged) {
     EXPECT_THAT(numbers(), testing::ElementsAre(5));
 }
 
+TEST_F(ConfigCommand, LetsChangesSayThatTheyCannotBeTakenBackWhereNoHistoryIsKept) {
+    const std::string document = folder_ + "/a.zeldoc";
+    Run({"config", "history-steps=0"});
+    Run({"new", document});
+    EXPECT_THAT(Run({"add", document, "two_tables.json"}).out,
+                testing::EndsWith("\nchanged for good: the document keeps no history\n"));
+
+    const json told = json::parse(Run({"set", document, "Two", "description=a", "--json"}).out);
+    EXPECT_EQ(told["changed"], true);
+    EXPECT_EQ(told["step"], nullptr);
+    EXPECT_EQ(Run({"set", document, "Two", "description=a"}).out, "nothing has changed\n");
+}
+
 TEST_F(ConfigCommand, RefusesAWrongAmountOfHistoryByItsName) {
     const ProgramRun run = Run({"config", "history-steps=many", "history-bytes=big"});
 

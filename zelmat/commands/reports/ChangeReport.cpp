@@ -5,16 +5,16 @@
 #include "zelmat/commands/inputs/MaterialChoice.h"
 #include "zelmat/commands/reports/HistoryOrigin.h"
 #include "zelmat/materials/DocumentMaterials.h"
+#include "zelmat/text/NameProblem.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/WordList.h"
 
 namespace zelmat {
 
 std::optional<SavedChange> SaveChange(DocumentToChange& document, CommandContext& context) {
-    SavedChange saved{document.Path(), std::nullopt};
-    const bool changed = document.File().IsModified();
+    SavedChange saved{document.Path(), document.File().IsModified(), std::nullopt};
     if (!document.Save(OriginOf(context), context.findings)) return std::nullopt;
-    if (!changed) return saved;
+    if (!saved.changed) return saved;
     const auto steps = document.File().Steps();
     const auto last =
         std::find_if(steps.rbegin(), steps.rend(), [](const KORHistoryStep& step) { return step.done; });
@@ -22,16 +22,19 @@ std::optional<SavedChange> SaveChange(DocumentToChange& document, CommandContext
     return saved;
 }
 
+std::string ChangeText(const SavedChange& change) {
+    if (!change.changed) return "nothing has changed";
+    if (!change.step) return "changed for good: the document keeps no history";
+    return "step " + std::to_string(change.step->number) + ": " + change.step->name;
+}
+
 void PrintChange(std::ostream& out, const SavedChange& change) {
-    if (!change.step) {
-        out << "nothing has changed\n";
-        return;
-    }
-    out << "step " << change.step->number << ": " << Printable(change.step->name) << '\n';
+    out << Printable(ChangeText(change)) << '\n';
 }
 
 void AddChange(nlohmann::ordered_json& json, const std::optional<SavedChange>& change) {
     json["document"] = nullptr;
+    json["changed"] = change && change->changed;
     json["step"] = nullptr;
     if (!change) return;
     json["document"] = change->document;
@@ -45,6 +48,12 @@ std::optional<DocumentMaterial> ChosenMaterial(KORMemoryDocument& document, cons
     for (const DocumentMaterial& material : materials) names.push_back(material.name);
     const auto chosen = ChooseMaterial(names, wanted, file, findings);
     return chosen ? std::optional(std::move(materials[*chosen])) : std::nullopt;
+}
+
+bool IsNewName(const std::string& name, const std::string& place, Findings& findings) {
+    const auto problem = NameProblem(name);
+    if (problem) findings.Add({FindingKind::USAGE, {place, 0}, "usage", *problem, {}});
+    return !problem;
 }
 
 bool IsTaken(KORMemoryDocument& document, const std::string& name, const std::string& file,
