@@ -29,7 +29,8 @@ public:
     void Work(CommandContext& context) override {
         const CardForm& form = *FindCardForm(form_);
         const std::string& output = context.options.output;
-        if (!output.empty() && output != "-" && std::filesystem::is_directory(output)) {
+        std::error_code none;  // what is no folder is a file, which the writing of it judges
+        if (!output.empty() && output != "-" && std::filesystem::is_directory(output, none)) {
             for (const std::string& path : paths_) ConvertIntoFolder(form, path, output, context);
             return;
         }

@@ -24,7 +24,8 @@ std::string Lower(std::string text) {
 bool MakeFolder(const std::string& path, Findings& findings) {
     std::error_code problem;
     fs::create_directories(path, problem);
-    if (!problem || fs::is_directory(path)) return true;
+    std::error_code none;
+    if (!problem || fs::is_directory(path, none)) return true;
     findings.Add({FindingKind::UNREADABLE,
                   {path, 0},
                   "not-written",

@@ -50,6 +50,18 @@ TEST(ConvertCommand, EndsWithThreeForWhatItCannotReadOrWrite) {
               3);
 }
 
+TEST(ConvertCommand, TellsAFileThatCannotBeMadeByItsName) {
+    const std::string longName = "/tmp/" + std::string(300, 'x');
+    const ProgramRun run = RunZelmat({"convert", "two_tables.json", "--to", "csv", "--output", longName});
+
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_EQ(run.err, longName + ": error[not-written]: cannot be written: File name too long\n");
+    const ProgramRun none = RunZelmat({"convert", "two_tables.json", "--to", "csv", "--output", ""});
+    EXPECT_EQ(none.exitCode, 2);
+    EXPECT_EQ(none.out, "");
+    EXPECT_THAT(none.err, HasSubstr("error[usage]: --output: the name of the file is missing"));
+}
+
 TEST(ConvertCommand, WantsAFormThatThereIs) {
     const ProgramRun run = RunZelmat({"convert", "two_tables.json", "--to", "xml"});
     EXPECT_EQ(run.exitCode, 2);

@@ -21,8 +21,6 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 constexpr uid_t kNobody = 65534;
-constexpr int kKilled = 128 + SIGXFSZ;  // as the shell tells it
-
 /// Does something in a process of its own; the process's number.
 pid_t Start(const std::function<int()>& work) {
     const pid_t child = ::fork();
@@ -47,17 +45,18 @@ protected:
         return File("large.json", R"({"name": "Large", "description": ")" + std::string(200000, 'x') + "\"}");
     }
 
-    /// Adds the large card where no file may become larger than the document is by now. Its save is cut
-    /// short: by a signal that kills, or, where that is ignored, by a write that fails.
-    int AddWithoutRoom(void (*onSignal)(int)) const {
-        const std::string card = LargeCard();
-        return ExitOf(Start([&] {
-            std::signal(SIGXFSZ, onSignal);
-            const rlim_t bytes = std::filesystem::file_size(document_);
+    /// Does something in a process of its own where no file may become larger than this.
+    static pid_t StartWithRoomFor(rlim_t bytes, const std::function<int()>& work) {
+        return Start([&] {
             const rlimit limit{bytes, bytes};
-            if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return -1;
-            return RunZelmat({"add", document_, card}).exitCode;
-        }));
+            return ::setrlimit(RLIMIT_FSIZE, &limit) == 0 ? work() : -1;
+        });
+    }
+
+    /// Runs a command where no file may become larger than the document is by now.
+    int RunWithoutRoom(const std::vector<std::string>& arguments) const {
+        return ExitOf(StartWithRoomFor(std::filesystem::file_size(document_),
+                                       [&] { return RunZelmat(arguments).exitCode; }));
     }
 
     /// Adds the material A as another program would, and does the work after the lock is taken and before
@@ -155,7 +154,23 @@ TEST_F(DocumentsInTrouble, AreReadWhileAnotherChangesThemAndNotChangedWhenThatTa
 TEST_F(DocumentsInTrouble, AreTheOldOnesAfterACommandThatWasKilledInItsSave) {
     Run({"add", document_, Card("A")});
 
-    EXPECT_EQ(AddWithoutRoom(SIG_DFL), kKilled);
+    // As the program does it, but for what it does with the signal: here it kills in the middle of a write.
+    const pid_t child = StartWithRoomFor(std::filesystem::file_size(document_), [this] {
+        zelmat::Findings findings;
+        const auto changed = zelmat::DocumentToChange::Open(document_, CatalogFolderOfTheModule(), findings);
+        KORStep step(changed->Document(), "Add many");
+        for (int i = 0; i < 50; ++i) {
+            const std::string name = "M" + std::to_string(i);
+            if (!zelmat::AddMaterial(changed->Document(), {.file = {}, .name = name}, nullptr, findings))
+                return 1;
+        }
+        step.Commit();
+        return changed->Save({}, findings) ? 0 : 2;
+    });
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status)) << status;
+    EXPECT_EQ(WTERMSIG(status), SIGXFSZ);
 
     EXPECT_THAT(Names(document_), ElementsAre("A"));
     EXPECT_THAT(Run({"doctor", document_}), HasSubstr("sound"));
@@ -167,11 +182,28 @@ TEST_F(DocumentsInTrouble, AreTheOldOnesWhenTheDiskIsFull) {
     Run({"add", document_, Card("A")});
     const std::string before = Contents(document_);
 
-    EXPECT_EQ(AddWithoutRoom(SIG_IGN), 3);
+    EXPECT_EQ(RunWithoutRoom({"add", document_, LargeCard()}), 3);
 
     EXPECT_THAT(Names(document_), ElementsAre("A"));
     EXPECT_TRUE(Contents(document_) == before);
     EXPECT_THAT(Run({"doctor", document_}), HasSubstr("sound"));
+}
+
+TEST_F(DocumentsInTrouble, LeaveNothingBesideThemWhenACommandFindsNoRoom) {
+    Run({"add", document_, LargeCard()});
+    const std::string folder = std::filesystem::path(document_).parent_path().string();
+    const std::size_t files = FilesThere();
+    const auto with = [&](const std::vector<std::string>& arguments) {
+        return ExitOf(StartWithRoomFor(4096, [&] { return RunZelmat(arguments).exitCode; }));
+    };
+
+    EXPECT_EQ(with({"compact", document_}), 3);
+    EXPECT_EQ(with({"copy", document_, folder + "/b.zeldoc"}), 3);
+    EXPECT_EQ(with({"new", folder + "/c.zeldoc"}), 3);
+    EXPECT_EQ(with({"extract", document_, "Large", "--output", folder + "/d.json"}), 3);
+
+    EXPECT_EQ(FilesThere(), files);
+    EXPECT_THAT(Names(document_), ElementsAre("Large"));
 }
 
 TEST_F(DocumentsInTrouble, CanBeLookedAtAndNotChangedWhereNothingMayBeWritten) {

@@ -32,7 +32,9 @@ public:
         : Arguments("zelmat " + kind.name, kind.text) {
         command.Declare(*this);
         options.catalogs = CatalogsOfThisProgram();
-        if (!kind.output.empty()) Add("--output", options.output, kind.output);
+        if (!kind.output.empty()) {
+            Add("--output", options.output, kind.output).NotEmpty("the name of the file is missing");
+        }
         const Argument json = AddFlag("--json", options.json, "Print one JSON object, findings included");
         if (kind.csv) AddFlag("--csv", options.csv, "Print the tables as CSV").Excludes(json);
         if (kind.units) {
@@ -126,10 +128,12 @@ std::string ProgramHelp() {
 Finding UnknownCommand(const std::string& name) {
     std::vector<std::string> known;
     for (const CommandKind& command : Commands()) known.push_back(command.name);
+    if (name.starts_with("-")) {
+        return Usage("zelmat", "unknown-option", Quoted(name) + " stands in the place of the command",
+                     {"options stand behind it: zelmat COMMAND WHAT... " + name});
+    }
     const std::string nearest = NearestName(name, known);
-    const bool option = name.starts_with("-");
-    return Usage("zelmat", option ? "unknown-option" : "unknown-command",
-                 (option ? "there is no option " : "there is no command ") + Quoted(name),
+    return Usage("zelmat", "unknown-command", "there is no command " + Quoted(name),
                  {nearest.empty() ? "known: " + WordList(known) : "did you mean " + nearest + "?"});
 }
 

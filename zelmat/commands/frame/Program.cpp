@@ -5,9 +5,11 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <exception>
 #include <iostream>
+#include <new>
 
 #include "zelmat/commands/CommandTable.h"
 #include "zelmat/commands/frame/ChosenUnits.h"
@@ -153,9 +155,14 @@ void TakeClosedDescriptors() {
 int RunProgram(int argc, char** argv) noexcept {
     try {
         TakeClosedDescriptors();
+        // A file beyond the limit of the user's shell is a write that fails, and no death in the middle of
+        // it.
+        std::signal(SIGXFSZ, SIG_IGN);
         const ExitCode code = Run(Words(argv + (argc > 0 ? 1 : 0), argv + argc));
         Findings lost;
         return FlushOutput(lost) ? code : EndWith(lost, CommonOptions{});
+    } catch (const std::bad_alloc&) {
+        std::cerr << "zelmat: error[failed]: there is not enough memory\n";
     } catch (const std::exception& problem) {
         std::cerr << "zelmat: error[failed]: " << Printable(problem.what()) << '\n';
     }

@@ -14,6 +14,15 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
+TEST(Program, SaysWhereAnOptionBelongsThatStandsBeforeTheCommand) {
+    const ProgramRun run = RunZelmat({"--json", "list"});
+
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err,
+              "zelmat: error[unknown-option]: \"--json\" stands in the place of the command (options stand "
+              "behind it: zelmat COMMAND WHAT... --json)\n");
+}
+
 TEST(Program, EndsWithTwoForAWrongCommandLine) {
     for (const std::vector<std::string>& arguments : std::vector<std::vector<std::string>>{
              {}, {"show"}, {"shwo", "two_tables.json"}, {"show", "two_tables.json", "--loud"}, {"--loud"}}) {
