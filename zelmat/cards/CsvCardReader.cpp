@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <utility>
 
 #include "zelmat/cards/CsvLine.h"
@@ -75,7 +76,8 @@ void CsvCardReader::ReadLine(std::string_view line) {
         return Report("wrong-separator", "commas cannot set columns apart and be decimal signs as well",
                       {"expected ; or a tab between columns"});
     }
-    if (const auto headers = CsvCells(cells, separator_)) return OpenTable(*headers);
+    if (auto headers = CsvCells(WithoutComment(line), separator_))
+        return OpenTable(WithoutEmptyOnes(std::move(*headers)));
     Report("open-quote", "a double quote is not closed");
 }
 
@@ -117,6 +119,16 @@ void CsvCardReader::OpenMaterial() {
     Note(Path());
 }
 
+/// Spreadsheets write separators up to their last used column; columns without a name are none.
+std::vector<std::string> CsvCardReader::WithoutEmptyOnes(std::vector<std::string> headers) {
+    emptyColumns_ = false;
+    while (headers.size() > 1 && headers.back().empty()) {
+        headers.pop_back();
+        emptyColumns_ = true;
+    }
+    return headers;
+}
+
 void CsvCardReader::OpenTable(const std::vector<std::string>& headers) {
     if (block_.empty()) {
         std::vector<std::string> names;
@@ -151,6 +163,11 @@ void CsvCardReader::FindSection(const std::vector<std::string>& names) {
     const auto found = FindTableByColumns(names);
     if (!found) {
         lost_ = true;
+        std::set<std::string> meant;
+        for (const std::string& name : names) {
+            if (meant.insert(PropertyName(name)).second) continue;
+            return Report("repeated-column", "the column " + QuotedText(name) + " is there twice");
+        }
         constexpr std::size_t kMostShown = 10;
         std::string shown;
         for (std::size_t i = 0; i < names.size() && i < kMostShown; ++i)
@@ -183,6 +200,10 @@ void CsvCardReader::FindSection(const std::vector<std::string>& names) {
 
 void CsvCardReader::ReadValue(std::string_view key, std::string_view text) {
     text = WithoutBlanksAround(text);
+    if (text.starts_with('"') && text.find('"', 1) == std::string_view::npos) {
+        return Report("open-quote", "a double quote is not closed",
+                      {"a text in double quotes is as in JSON, all on one line"});
+    }
     std::string name(key);
     if (block_.empty() && materials_.empty()) OpenMaterial();
     Json& section = block_.empty() ? Material() : Section();
@@ -208,6 +229,7 @@ void CsvCardReader::ReadRow(std::string_view line) {
     if (!cells) return Report("open-quote", "a double quote is not closed");
     if (std::all_of(cells->begin(), cells->end(), [](const std::string& cell) { return cell.empty(); }))
         return;
+    while (emptyColumns_ && cells->size() > columns_ && cells->back().empty()) cells->pop_back();
     if (cells->size() != columns_) {
         return Report("ragged-row", "the row has " + std::to_string(cells->size()) + " values",
                       {"expected " + std::to_string(columns_), "as the header has"});

@@ -38,6 +38,7 @@ private:
     void ReadLine(std::string_view line);
     void OpenSection(std::string_view name);
     void OpenMaterial();
+    std::vector<std::string> WithoutEmptyOnes(std::vector<std::string> headers);
     void OpenTable(const std::vector<std::string>& headers);
     void FindSection(const std::vector<std::string>& names);
     void ReadValue(std::string_view key, std::string_view text);
@@ -70,7 +71,8 @@ private:
     std::vector<int>* linesOfRows_ = nullptr;
     bool lost_ = false;  ///< the rows are of a table that there is not
     std::size_t columns_ = 0;
-    bool list_ = false;  ///< the table is a plain list of numbers
+    bool emptyColumns_ = false;  ///< the header ends in columns without a name
+    bool list_ = false;          ///< the table is a plain list of numbers
     char separator_ = ',';
 };
 

@@ -96,9 +96,9 @@ TEST(CsvCardReader, WantsTheUnitOfEveryColumnThatHasOne) {
 }
 
 TEST(CsvCardReader, NamesTheColumnsOfATableThatThereIsNot) {
-    EXPECT_THAT(FindingsOf("E [GPa],E [GPa],nu,\n1,1,0.3,\n"),
+    EXPECT_THAT(FindingsOf("E [GPa],,nu,mood\n1,1,0.3,2\n"),
                 testing::Contains(testing::HasSubstr(
-                    "error[unknown-table]: no table has just the columns 'E', 'E', 'nu', ''")));
+                    "error[unknown-table]: no table has just the columns 'E', '', 'nu', 'mood'")));
 }
 
 TEST(CsvCardReader, TakesBlocksUnderTheNamesOfTheFieldAndTheLineThatSpreadsheetsWrite) {
@@ -106,6 +106,30 @@ TEST(CsvCardReader, TakesBlocksUnderTheNamesOfTheFieldAndTheLineThatSpreadsheets
                 testing::ElementsAre(testing::ElementsAre(210e9, 0.3)));
     EXPECT_THAT(Rows(CardOf("[Elastic]\nE [GPa],nu\n210,0.3\n").Find("elastic")->tables.front()),
                 testing::ElementsAre(testing::ElementsAre(210e9, 0.3)));
+}
+
+TEST(CsvCardReader, PassesOverTheEmptyColumnsThatSpreadsheetsAdd) {
+    for (const char* text :
+         {"E [GPa],nu,,\n210,0.3,,\n200,0.28\n", "E [GPa]\tnu\t\n210\t0.3\t\n200\t0.28\t\n"}) {
+        EXPECT_THAT(Rows(CardOf(text).Find("elastic")->tables[0]),
+                    ElementsAre(ElementsAre(210e9, 0.3), ElementsAre(200e9, 0.28)))
+            << text;
+    }
+    EXPECT_THAT(FindingsOf("E [GPa],nu,\n210,0.3,5\n"),
+                ElementsAre("card.json:2: error[ragged-row]: the row has 3 values (expected 2, as the header "
+                            "has)"));
+}
+
+TEST(CsvCardReader, NamesAColumnThatIsThereTwice) {
+    EXPECT_THAT(
+        FindingsOf("E [GPa],YoungsModulus [MPa],nu\n210,210000,0.3\n"),
+        ElementsAre("card.json:1: error[repeated-column]: the column 'YoungsModulus' is there twice"));
+}
+
+TEST(CsvCardReader, SaysThatTheQuoteOfAValueIsOpen) {
+    EXPECT_THAT(FindingsOf("[material]\nname = \"Steel\n[elastic]\nE [GPa],nu\n210,0.3\n"),
+                ElementsAre("card.json:2: error[open-quote]: a double quote is not closed (a text in double "
+                            "quotes is as in JSON, all on one line)"));
 }
 
 TEST(CsvCardReader, SaysThatAQuoteIsOpen) {
