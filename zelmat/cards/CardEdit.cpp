@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
+#include <sstream>
 #include <utility>
 
 #include "zelmat/cards/CardJson.h"
+#include "zelmat/cards/CardKey.h"
+#include "zelmat/cards/GivenTable.h"
 #include "zelmat/cards/JsonCardReader.h"
 #include "zelmat/cards/PropertyNames.h"
-#include "zelmat/files/ReadText.h"
 #include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/ReadNumber.h"
@@ -49,17 +52,24 @@ QuantityResult<GivenNumber> ReadGiven(const std::string& name, const std::string
     return GivenNumber{measured->number, measured->unit.Spelling()};
 }
 
-/// The only table of a card that has columns and rows, wherever it stands; null when there is not one alone.
-const nlohmann::json* OnlyTable(const nlohmann::json& tree) {
-    if (tree.is_object() && tree.contains("columns") && tree.contains("rows")) return &tree;
-    const nlohmann::json* found = nullptr;
-    if (!tree.is_structured()) return nullptr;
-    for (const nlohmann::json& inner : tree) {
-        const nlohmann::json* table = OnlyTable(inner);
-        if (table && found) return nullptr;
-        if (table) found = table;
+/// "[1, 2.5]", "1, 2.5", "1 2.5"; nothing when one of them is no number.
+QuantityResult<std::vector<double>> ReadNumbers(std::string text) {
+    if (text.starts_with('[') && text.ends_with(']')) text = text.substr(1, text.size() - 2);
+    std::ranges::replace(text, ',', ' ');
+    std::istringstream words(text);
+    std::vector<double> numbers;
+    for (std::string word; words >> word;) {
+        const auto number = ReadNumber(word);
+        if (!number) return number.Error();
+        numbers.push_back(*number);
     }
-    return found;
+    return numbers;
+}
+
+bool IsTableFile(const std::string& value) {
+    std::string ending = value.size() < 4 ? "" : value.substr(value.size() - 4);
+    std::ranges::transform(ending, ending.begin(), [](unsigned char c) { return std::tolower(c); });
+    return ending == ".csv";
 }
 
 bool IsColumnOf(const Json& header, const std::string& column) {
@@ -73,6 +83,18 @@ bool IsOneNumber(const TableKind& table, const std::vector<ColumnKind>& columns)
         return column.name != TemperatureColumn().name;
     });
     return table.name.empty() && data == 1;
+}
+
+/// Where "ply.E1" stands: `E1` in the group `ply`, or, where there is no such group, under its whole name.
+std::pair<Json*, std::string> GroupOf(Json& block, std::string name) {
+    Json* group = &block;
+    for (auto dot = name.find('.'); dot != std::string::npos; dot = name.find('.')) {
+        const auto inner = group->find(name.substr(0, dot));
+        if (inner == group->end() || !inner->is_object()) break;
+        group = &*inner;
+        name.erase(0, dot + 1);
+    }
+    return {group, name};
 }
 
 Json& TableIn(Json& block, const TableKind& table) {
@@ -90,16 +112,19 @@ bool CardEdit::Set(const std::string& change, Findings& findings) {
         return Refuse(findings, "no-change", Quoted(change) + " is no change",
                       {"expected KEY=VALUE: density=\"7.85 g/cm^3\""});
     }
-    const std::string key = change.substr(0, equals);
+    const std::string given = change.substr(0, equals);
+    const std::string key = CardKey(given);
     const std::string value = change.substr(equals + 1);
     if (!keys_.insert(key).second) {
-        return Refuse(findings, "given-twice", Quoted(key) + " is given twice");
+        return Refuse(findings, "given-twice", Quoted(given) + " is given twice",
+                      given == key ? std::vector<std::string>() : std::vector{"it means " + key});
     }
     const auto dot = key.find('.');
-    if (const BlockKind* kind = FindBlockKind(key.substr(0, dot)); kind && !kind->IsUnread()) {
+    if (const BlockKind* kind = FindBlockKind(key.substr(0, dot))) {
+        const std::string member = dot == std::string::npos ? "" : key.substr(dot + 1);
         const Json before = card_;
-        const bool good =
-            SetInBlock(*kind, dot == std::string::npos ? "" : key.substr(dot + 1), value, findings);
+        const bool good = kind->IsUnread() ? SetUnread(*kind, member, value, findings)
+                                           : SetInBlock(*kind, member, value, findings);
         if (!good) card_ = before;
         return good;
     }
@@ -121,14 +146,35 @@ bool CardEdit::SetHead(const std::string& key, const std::string& value, Finding
         card_[key] = *flag;
         return true;
     }
+    if (key == "name") {
+        return Refuse(findings, "unknown-key", "the name is no value of a material",
+                      {"zelmat rename gives it another"});
+    }
     std::vector<std::string> known(kTexts.begin(), kTexts.end());
     known.insert(known.end(), kFlags.begin(), kFlags.end());
-    for (const BlockKind& kind : BlockKinds()) {
-        if (!kind.IsUnread()) known.push_back(kind.name);
-    }
+    for (const BlockKind& kind : BlockKinds()) known.push_back(kind.name);
     const std::string nearest = NearestName(key.substr(0, key.find('.')), known);
     return Refuse(findings, "unknown-key", "there is no key " + Quoted(key),
                   {nearest.empty() ? "known: " + WordList(known) : "did you mean " + nearest + "?"});
+}
+
+bool CardEdit::SetUnread(const BlockKind& kind, const std::string& member, const std::string& value,
+                         Findings& findings) {
+    if (member.empty()) {
+        return Refuse(findings, "unknown-key", kind.name + " is no single value",
+                      {"name one of its values: " + kind.name + ".E1=\"181 GPa\""});
+    }
+    Json& block = Make(kind);
+    if (!block.is_object()) return Refuse(findings, "wrong-type", kind.name + " holds no values with names");
+    const auto [group, name] = GroupOf(block, member);
+    if (value.empty()) {
+        group->erase(name);
+        if (block.empty()) card_.erase(kind.name);
+        return true;
+    }
+    const auto number = ReadNumber(value);
+    (*group)[name] = number ? Json(*number) : Json(value);
+    return true;
 }
 
 bool CardEdit::SetInBlock(const BlockKind& kind, const std::string& member, const std::string& value,
@@ -139,10 +185,14 @@ bool CardEdit::SetInBlock(const BlockKind& kind, const std::string& member, cons
     }
     for (const TableKind& table : kind.tables) {
         const auto columns = ColumnsOf(kind, table);
+        if (table.list) {
+            if (member == table.name) return SetList(kind, table, value, findings);
+            continue;
+        }
         if (member == (table.name.empty() ? "source" : table.name + ".source")) {
             return SetSource(kind, table, value, findings);
         }
-        if (table.name == member && value.ends_with(".csv")) return SetTable(kind, table, value, findings);
+        if (table.name == member && IsTableFile(value)) return SetTable(kind, table, value, findings);
         if (member.empty() && IsOneNumber(table, columns)) {
             return SetNumber(kind, table, columns.front().name, value, findings);
         }
@@ -152,11 +202,24 @@ bool CardEdit::SetInBlock(const BlockKind& kind, const std::string& member, cons
             }
         }
     }
+    return RefuseMember(kind, member, findings);
+}
+
+bool CardEdit::RefuseMember(const BlockKind& kind, const std::string& member, Findings& findings) const {
     const auto known = KeysOf(kind);
+    const auto table = std::find_if(kind.tables.begin(), kind.tables.end(),
+                                    [&](const TableKind& each) { return each.name == member && !each.list; });
+    if (table != kind.tables.end()) {
+        return Refuse(findings, "unknown-key", kind.TableName(*table) + " is no single value",
+                      {"a whole table is a file: " + kind.TableName(*table) + "=FILE.csv",
+                       "known: " + WordList(known)});
+    }
+    if (member.empty()) {
+        return Refuse(findings, "unknown-key", kind.name + " is no single value",
+                      {"known: " + WordList(known)});
+    }
     const std::string nearest = NearestName(member, known);
-    return Refuse(findings, "unknown-key",
-                  member.empty() ? kind.name + " is no single value"
-                                 : kind.name + " has no " + Quoted(member) + " to set",
+    return Refuse(findings, "unknown-key", kind.name + " has no " + Quoted(member) + " to set",
                   {nearest.empty() ? "known: " + WordList(known) : "did you mean " + nearest + "?"});
 }
 
@@ -222,6 +285,14 @@ bool CardEdit::SetNumber(const BlockKind& kind, const TableKind& table, const st
     return true;
 }
 
+bool CardEdit::SetList(const BlockKind& kind, const TableKind& table, const std::string& value,
+                       Findings& findings) {
+    const auto numbers = ReadNumbers(value);
+    if (!numbers) return Refuse(findings, "wrong-value", kind.TableName(table) + ": " + numbers.Error().text);
+    Make(kind)[table.name] = *numbers;
+    return true;
+}
+
 bool CardEdit::SetSource(const BlockKind& kind, const TableKind& table, const std::string& value,
                          Findings& findings) {
     if (!Find(kind, table)) {
@@ -237,29 +308,8 @@ bool CardEdit::SetSource(const BlockKind& kind, const TableKind& table, const st
 
 bool CardEdit::SetTable(const BlockKind& kind, const TableKind& table, const std::string& path,
                         Findings& findings) {
-    auto text = ReadText(path, findings);
-    if (!text) return false;
-    const auto tree = ReadCardTree(std::move(*text), path, findings, how_);
-    if (!tree) return false;
-    const nlohmann::json* given = OnlyTable(tree->Root());
-    if (!given) {
-        findings.Add(
-            {FindingKind::ERROR, {path, 0}, "no-table", "expected one table with a header line", {}});
-        return false;
-    }
-    for (const nlohmann::json& header : given->at("columns")) {
-        const ColumnHeader read = ReadColumnHeader(header.get<std::string>());
-        for (const ColumnKind& column : ColumnsOf(kind, table, true)) {
-            const bool same = read.name == column.name || PropertyName(read.name) == column.name;
-            if (!same || read.hasUnit || column.unit.empty() || column.unit == "-") continue;
-            findings.Add({FindingKind::ERROR,
-                          {path, 0},
-                          "no-unit",
-                          "the column " + Quoted(read.name) + " has no unit",
-                          {"as in " + column.name + " [" + column.unit + "]"}});
-            return false;
-        }
-    }
+    const auto given = ReadGivenTable(path, ColumnsOf(kind, table, true), how_, findings);
+    if (!given) return false;
     Json& json = TableIn(Make(kind), table);
     for (const char* key : {"columns", "rows", "temperature_dependent"}) {
         json.erase(key);
@@ -324,6 +374,7 @@ std::vector<std::string> CardEdit::KeysOf(const BlockKind& kind) const {
     std::vector<std::string> keys;
     for (const TableKind& table : kind.tables) {
         if (!table.name.empty()) keys.push_back(table.name);
+        if (table.list) continue;
         for (const ColumnKind& column : ColumnsOf(kind, table)) {
             keys.push_back(table.name.empty() ? column.name : table.name + "." + column.name);
         }

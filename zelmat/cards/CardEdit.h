@@ -23,9 +23,12 @@ namespace zelmat {
 ///     plastic, gasket.loading          a whole table, from a CSV file with a header line
 ///     elastic.source, gasket.loading.source     of a table that there is
 ///     thermal_expansion.enabled        on, off
+///     user_material.constants          a list: 1, 2.5
+///     other_properties.E1              a value for information, as it is written
 ///     description, class, source, notes, illustrative, heat_generation
 ///
-/// Numbers have their unit with them, and keep it. What a change comes to is checked as a card is, by Read.
+/// or in any of the ways that CardKey knows (E, rho, expansion.Tref). Numbers have their unit with them, and
+/// keep it. What a change comes to is checked as a card is, by Read.
 class CardEdit {
 public:
     /// `place`: what findings call the thing that is changed.
@@ -56,6 +59,10 @@ private:
     bool SetNumber(const BlockKind& kind, const TableKind& table, const std::string& column,
                    const std::string& value, Findings& findings);
     bool SetTable(const BlockKind& kind, const TableKind& table, const std::string& path, Findings& findings);
+    bool SetList(const BlockKind& kind, const TableKind& table, const std::string& value, Findings& findings);
+    bool SetUnread(const BlockKind& kind, const std::string& member, const std::string& value,
+                   Findings& findings);
+    bool RefuseMember(const BlockKind& kind, const std::string& member, Findings& findings) const;
     bool SetSource(const BlockKind& kind, const TableKind& table, const std::string& value,
                    Findings& findings);
     bool Switch(const BlockKind& kind, const std::string& value, Findings& findings);

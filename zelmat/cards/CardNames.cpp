@@ -25,16 +25,6 @@ bool IsSingleValue(const Json& value) {
     return value.is_number() || (value.is_string() && ReadLeadingNumber(value.get_ref<const std::string&>()));
 }
 
-/// The block with one table of its own that has such a column; null when there is none.
-const BlockKind* BlockOfProperty(const std::string& property) {
-    if (property == TemperatureColumn().name) return nullptr;  // every table has one
-    for (const char* name : {"elastic", "density", "thermal_expansion", "conductivity", "specific_heat"}) {
-        const BlockKind* kind = FindBlockKind(name);
-        if (HasColumn(*kind, property)) return kind;
-    }
-    return nullptr;
-}
-
 /// Puts the values of a card in their places and remembers where they stood.
 class Renamer {
 public:

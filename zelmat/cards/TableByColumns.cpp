@@ -38,11 +38,11 @@ std::vector<Values> FormValues(const BlockKind& block) {
 
 }  // namespace
 
-bool HasColumn(const BlockKind& block, const std::string& column) {
-    for (const TableKind& table : block.tables) {
-        if (!table.name.empty()) continue;
+bool HasColumn(const BlockKind& block, const std::string& column, const std::string& table) {
+    for (const TableKind& each : block.tables) {
+        if (each.name != table) continue;
         for (const Values& values : FormValues(block)) {
-            const auto form = table.form(values);
+            const auto form = each.form(values);
             if (!form) continue;
             for (const ColumnKind& kind : form->ColumnsOf(true)) {
                 if (kind.name == column) return true;
@@ -50,6 +50,15 @@ bool HasColumn(const BlockKind& block, const std::string& column) {
         }
     }
     return false;
+}
+
+const BlockKind* BlockOfProperty(const std::string& property) {
+    if (property == TemperatureColumn().name) return nullptr;
+    for (const char* name : {"elastic", "density", "thermal_expansion", "conductivity", "specific_heat"}) {
+        const BlockKind* kind = FindBlockKind(name);
+        if (HasColumn(*kind, property)) return kind;
+    }
+    return nullptr;
 }
 
 std::optional<FoundTable> FindTableByColumns(const std::vector<std::string>& names) {

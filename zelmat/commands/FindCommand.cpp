@@ -1,10 +1,10 @@
 #include <algorithm>
 
+#include "zelmat/cards/Condition.h"
 #include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
 #include "zelmat/commands/inputs/CardInput.h"
 #include "zelmat/commands/inputs/GivenMaterials.h"
-#include "zelmat/materials/Condition.h"
 #include "zelmat/text/Printable.h"
 
 namespace zelmat {

@@ -90,11 +90,16 @@ private:
                const Material& before, const Material& now, Findings& findings) const {
         KORISpecObject* const feature = material.feature.Get();
         WriteBlocks(feature, now, ChangedBlocks(before, now), findings);
+        Findings switching;
         for (const auto& [kind, on] : edit.Switched()) {
             const Block block{.kind = kind, .enabled = on};
-            WriteBlocks(feature, now, {&block}, findings);
+            WriteBlocks(feature, now, {&block}, switching);
         }
         const Material held = ReadHeldMaterial(material, Path(), findings);
+        const bool hasAll =
+            std::all_of(edit.Switched().begin(), edit.Switched().end(),
+                        [&](const auto& each) { return !each.second || HasData(held, *each.first); });
+        if (hasAll) findings.Add(switching);  // what a behavior without data says of itself tells nobody more
         for (const auto& [kind, on] : edit.Switched()) {
             if (on && !HasData(held, *kind)) {
                 findings.Add({FindingKind::ERROR,
@@ -129,10 +134,11 @@ CommandKind SetCommand() {
             .brief = "change values of a material of a document",
             .text =
                 "Change values of a material of a document, in one step that undo takes back. A value is\n"
-                "named as on a card: density=\"7.85 g/cm^3\", elastic.youngs_modulus=205GPa,\n"
+                "named as on a card: density=\"7.85 g/cm^3\", elastic.youngs_modulus=205GPa, E=205GPa,\n"
                 "thermal_expansion.reference_temperature=20degC, plastic=curve.csv (a whole table from a\n"
                 "file with a header line), thermal_expansion.enabled=off, class=metal, heat_generation=on,\n"
-                "density.source=\"own test\". A number has its unit with it. One number for a table of\n"
+                "density.source=\"own test\", other_properties.E1=\"181 GPa\". A number has its unit with "
+                "it. One number for a table of\n"
                 "several rows is refused. The result is checked; with an error that was not there before,\n"
                 "or a value that is refused, nothing changes.",
             .make = &MakeCommand<SetValues>};

@@ -52,6 +52,65 @@ TEST_F(SetCommand, ChangesANumberAndKeepsTheUnitInWhichItIsWritten) {
     EXPECT_EQ(shown["material"]["behaviors"][1]["tables"][0]["rows"], json::parse("[[7900.0]]"));
 }
 
+TEST_F(SetCommand, KnowsTheNamesThatCardsHaveForTheirValues) {
+    EXPECT_EQ(Run({"set", document_, "Steel", "E=205GPa", "elastic.nu=0.29", "rho=7.9 g/cm^3",
+                   "expansion.Tref=25degC"}),
+              "step 2: Set E, elastic.nu, rho, expansion.Tref of Steel\n");
+
+    const json card = Card();
+    EXPECT_EQ(card["elastic"]["rows"], json::parse("[[205, 0.29]]"));
+    EXPECT_EQ(card["density"]["rows"], json::parse("[[7.9]]"));
+    EXPECT_EQ(card["thermal_expansion"]["reference_temperature"], "25 degC");
+}
+
+TEST_F(SetCommand, RefusesOneValueUnderTwoOfItsNames) {
+    EXPECT_THAT(RefusalOf(2, {"density=7900kg/m3", "density.density=7800kg/m3"}),
+                HasSubstr("error[given-twice]: \"density.density\" is given twice (it means density)"));
+    EXPECT_THAT(RefusalOf(2, {"E=200GPa", "elastic.youngs_modulus=210GPa"}), HasSubstr("error[given-twice]"));
+}
+
+TEST_F(SetCommand, TakesAListOfNumbers) {
+    Run({"set", document_, "Steel", "user_material.type=MECHANICAL", "user_material.constants=[1, 2.5]"});
+    EXPECT_EQ(Card()["user_material"]["constants"], json::parse("[1, 2.5]"));
+    Run({"set", document_, "Steel", "user_material.constants=3"});
+    EXPECT_EQ(Card()["user_material"]["constants"], json::parse("[3]"));
+
+    EXPECT_THAT(RefusalOf(2, {"user_material.constants=1,x"}),
+                HasSubstr("error[wrong-value]: user_material.constants: 'x'"));
+}
+
+TEST_F(SetCommand, ChangesWhatIsForInformation) {
+    Run({"set", document_, "Steel", "other_properties.E1=181 GPa", "other_properties.nu12=0.28"});
+    EXPECT_EQ(Card()["other_properties"], json::parse(R"({"E1": "181 GPa", "nu12": 0.28})"));
+
+    Run({"set", document_, "Steel", "other_properties.E1="});
+    EXPECT_EQ(Card()["other_properties"], json::parse(R"({"nu12": 0.28})"));
+    Run({"set", document_, "Steel", "other_properties.nu12="});
+    EXPECT_FALSE(Card().contains("other_properties"));
+}
+
+TEST_F(SetCommand, TakesATableFromAFileWhoseNameIsInCapitals) {
+    Run({"set", document_, "Steel", "elastic=" + File("E.CSV", "E [GPa],nu\n200,0.28\n")});
+
+    EXPECT_EQ(Card()["elastic"]["rows"], json::parse("[[200, 0.28]]"));
+}
+
+TEST_F(SetCommand, RefusesAFileOfTextsInTheirPlaceOrOfNoTable) {
+    for (const char* text : {R"({"columns": [1], "rows": [[1]]})", R"({"columns": ["E [GPa]"], "rows": 1})",
+                             R"({"columns": ["E [GPa]"], "rows": [1]})", "{}"}) {
+        EXPECT_THAT(RefusalOf(1, {"elastic=" + File("t.csv", text), "elastic.poissons_ratio=0.3"}),
+                    HasSubstr("t.csv: error[no-table]: expected one table with a header line"))
+            << text;
+    }
+}
+
+TEST_F(SetCommand, SaysHowANameAndAWholeTableAreChanged) {
+    EXPECT_THAT(RefusalOf(2, {"name=Iron"}), HasSubstr("zelmat rename gives it another"));
+    EXPECT_THAT(RefusalOf(2, {"elastic=205GPa"}),
+                HasSubstr("error[unknown-key]: elastic is no single value (a whole table is a file: "
+                          "elastic=FILE.csv, known: youngs_modulus, poissons_ratio, source, enabled)"));
+}
+
 TEST_F(SetCommand, IsTakenBackByUndo) {
     const json before = Card();
     Run({"set", document_, "Steel", "elastic.youngs_modulus=205GPa", "class=steel", "heat_generation=on"});
@@ -98,6 +157,9 @@ TEST_F(SetCommand, SwitchesABehaviorOffAndOnWithAllItsData) {
 
 TEST_F(SetCommand, RefusesToSwitchOnWhatHasNoData) {
     EXPECT_THAT(RefusalOf(1, {"specific_heat.enabled=on"}), HasSubstr("error[no-data]"));
+    EXPECT_EQ(RefusalOf(1, {"gasket.enabled=on"}),
+              "a.zeldoc: error[no-data]: gasket of Steel has no data to be switched on (give it some: zelmat "
+              "set with a number or a table)\n");
 }
 
 TEST_F(SetCommand, RefusesANumberWithoutItsUnit) {

@@ -13,7 +13,8 @@ namespace zelmat {
 /// A bound that a value of a material is held against: "elastic.youngs_modulus@20degC > 60GPa".
 ///
 /// The value is named as a card names it: a block with one column ("density"), a column of a table
-/// ("elastic.youngs_modulus", "gasket.loading.pressure"), or a number beside the tables. Without "@" every
+/// ("elastic.youngs_modulus", "gasket.loading.pressure"), or a number beside the tables; or in any of the
+/// other ways that CardKey knows ("E", "rho"). Without "@" every
 /// row of the table has to keep the bound. With a temperature it is the value there, linear between the rows;
 /// of several rows of one temperature, each. Outside the temperatures of the table there is none; a table
 /// that is not temperature dependent holds at every temperature.
@@ -38,7 +39,7 @@ private:
     double bound_ = 0.0;  ///< as stored
 };
 
-/// Conditions with "and" between them, all of which have to be met.
+/// Conditions with "and" between them, in small letters or capitals, all of which have to be met.
 QuantityResult<std::vector<Condition>> ReadConditions(std::string_view text);
 
 }  // namespace zelmat

@@ -1,10 +1,12 @@
-#include "zelmat/materials/Condition.h"
+#include "zelmat/cards/Condition.h"
 
 #include <algorithm>
+#include <cctype>
 #include <cmath>
 #include <map>
 #include <utility>
 
+#include "zelmat/cards/CardKey.h"
 #include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/quantities/ReadNumber.h"
@@ -83,9 +85,10 @@ const std::vector<Target>& Targets() {
 }
 
 QuantityResult<Target> FindTarget(std::string_view key) {
+    const std::string wanted = CardKey(key);
     std::vector<std::string> keys;
     for (const Target& target : Targets()) {
-        if (target.key == key) return target;
+        if (target.key == wanted) return target;
         keys.push_back(target.key);
     }
     const std::string nearest = NearestName(std::string(key), keys);
@@ -100,13 +103,30 @@ QuantityResult<double> ReadBound(const Target& target, std::string_view text) {
     return measured ? measured->Stored(*quantity) : QuantityResult<double>(measured.Error());
 }
 
+/// What somebody may have meant who wrote more than a number with its unit.
+std::string MoreThanANumber(std::string_view text) {
+    const bool another = text.find_first_of("<>&|,;") != std::string_view::npos;
+    return another ? "; between conditions stands and: there is no or, and none has two bounds" : "";
+}
+
+/// Where the next "and" is that stands by itself; the end when there is none.
+std::size_t FindAnd(std::string_view text) {
+    constexpr std::string_view kAnd = " and ";
+    const auto same = [](char one, char other) {
+        const auto letter = static_cast<unsigned char>(one);
+        return (std::isspace(letter) != 0 ? ' ' : static_cast<char>(std::tolower(letter))) == other;
+    };
+    return static_cast<std::size_t>(std::ranges::search(text, kAnd, same).begin() - text.begin());
+}
+
 }  // namespace
 
 QuantityResult<Condition> Condition::Read(std::string_view text) {
     const auto sign = text.find_first_of("<>");
     if (sign == std::string_view::npos) {
         return QuantityError{QuotedText(Trimmed(text)) +
-                             " is no condition; expected one as in density<3000kg/m3"};
+                             " is no condition; expected KEY < NUMBER, as in density<3000kg/m3, with one of "
+                             "< <= > >="};
     }
     const bool orEqual = sign + 1 < text.size() && text[sign + 1] == '=';
     Condition condition;
@@ -117,13 +137,15 @@ QuantityResult<Condition> Condition::Read(std::string_view text) {
         const auto measured = ReadMeasured(Trimmed(key.substr(at + 1)), quantity);
         const auto stored = measured ? measured->Stored(quantity) : QuantityResult<double>(measured.Error());
         if (!stored) return stored.Error();
+        if (*stored < 0.0) return QuantityError{QuotedText(Trimmed(key)) + " is below absolute zero"};
         condition.temperature_ = *stored;
         key = key.substr(0, at);
     }
     const auto target = FindTarget(Trimmed(key));
     if (!target) return target.Error();
-    const auto bound = ReadBound(*target, Trimmed(text.substr(sign + condition.operator_.size())));
-    if (!bound) return QuantityError{target->key + ": " + bound.Error().text};
+    const std::string_view rest = Trimmed(text.substr(sign + condition.operator_.size()));
+    const auto bound = ReadBound(*target, rest);
+    if (!bound) return QuantityError{target->key + ": " + bound.Error().text + MoreThanANumber(rest)};
     condition.block_ = target->block;
     condition.table_ = target->table;
     condition.name_ = target->name;
@@ -188,15 +210,15 @@ bool Condition::KeepsAt(const Column& column, const Column& temperatures) const 
 }
 
 QuantityResult<std::vector<Condition>> ReadConditions(std::string_view text) {
-    constexpr std::string_view kAnd = " and ";
+    constexpr std::size_t kAnd = 5;  // with the blanks around it
     std::vector<Condition> conditions;
     for (;;) {
-        const auto end = text.find(kAnd);
+        const auto end = FindAnd(text);
         const auto condition = Condition::Read(text.substr(0, end));
         if (!condition) return condition.Error();
         conditions.push_back(*condition);
-        if (end == std::string_view::npos) return conditions;
-        text.remove_prefix(end + kAnd.size());
+        if (end == text.size()) return conditions;
+        text.remove_prefix(end + kAnd);
     }
 }
 
