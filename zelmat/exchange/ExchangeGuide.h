@@ -34,7 +34,8 @@ comments. Keywords that describe no material are skipped and named, once each. A
 large. Numbers may be Fortran's (`2.1D5`, `2.1+5`). Constants with directions (`*ELASTIC, TYPE=ENGINEERING CONSTANTS` or
 `ORTHO`, `*EXPANSION, TYPE=ORTHO`, for one temperature) become ply constants. `--layup ELSET` makes a layup card of that
 set's `*SHELL SECTION, COMPOSITE`, whose orientations lie in the plane x-y. What a card has no place for is a finding with
-its line, as is a file of `*INCLUDE`, a number that CalculiX cuts off or takes for 0; a line that cannot be read stops the
+its line, as is a parameter that is not heeded (`MODULI`), a potential that CalculiX does not know (and would run as a
+polynomial), a file of `*INCLUDE`, a number that CalculiX cuts off or takes for 0; a line that cannot be read stops the
 import. Export, import and export give the same cards again, but for the comments.
 
 **Prove** writes the material's CalculiX deck, runs the solver on models of one or two elements in a temporary folder and
@@ -45,8 +46,8 @@ conduction), 1e-5 (specific heat, where a table may bend sharply), 1e-4 (isotrop
 (kinematic hardening to 1 % with NLGEOM; rubber). User materials are exported and not proven; layups are held against
 laminate theory in the tests alone. `--keep-deck` leaves the models in a folder, also those of a run that fails; `--deck`
 proves the material cards of a deck that somebody has written or changed, in place of those of `export`. A run may take
-60 s, or `--timeout`; it leaves nothing behind, also when it is interrupted. On Debian the solver is the package
-`calculix-ccx`.
+60 s, or `--timeout`, and write 512 MB; it leaves nothing behind, no process either, also when it is interrupted. On
+Debian the solver is the package `calculix-ccx`.
 
 **The other forms** have no solver here. Their keywords and columns are those of the solvers' manuals as we know them, which
 were not at hand (`/MAT/PLAS_TAB` and `/MAT/OGDEN` above all); tests hold the decks against that grammar and their numbers

@@ -218,6 +218,74 @@ TEST(ReadCalculix, TellsConstantsWithDirectionsOverTemperature) {
                             "temperature"));
 }
 
+TEST(ReadCalculix, ReadsNoPotentialThatItDoesNotKnowAsAnother) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=M\n*DENSITY\n1100.\n*HYPERELASTIC, VAN DER WAALS\n1e6, 10., 0.3\n"
+        "*HYPERELASTIC, OGDEN, N=1, TEST DATA INPUT\n*UNIAXIAL TEST DATA\n1e6, 0.1\n");
+
+    ASSERT_EQ(deck.materials.size(), 1U);
+    EXPECT_THAT(deck.materials[0].fits, IsEmpty());
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre("card.json:4: warning[not-imported]: *HYPERELASTIC: 'VANDERWAALS' is no potential "
+                    "that is read here, nor are tests in its place",
+                    "card.json:6: warning[not-imported]: *HYPERELASTIC: 'TESTDATAINPUT' is no "
+                    "potential that is read here, nor are tests in its place",
+                    "card.json:7: warning[not-imported]: *UNIAXIALTESTDATA: a material has no place "
+                    "for it"));
+}
+
+TEST(ReadCalculix, TellsParametersThatItDoesNotHeed) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=M\n*ELASTIC, MODULI=LONG TERM\n1e9, .3\n*DENSITY, DEPENDENCIES=1\n1100.\n"
+        "*EXPANSION, USER\n*CONDUCTIVITY, DEPENDENCIES=0\n1.\n");
+
+    EXPECT_EQ(Rows(deck.Block("elastic").tables[0]), (Lists{{1e9, 0.3}}));
+    EXPECT_EQ(deck.materials[0].Find("density"), nullptr);
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre(
+            "card.json:2: warning[unknown-parameter]: *ELASTIC: 'MODULI' is not heeded, and the card "
+            "read as without it",
+            "card.json:4: warning[not-imported]: *DENSITY: it depends on field variables, too",
+            "card.json:6: warning[not-imported]: *EXPANSION: a routine of the user says it",
+            "card.json:7: warning[unknown-parameter]: *CONDUCTIVITY: 'DEPENDENCIES' is not heeded, and "
+            "the card read as without it"));
+}
+
+TEST(ReadCalculix, ReadsStateVariablesBeforeAndAfterTheirUserMaterial) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=A\n*DEPVAR\n3\n*USER MATERIAL, CONSTANTS=2, UNSYMM\n1., 2.\n"
+        "*MATERIAL,NAME=B\n*DEPVAR\n4\n*DENSITY\n1.\n"
+        "*MATERIAL,NAME=C\n*USER MATERIAL, CONSTANTS=1, TYPE=THERMAL\n1.\n*DEPVAR\n2\n1, EQ, \"strain\"\n");
+
+    EXPECT_EQ(deck.Block("user_material").values.Get<int>("state_variables"), 3);
+    EXPECT_EQ(deck.Block("user_material").values.Get<bool>("unsymmetric"), true);
+    EXPECT_EQ(deck.Block("user_material", 2).values.Get<int>("state_variables"), 2);
+    EXPECT_THAT(
+        deck.findings,
+        ElementsAre("card.json:7: warning[not-imported]: *DEPVAR: there is no *USER MATERIAL beside it",
+                    "card.json:14: warning[not-imported]: *DEPVAR: the names of state variables"));
+}
+
+TEST(ReadCalculix, TellsNumbersBehindTheConstantsOfAUserMaterial) {
+    const ReadDeck deck(
+        "*MATERIAL,NAME=A\n*USER MATERIAL, CONSTANTS=2\n1., 2., 3., 4.\n"
+        "*MATERIAL,NAME=B\n*USER MATERIAL, CONSTANTS=2\n1., 2., 293.\n"
+        "*MATERIAL,NAME=C\n*USER MATERIAL, CONSTANTS=1, TYPE=ELECTRICAL\n1.\n");
+
+    EXPECT_EQ(Rows(deck.Block("user_material").tables[0]), (Lists{{1.0}, {2.0}}));
+    EXPECT_THAT(deck.findings,
+                ElementsAre("card.json:2: warning[not-imported]: *USERMATERIAL: the numbers behind its 2 "
+                            "constants and their temperature",
+                            "card.json:8: warning[not-imported]: *USERMATERIAL: TYPE=ELECTRICAL is neither "
+                            "mechanical nor thermal"));
+}
+
+TEST(ReadCalculix, TakesNamesOutOfTheirQuotes) {
+    EXPECT_EQ(ReadDeck("*MATERIAL, NAME=\"My steel\"\n*DENSITY\n7850.\n").materials.at(0).name, "My steel");
+}
+
 TEST(ReadCalculix, NamesLineAndReasonOfABadDeck) {
     const auto first = [](const std::string& text) {
         const ReadDeck deck(text);

@@ -18,6 +18,12 @@ std::string Upper(std::string_view text) {
     return upper;
 }
 
+/// Names may stand between quotes, which are no part of them.
+std::string_view WithoutQuotes(std::string_view word) {
+    const bool quoted = word.size() >= 2 && word.front() == '"' && word.back() == '"';
+    return quoted ? word.substr(1, word.size() - 2) : word;
+}
+
 std::vector<std::string_view> Words(std::string_view line) {
     std::vector<std::string_view> words;
     for (bool more = true; more;) {
@@ -60,9 +66,9 @@ DeckKeyword ReadKeyword(const std::string& line, int number) {
         const auto value = equals == std::string_view::npos
                                ? std::string_view()
                                : WithoutBlanksAround(words[at].substr(equals + 1));
-        keyword.parameters[name] = Upper(value);
-        if (name == "NAME") keyword.name = value;
-        if (name == "ELSET") keyword.set = value;
+        keyword.parameters[name] = Upper(WithoutQuotes(value));
+        if (name == "NAME") keyword.name = WithoutQuotes(value);
+        if (name == "ELSET") keyword.set = WithoutQuotes(value);
     }
     return keyword;
 }
@@ -129,7 +135,7 @@ std::vector<DeckWords> DeckCards::Lines() {
     std::vector<DeckWords> all;
     while (hasHeld_ ? !held_.starts_with('*') : NextLine() && !held_.starts_with('*')) {
         DeckWords& line = all.emplace_back(DeckWords{lines_.Number(), {}});
-        for (const std::string_view word : Words(held_)) line.words.emplace_back(word);
+        for (const std::string_view word : Words(held_)) line.words.emplace_back(WithoutQuotes(word));
         hasHeld_ = false;
     }
     return all;
