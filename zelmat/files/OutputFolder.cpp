@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "zelmat/files/LockedFolder.h"
 #include "zelmat/files/OpenFile.h"
 #include "zelmat/files/SignalHold.h"
 
@@ -46,23 +47,14 @@ private:
 /// A folder within the one that is written to, from which files go to their places by their names alone.
 class Stage {
 public:
-    explicit Stage(const fs::path& folder) {
-        std::string wanted = folder / ".zelmat-XXXXXX";
-        if (::mkdtemp(wanted.data())) path_ = wanted;
-    }
-    ~Stage() {
-        std::error_code ignored;
-        if (!path_.empty()) fs::remove_all(path_, ignored);
-    }
-    Stage(const Stage&) = delete;
-    Stage& operator=(const Stage&) = delete;
+    explicit Stage(const fs::path& folder) : folder_(folder, ".zelmat-output-") {}
 
-    bool IsThere() const { return !path_.empty(); }
-    fs::path New(std::size_t at) const { return path_ / ("new" + std::to_string(at)); }
-    fs::path Old(std::size_t at) const { return path_ / ("old" + std::to_string(at)); }
+    bool IsThere() const { return folder_.Exists(); }
+    fs::path New(std::size_t at) const { return folder_.Path() / fs::path("new" + std::to_string(at)); }
+    fs::path Old(std::size_t at) const { return folder_.Path() / fs::path("old" + std::to_string(at)); }
 
 private:
-    fs::path path_;
+    LockedFolder folder_;
 };
 
 class FolderWriter {
@@ -120,17 +112,25 @@ private:
         return written || Failed(named, "cannot be written");
     }
 
+    /// The old file stays in its place until the new one takes it, so that there is always one.
     bool TakePlace(const Stage& stage, std::size_t at) const {
-        const bool moved = ::rename(targets_[at].c_str(), stage.Old(at).c_str()) == 0;
-        if (!moved && errno != ENOENT) return false;
-        return ::rename(stage.New(at).c_str(), targets_[at].c_str()) == 0;
+        return KeepOld(targets_[at], stage.Old(at)) &&
+               ::rename(stage.New(at).c_str(), targets_[at].c_str()) == 0;
     }
 
-    /// Files before `failed` have their new text; `failed` itself may have lost its old one.
+    /// A second name for the file, or a copy where the file system has none.
+    static bool KeepOld(const fs::path& target, const fs::path& old) {
+        if (::link(target.c_str(), old.c_str()) == 0 || errno == ENOENT) return true;
+        std::error_code problem;
+        fs::copy_file(target, old, problem);
+        errno = problem.value();
+        return !problem;
+    }
+
+    /// Files before `failed` have their new text.
     void TakeBack(const Stage& stage, std::size_t failed) const {
-        for (std::size_t at = 0; at <= failed; ++at) {
-            if (at < failed) ::unlink(targets_[at].c_str());
-            ::rename(stage.Old(at).c_str(), targets_[at].c_str());
+        for (std::size_t at = 0; at < failed; ++at) {
+            if (::rename(stage.Old(at).c_str(), targets_[at].c_str()) != 0) ::unlink(targets_[at].c_str());
         }
     }
 

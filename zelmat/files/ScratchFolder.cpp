@@ -1,7 +1,5 @@
 #include "zelmat/files/ScratchFolder.h"
 
-#include <stdlib.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
@@ -12,6 +10,14 @@ namespace zelmat {
 
 namespace {
 
+constexpr const char* kPrefix = "zelmat-scratch-";
+
+std::filesystem::path Parent() {
+    std::error_code none;
+    const auto parent = std::filesystem::temp_directory_path(none);
+    return none ? std::filesystem::path("/tmp") : parent;
+}
+
 void Report(const std::string& path, std::string text, Findings& findings) {
     const std::string reason = std::generic_category().message(errno);
     findings.Add({FindingKind::UNREADABLE, {path, 0}, "not-written", std::move(text), {reason}});
@@ -19,24 +25,13 @@ void Report(const std::string& path, std::string text, Findings& findings) {
 
 }  // namespace
 
-ScratchFolder::ScratchFolder(Findings& findings) {
-    std::error_code none;
-    const auto parent = std::filesystem::temp_directory_path(none);
-    std::string wanted = (none ? std::filesystem::path("/tmp") : parent) / "zelmat-XXXXXX";
-    if (::mkdtemp(wanted.data())) {
-        path_ = wanted;
-    } else {
-        Report(wanted, "a folder for intermediate files cannot be made", findings);
-    }
-}
-
-ScratchFolder::~ScratchFolder() {
-    std::error_code ignored;
-    if (Exists()) std::filesystem::remove_all(path_, ignored);
+ScratchFolder::ScratchFolder(Findings& findings) : folder_(Parent(), kPrefix) {
+    if (Exists()) return;
+    Report(Parent() / kPrefix, "a folder for intermediate files cannot be made", findings);
 }
 
 bool ScratchFolder::Write(const std::string& name, const std::string& text, Findings& findings) const {
-    const std::string path = path_ + "/" + name;
+    const std::string path = Path() + "/" + name;
     errno = 0;
     std::ofstream file(path, std::ios::binary);
     file << text;
@@ -46,10 +41,12 @@ bool ScratchFolder::Write(const std::string& name, const std::string& text, Find
 }
 
 std::string ScratchFolder::Read(const std::string& name, std::size_t most) const {
-    std::ifstream file(path_ + "/" + name, std::ios::binary);
     std::string text;
     std::error_code none;
-    const auto size = std::filesystem::file_size(path_ + "/" + name, none);
+    // A pipe would be waited for.
+    if (!std::filesystem::is_regular_file(Path() + "/" + name, none)) return text;
+    std::ifstream file(Path() + "/" + name, std::ios::binary);
+    const auto size = std::filesystem::file_size(Path() + "/" + name, none);
     if (none || !file) return text;
     text.resize(std::min<std::size_t>(most, size));
     file.read(text.data(), static_cast<std::streamsize>(text.size()));

@@ -2,23 +2,24 @@
 
 #include <string>
 
+#include "zelmat/files/LockedFolder.h"
 #include "zelmat/files/SignalHold.h"
 #include "zelmat/findings/Findings.h"
 
 namespace zelmat {
 
 /// A folder of the program's own for files that go with it, under TMPDIR. Signals that would end the program
-/// wait as long as it stands, so that nothing stays behind.
+/// wait as long as it stands, so that nothing stays behind; what one leaves that is killed goes with the
+/// next.
 class ScratchFolder {
 public:
     /// A finding when it cannot be made.
     explicit ScratchFolder(Findings& findings);
-    ~ScratchFolder();
     ScratchFolder(const ScratchFolder&) = delete;
     ScratchFolder& operator=(const ScratchFolder&) = delete;
 
-    bool Exists() const { return !path_.empty(); }
-    const std::string& Path() const { return path_; }
+    bool Exists() const { return folder_.Exists(); }
+    const std::string& Path() const { return folder_.Path(); }
 
     /// Writes a file in it. A finding when that fails.
     [[nodiscard]] bool Write(const std::string& name, const std::string& text, Findings& findings) const;
@@ -29,7 +30,7 @@ public:
 
 private:
     SignalHold hold_;
-    std::string path_;
+    LockedFolder folder_;
 };
 
 }  // namespace zelmat

@@ -1,11 +1,13 @@
 #include "zelmat/files/ChildProgram.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <iterator>
 
 namespace {
 
@@ -110,6 +112,36 @@ TEST(ScratchFolder, GoesWithAllThatIsInIt) {
         std::filesystem::create_directory(path + "/b");
     }
     EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(ScratchFolder, GoesWithTheNextOneWhenTheProgramWasKilled) {
+    namespace fs = std::filesystem;
+    const std::string place = testing::TempDir() + "zelmat-killed-" + std::to_string(getpid());
+    const std::string own = place + "/zelmat-scratch-folder";
+    fs::create_directories(own);
+    ::setenv("TMPDIR", place.c_str(), 1);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        Findings findings;
+        const ScratchFolder folder(findings);
+        static_cast<void>(folder.Write("a", "text", findings));
+        ::kill(::getpid(), SIGKILL);
+    }
+    ::waitpid(child, nullptr, 0);
+    const auto count = [&] { return std::distance(fs::directory_iterator(place), fs::directory_iterator()); };
+    ASSERT_EQ(count(), 2);
+
+    {
+        Findings findings;
+        const ScratchFolder one(findings), other(findings);
+        EXPECT_EQ(count(), 3);
+        EXPECT_TRUE(one.Exists() && fs::exists(one.Path()));
+        EXPECT_TRUE(other.Exists() && fs::exists(other.Path()));
+    }
+    EXPECT_EQ(count(), 1);
+    EXPECT_TRUE(fs::exists(own)) << "a folder of the user's own";
+    ::unsetenv("TMPDIR");
+    fs::remove_all(place);
 }
 
 TEST(ScratchFolder, SaysThatAFileCannotBeWritten) {

@@ -2,10 +2,12 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -61,6 +63,27 @@ TEST_F(OutputFolder, LeavesWhatElseLiesThere) {
     EXPECT_EQ(Text(root_ + "/x"), "new");
     EXPECT_EQ(std::filesystem::status(root_ + "/x").permissions(), std::filesystem::perms(0640));
     EXPECT_THAT(In(root_), UnorderedElementsAre("mine", "x"));
+}
+
+TEST_F(OutputFolder, HasTheOldFileUntilTheNewOneIsThere) {
+    std::ofstream(root_ + "/x") << "old";
+    const int watch = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+    ASSERT_GE(::inotify_add_watch(watch, root_.c_str(), IN_MOVED_FROM | IN_DELETE | IN_MOVED_TO), 0);
+
+    ASSERT_TRUE(WriteOutputFolder(root_, {{"x", "new"}}, findings_));
+
+    alignas(inotify_event) std::array<char, 4096> seen{};
+    const ssize_t size = ::read(watch, seen.data(), seen.size());
+    ::close(watch);
+    std::vector<std::string> happened;
+    for (ssize_t at = 0; at < size;) {
+        const auto* event = reinterpret_cast<const inotify_event*>(seen.data() + at);
+        if (event->len > 0 && std::string(event->name) == "x")
+            happened.emplace_back((event->mask & IN_MOVED_TO) != 0 ? "comes" : "goes");
+        at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+    }
+    EXPECT_THAT(happened, ElementsAre("comes"));
+    EXPECT_EQ(Text(root_ + "/x"), "new");
 }
 
 TEST_F(OutputFolder, FollowsALink) {
