@@ -58,7 +58,8 @@ public:
             constexpr double kSectionAxes = 112.0;
             end = std::max(stackBottom_ + kSectionAxes, Legend());
         }
-        return sheet_.Finished(kWidth, end + kMargin, picture_.title);
+        constexpr double kEms = 60.0;  // as much of a name as somebody would read out
+        return sheet_.Finished(kWidth, end + kMargin, ShortenedText(Printable(picture_.title), kEms, 1.0));
     }
 
 private:

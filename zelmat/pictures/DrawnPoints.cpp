@@ -28,8 +28,7 @@ std::vector<PicturePoint> DrawnPoints(const std::vector<PicturePoint>& points, c
     if (points.size() <= kAllDrawn) return points;
     // Where a point is no number it breaks the line, which is a run of its own.
     const auto pixel = [&](const PicturePoint& point) {
-        return std::isfinite(point.y) ? std::floor((point.x - x.lower) / (x.upper - x.lower) * kPixels)
-                                      : -kPixels;
+        return IsDrawn(point) ? std::floor((point.x - x.lower) / (x.upper - x.lower) * kPixels) : -kPixels;
     };
     std::vector<PicturePoint> drawn;
     for (auto begin = points.begin(); begin != points.end();) {

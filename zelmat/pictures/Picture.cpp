@@ -7,12 +7,15 @@
 #include "zelmat/pictures/GnuplotText.h"
 #include "zelmat/pictures/PictureRange.h"
 #include "zelmat/quantities/NumberText.h"
+#include "zelmat/text/Printable.h"
+#include "zelmat/text/WrappedText.h"
 
 namespace zelmat {
 
 namespace {
 
 constexpr int kDigits = 4;
+constexpr double kGreatestDrawn = 1e300, kLeastDrawn = 1e-300;
 
 std::string NumberWithUnit(double number, const std::string& unit) {
     const std::string text = RoundedText(number, kDigits);
@@ -25,11 +28,16 @@ std::string Span(const PictureRange& range, const std::string& unit) {
 
 }  // namespace
 
+std::string SpokenName(const std::string& name) {
+    constexpr double kEms = 60.0;
+    return ShortenedText(Printable(name), kEms, 1.0);
+}
+
 std::string Description(const Picture& picture) {
-    std::string text = picture.title + ": " + picture.what + ".";
+    std::string text = SpokenName(picture.title) + ": " + picture.what + ".";
     if (picture.kind == PictureKind::BARS) {
         for (const PictureBar& bar : picture.bars) {
-            text += " " + bar.label + ": " + NumberWithUnit(bar.value, picture.x.unit) + ";";
+            text += " " + SpokenName(bar.label) + ": " + NumberWithUnit(bar.value, picture.x.unit) + ";";
         }
         return text;
     }
@@ -43,11 +51,15 @@ std::string Description(const Picture& picture) {
     return text;
 }
 
+bool IsDrawn(const PicturePoint& point) {
+    return std::abs(point.x) <= kGreatestDrawn && std::abs(point.y) <= kGreatestDrawn;
+}
+
 std::optional<PictureRange> RangeOf(const Picture& picture, double PicturePoint::*coordinate) {
     std::optional<PictureRange> range;
     for (const Series& series : picture.series) {
         for (const PicturePoint& point : series.points) {
-            if (!std::isfinite(point.x) || !std::isfinite(point.y)) continue;
+            if (!IsDrawn(point)) continue;
             const double value = point.*coordinate;
             if (!range) range = PictureRange{value, value};
             range->lower = std::min(range->lower, value);
@@ -61,8 +73,9 @@ PictureRange WithMargin(PictureRange range, bool fromZero) {
     constexpr double kMargin = 0.05, kFlat = 1e-9;
     const double greatest = std::max(std::abs(range.lower), std::abs(range.upper));
     const bool zero = fromZero && range.lower >= 0.0;
+    if (greatest < kLeastDrawn) return {zero ? 0.0 : -1.0, 1.0};
     if (range.upper - range.lower <= kFlat * greatest) {
-        const double room = greatest > 0.0 ? 0.1 * greatest : 1.0;
+        const double room = 0.1 * greatest;
         return {zero ? 0.0 : range.lower - room, range.upper + room};
     }
     const double room = kMargin * (range.upper - range.lower);

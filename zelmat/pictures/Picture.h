@@ -60,6 +60,9 @@ struct Picture {
     std::vector<std::string> notes = {};  ///< below the picture: sources, what was left out
 };
 
+/// Whose picture it is, for descriptions: of a long name the beginning, as somebody would read it out.
+std::string SpokenName(const std::string& name);
+
 /// For those who do not see it: what is drawn, over which range, of how many series.
 std::string Description(const Picture& picture);
 

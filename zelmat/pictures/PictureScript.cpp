@@ -68,6 +68,12 @@ bool HasManyRows(const Series& series) {
     return series.style == SeriesStyle::ROWS && series.points.size() > kMarkedRows;
 }
 
+bool HasGreaterNumbers(const Series& series) {
+    return std::any_of(series.points.begin(), series.points.end(), [](const PicturePoint& point) {
+        return std::isfinite(point.x) && std::isfinite(point.y) && !IsDrawn(point);
+    });
+}
+
 /// An angle in degrees and a length as a place.
 std::vector<PicturePoint> Turned(std::vector<PicturePoint> points) {
     for (PicturePoint& point : points) {
@@ -107,6 +113,9 @@ PictureScript::PictureScript(const Picture& picture, std::string data)
     for (const std::string& note : picture.notes) AddNote(note);
     if (std::any_of(picture.series.begin(), picture.series.end(), HasManyRows)) {
         AddNote("Of more than " + std::to_string(kMarkedRows) + " rows not every one is marked.");
+    }
+    if (std::any_of(picture.series.begin(), picture.series.end(), HasGreaterNumbers)) {
+        AddNote("Numbers beyond 1e300 are not drawn.");
     }
     for (const std::string& name : CutNames(picture)) AddNote("In full: " + name);
     for (const Series& series : picture.series) colors_ = std::max(colors_, series.color + 1);
@@ -187,7 +196,7 @@ void PictureScript::Block(const std::string& name, const std::vector<PicturePoin
     Line(name + " << EOD");
     bool broken = true;
     for (const PicturePoint& point : points) {
-        const bool shown = std::isfinite(point.x) && std::isfinite(point.y);
+        const bool shown = IsDrawn(point);
         if (shown) Line(NumberText(point.x) + " " + NumberText(point.y));
         if (!shown && !broken) Line("");
         broken = !shown;

@@ -106,7 +106,7 @@ void WriteLayupSheet(HtmlWriter& html, const ReportLayup& layup, const std::stri
             {stack.IsOfOnePly() ? "Stacking sequence" : "Stacking sequence, angles only", stack.Notation()});
     }
     WriteFacts(html, facts);
-    WritePicture(html, layup.stack, card.name + ": a section through the stack with every layer.",
+    WritePicture(html, layup.stack, SpokenName(card.name) + ": a section through the stack with every layer.",
                  "The stack, a section seen along y");
     if (!stack.layers.empty()) WriteLayers(html, stack, units);
     WritePlies(html, card, units);

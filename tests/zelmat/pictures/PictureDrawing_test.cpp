@@ -145,6 +145,17 @@ TEST(PictureDrawing, TakesPointsThatAreNoNumbersAndNoPointsAtAll) {
     EXPECT_EQ(XmlProblem(drawn->front()), "");
 }
 
+TEST(PictureDrawing, SaysThatTheGreatestNumbersAreNotDrawn) {
+    Picture picture = Line("Steel");
+    picture.series[0].points = {{1.0, 1.7976931348623157e308}, {2.0, -1.7976931348623157e308}, {3.0, 5e-324}};
+    Findings findings;
+
+    const auto drawn = DrawSheets({{"line.svg", {&picture}}}, PictureFormat::SVG, findings);
+
+    ASSERT_TRUE(drawn) << Lines(findings);
+    EXPECT_THAT(drawn->front(), HasSubstr("Numbers beyond 1e300 are not drawn."));
+}
+
 TEST(PictureDrawing, DrawsPdfAndPng) {
     const Picture line = Line("a line");
     Findings findings;

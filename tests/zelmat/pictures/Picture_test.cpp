@@ -42,6 +42,26 @@ TEST(Picture, OfBarsTellsEveryBar) {
     EXPECT_EQ(Description(bars), "Steel: Young's modulus over temperature. OGDEN: 0.0819; YEOH: 0.1224;");
 }
 
+TEST(Picture, OfALongNameIsToldByTheBeginning) {
+    Picture steel = Steel();
+    steel.title = std::string(10'000, 'x');
+    steel.kind = PictureKind::BARS;
+    steel.bars = {{std::string(10'000, 'y'), 1.0}};
+
+    EXPECT_LT(Description(steel).size(), 500U);
+}
+
+TEST(Picture, HasNoPlaceForNumbersBesideWhichNoMarginIsANumber) {
+    Picture picture = Steel();
+    picture.series = {{.label = "", .points = {{1.0, 2.0}, {1.7e308, 3.0}, {2.0, -1.7e308}}}};
+
+    const auto x = RangeOf(picture, &PicturePoint::x), y = RangeOf(picture, &PicturePoint::y);
+    ASSERT_TRUE(x && y);
+    EXPECT_EQ(x->upper, 1.0);
+    EXPECT_EQ(y->lower, 2.0);
+    EXPECT_EQ(WithMargin({5e-324, 1e-323}, false).lower, -1.0) << "as good as 0";
+}
+
 TEST(Picture, HasTheRangeOfThePointsThatAreNumbers) {
     const auto range = RangeOf(Steel(), &PicturePoint::x);
 
