@@ -18,6 +18,9 @@ namespace {
 /// K0 over the shear modulus at rest of what stands for an incompressible material.
 constexpr double kIncompressible = 2e4;
 
+/// Three digits to the base of 36.
+constexpr int kMostFunctions = 36 * 36 * 36 - 1;
+
 /// To the base of 36, so that a short name tells many apart.
 std::string Digits36(int number, int width) {
     std::string digits(static_cast<std::size_t>(width), '0');
@@ -47,6 +50,13 @@ public:
         Hyperelastic();
         if (material_.Find("density") && !densityWritten_)
             notes_.LostBehavior("density", "it needs an elastic behavior beside it");
+        if (functionCount_ > kMostFunctions) {
+            for (const Block& block : material_.blocks) {
+                notes_.LostBehavior(BehaviorOf(block),
+                                    "its material has more functions than names tell apart");
+            }
+            return {};
+        }
         if (factors_.empty()) return {};
         std::string text = functions_ + material_.name + " = DEFI_MATERIAU(\n";
         for (const std::string& factor : factors_) text += "    " + factor + ",\n";

@@ -19,6 +19,28 @@ std::string WithDigits(double number, int digits) {
     return {buffer.data(), end.ptr};
 }
 
+/// Significant digits beside which sign, point and the longest exponent have room.
+constexpr int kDigitsThatFit = 13;
+
+/// With as many digits as leave it that short. Where rounding up would leave the range of numbers, the last
+/// digits are cut off instead.
+std::string ShortNumber(double number, std::size_t longest) {
+    std::string text = NumberText(number);
+    for (int digits = 17; text.size() > longest; --digits) {
+        double rounded = 0.0;
+        std::string fewer = WithDigits(number, digits);
+        const auto read = std::from_chars(fewer.data(), fewer.data() + fewer.size(), rounded);
+        if (read.ec != std::errc()) {
+            fewer = WithDigits(number, 17);
+            fewer.erase(fewer.find('e') - static_cast<std::size_t>(17 - digits),
+                        static_cast<std::size_t>(17 - digits));
+            std::from_chars(fewer.data(), fewer.data() + fewer.size(), rounded);
+        }
+        text = NumberText(rounded);
+    }
+    return text;
+}
+
 bool IsPlain(char character, const DeckNameRule& rule) {
     const auto code = static_cast<unsigned char>(character);
     return code < 0x80 && (std::isalnum(code) != 0 || character == '_' ||
@@ -37,19 +59,15 @@ std::size_t CharacterLength(std::string_view text, std::size_t at) {
 }  // namespace
 
 std::string DeckNumber(double number) {
-    std::string text = NumberText(number);
-    for (int digits = 17; text.size() > kLongestDeckNumber; --digits) {
-        double rounded = 0.0;
-        const std::string fewer = WithDigits(number, digits);
-        std::from_chars(fewer.data(), fewer.data() + fewer.size(), rounded);
-        text = NumberText(rounded);
-    }
-    return text;
+    return ShortNumber(number, kLongestDeckNumber);
 }
 
 std::string RealDeckNumber(double number) {
-    const std::string text = DeckNumber(number);
-    return text.find_first_of(".e") == std::string::npos ? text + "." : text;
+    const auto isReal = [](const std::string& text) { return text.find_first_of(".e") != std::string::npos; };
+    std::string text = DeckNumber(number);
+    if (isReal(text)) return text;
+    // Where the point would be one too many, an exponent takes the place of the last digits.
+    return text.size() < kLongestDeckNumber ? text + "." : WithDigits(number, kDigitsThatFit);
 }
 
 std::string InCapitals(std::string text) {
@@ -70,12 +88,22 @@ std::string DeckName(std::string_view name, const DeckNameRule& rule, std::set<s
     if (plain.empty()) plain = rule.otherwise;
     if (rule.letterFirst && std::isalpha(static_cast<unsigned char>(plain.front())) == 0) plain = "M" + plain;
     plain.resize(std::min(plain.size(), rule.longest));
-    std::string unique = plain;
-    for (int number = 2; !taken.insert(InCapitals(unique)).second; ++number) {
-        const std::string ending = "_" + std::to_string(number);
-        unique = plain.substr(0, rule.longest - ending.size()) + ending;
+    if (taken.insert(InCapitals(plain)).second) return plain;
+    const auto numbered = [&](std::size_t number) {
+        std::string ending = "_" + std::to_string(number);
+        if (ending.size() >= rule.longest) ending.erase(0, 1);
+        return plain.substr(0, rule.longest - ending.size()) + ending;
+    };
+    const auto isTaken = [&](std::size_t number) { return taken.count(InCapitals(numbered(number))) > 0; };
+    // A free number behind a taken one: many names may become the same, and are not tried one by one.
+    std::size_t used = 1, free = 2;
+    for (; isTaken(free); free *= 2) used = free;
+    while (free - used > 1) {
+        const std::size_t middle = used + (free - used) / 2;
+        (isTaken(middle) ? used : free) = middle;
     }
-    return unique;
+    taken.insert(InCapitals(numbered(free)));
+    return numbered(free);
 }
 
 std::string AsciiLine(std::string_view text) {

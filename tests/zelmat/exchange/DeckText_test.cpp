@@ -42,6 +42,26 @@ TEST(DeckText, GivesRealNumbersAPoint) {
     EXPECT_EQ(zelmat::RealDeckNumber(0.5), "0.5");
 }
 
+TEST(DeckText, KeepsTheGreatestNumberANumber) {
+    EXPECT_EQ(DeckNumber(1.7976931348623157e308), "1.7976931348623e+308");
+    EXPECT_EQ(DeckNumber(-1.7976931348623157e308), "-1.797693134862e+308");
+}
+
+TEST(DeckText, GivesNoRealNumberMoreThanTwentyCharacters) {
+    EXPECT_EQ(zelmat::RealDeckNumber(12345678901234567168.0), "1.234567890123e+19");
+    EXPECT_EQ(zelmat::RealDeckNumber(-1234567890123456768.0), "-1.234567890123e+18");
+    EXPECT_EQ(zelmat::RealDeckNumber(1234567890123456768.0), "1234567890123456768.");
+}
+
+TEST(DeckText, FindsAHundredThousandNamesForTheSameOne) {
+    std::set<std::string> taken;
+    const zelmat::DeckNameRule rule{7, "", true, "MAT"};
+    std::string last;
+    for (int material = 0; material < 100'000; ++material) last = DeckName("Material", rule, taken);
+    EXPECT_EQ(taken.size(), 100'000U);
+    EXPECT_EQ(last, "M100000");
+}
+
 TEST(DeckText, MakesNamesOfLettersDigitsAndUnderscores) {
     std::set<std::string> taken;
     EXPECT_EQ(DeckName("Steel S355, 20 °C\n*ELASTIC", {80, "-", true, "MATERIAL"}, taken),

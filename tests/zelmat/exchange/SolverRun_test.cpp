@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -66,6 +67,36 @@ TEST_F(SolverRun, StopsASolverThatHangsWithAllItsChildren) {
         "card.json: error[solver-failed]: solver did not end within 1 s (it was stopped, --timeout gives it "
         "longer)");
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
+}
+
+TEST_F(SolverRun, EndsWhatTheSolverLeavesBehind) {
+    const std::string pid = folder_ + "/pid";
+    Findings findings;
+    EXPECT_TRUE(zelmat::RunSolver(Script("sleep 300 & echo $! > " + pid + "; cp $1.inp $1.dat"), "deck\n",
+                                  "card.json", findings));
+    pid_t left = 0;
+    ASSERT_TRUE(std::ifstream(pid) >> left);
+    // Gone, or dead until somebody asks for it.
+    const auto lives = [&] {
+        std::string number, name, state;
+        std::ifstream("/proc/" + std::to_string(left) + "/stat") >> number >> name >> state;
+        return !state.empty() && state != "Z" && state != "X";
+    };
+    for (int look = 0; look < 500 && lives(); ++look) ::usleep(10'000);
+    EXPECT_FALSE(lives());
+}
+
+TEST_F(SolverRun, DoesNotWaitForAPipeInThePlaceOfResults) {
+    EXPECT_EQ(FindingOf(Script("mkfifo $1.dat; rm log; mkfifo log")),
+              "card.json: error[solver-failed]: solver failed with exit code 0 and printed no results");
+}
+
+TEST_F(SolverRun, LetsNoSolverFillTheDisk) {
+    EXPECT_EQ(FindingOf(Script("truncate -s 600M $1.dat || exit 7")),
+              "card.json: error[solver-failed]: solver failed with exit code 7 and printed no results");
+    rlimit own{};
+    ::getrlimit(RLIMIT_FSIZE, &own);
+    EXPECT_EQ(own.rlim_cur, RLIM_INFINITY);
 }
 
 TEST_F(SolverRun, TellsACrash) {

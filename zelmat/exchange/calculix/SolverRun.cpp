@@ -2,10 +2,11 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <csignal>
@@ -30,6 +31,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* kJob = "job";
 constexpr std::size_t kLogEnd = 20'000;
+constexpr std::size_t kMostResults = std::size_t{64} << 20U;  // of models of some elements: far fewer
 
 std::optional<Finding> Problem(const std::string& job, const std::string& text,
                                std::vector<std::string> details = {}) {
@@ -41,6 +43,8 @@ std::string FileIn(const ScratchFolder& folder, const std::string& name) {
 }
 
 std::string ReadEnd(const std::string& path, std::size_t most) {
+    std::error_code none;
+    if (!fs::is_regular_file(path, none)) return {};
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     if (!file) return {};
     const auto size = static_cast<std::size_t>(file.tellg());
@@ -71,6 +75,25 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
     return pointers;
 }
 
+/// Lets the processes that are made meanwhile write no file beyond a size: a solver that runs wild ends
+/// before the disk is full.
+class FileSizeLimit {
+public:
+    FileSizeLimit() {
+        ::getrlimit(RLIMIT_FSIZE, &before_);
+        constexpr rlim_t kLargest = rlim_t{512} << 20U;
+        rlimit limit = before_;
+        limit.rlim_cur = std::min(limit.rlim_cur, kLargest);
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() { ::setrlimit(RLIMIT_FSIZE, &before_); }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit before_{};
+};
+
 /// The process, as the leader of a group of its own; 0 and errno's value in `error` when it cannot be made.
 pid_t Start(const SolverProgram& solver, const ScratchFolder& folder, int& error) {
     posix_spawn_file_actions_t actions;
@@ -89,6 +112,7 @@ pid_t Start(const SolverProgram& solver, const ScratchFolder& folder, int& error
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETPGROUP | POSIX_SPAWN_SETSIGMASK);
     std::vector<std::string> arguments = {solver.path, kJob}, environment = Environment();
     pid_t process = 0;
+    const FileSizeLimit limit;
     error = ::posix_spawn(&process, solver.path.c_str(), &actions, &attributes, Pointers(arguments).data(),
                           Pointers(environment).data());
     posix_spawnattr_destroy(&attributes);
@@ -104,21 +128,26 @@ bool IsAskedToEnd() {
            sigismember(&pending, SIGHUP) == 1;
 }
 
-/// Waits for the process, which does not outlive this: how it ended, or nothing when its time was over.
+/// Waits for the process, which does not outlive this, nor does any that it has made: how it ended, or
+/// nothing when its time was over.
 std::optional<int> WaitFor(pid_t process, int timeoutSeconds) {
     using Clock = std::chrono::steady_clock;
     const auto end = Clock::now() + std::chrono::seconds(timeoutSeconds);
-    int status = 0;
+    const auto id = static_cast<id_t>(process);
+    bool ended = false;
     for (;;) {
-        const pid_t ended = ::waitpid(process, &status, WNOHANG);
-        if (ended == process) return status;
-        if ((ended < 0 && errno != EINTR) || Clock::now() >= end || IsAskedToEnd()) break;
+        siginfo_t state{};
+        // It stays what it is until the others of its group are gone, so that its number is nobody else's.
+        const int found = ::waitid(P_PID, id, &state, WEXITED | WNOHANG | WNOWAIT);
+        ended = found == 0 && state.si_pid == process;
+        if (ended || (found < 0 && errno != EINTR) || Clock::now() >= end || IsAskedToEnd()) break;
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     ::kill(-process, SIGKILL);
+    int status = 0;
     while (::waitpid(process, &status, 0) < 0 && errno == EINTR) {
     }
-    return std::nullopt;
+    return ended ? std::optional(status) : std::nullopt;
 }
 
 /// The solver's own words about its failure: the lines after *ERROR.
@@ -195,7 +224,7 @@ std::optional<SolverResults> RunSolver(const SolverProgram& solver, const std::s
         return std::nullopt;
     }
     const auto status = WaitFor(process, solver.timeoutSeconds);
-    SolverResults results{folder.Read(std::string(kJob) + ".dat", std::string::npos),
+    SolverResults results{folder.Read(std::string(kJob) + ".dat", kMostResults),
                           ReadEnd(FileIn(folder, "log"), kLogEnd)};
     if (const auto problem = Verdict(solver, status, results, job)) {
         findings.Add(*problem);
