@@ -17,8 +17,9 @@ public:
     [[nodiscard]] static std::unique_ptr<KORLibrary> Load(const std::string& path, const char* module,
                                                           std::string& error);
 
-    /// Lets go of the library. E_FAIL, and it is kept, while any object of the module is alive. What the
-    /// module handed out and does not count (lists, strings, errors, tables) stays good.
+    /// Lets go of the library. E_FAIL, and it is kept, while any object of the module is alive; E_FAIL, too,
+    /// when it was let go of already. What the module handed out and does not count (lists, strings, errors,
+    /// tables) stays good.
     HRESULT Unload();
 
     /// An exported symbol, or null.

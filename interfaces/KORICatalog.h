@@ -24,6 +24,8 @@ using KORICatalog_var = KORVar<KORICatalog>;
 /// Offered by containers in which catalogs can be opened; used through AccessCatalog.
 class KORICatalogAccess : public KORInterface<IID_KORICatalogAccess> {
 public:
+    /// Opens the catalog of that file name. `client` says which application asks, for platforms that license
+    /// their catalogs. A failure when there is no such catalog or it is broken; `opened` is untouched then.
     [[nodiscard]] virtual HRESULT OpenCatalog(const KORUnicodeString& catalog, const KORUnicodeString& client,
                                               KORICatalog_var& opened) = 0;
 

@@ -18,7 +18,8 @@ using KORISamAnalysisModel_var = KORVar<KORISamAnalysisModel>;
 class KORISamAnalysisModelFactory : public KORInterface<IID_KORISamAnalysisModelFactory> {
 public:
     /// A new entity of a late type under a model, with that instance name. One reference for the caller;
-    /// null when the late type is in none of the document's catalogs.
+    /// null when the late type is in none of the document's catalogs, and when `model` is no feature that can
+    /// have children.
     [[nodiscard]] virtual KORBaseUnknown* CreateEntity(const KORUnicodeString& lateType,
                                                        const KORUnicodeString& name,
                                                        KORISpecObject* model) = 0;

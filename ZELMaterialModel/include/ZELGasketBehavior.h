@@ -9,7 +9,7 @@
 
 /// What the gasket behaviors share: they bind to their features, and resolve their keys, once, when they are
 /// built, and keep no value: every getter reads the store and every setter writes it. What could not be bound
-/// answers E_FAIL.
+/// answers E_FAIL, and so do setters whose feature undo took away.
 ///
 /// Copying copies handles as counted references, but the material and the keys as plain pointers without a
 /// reference, although every destructor releases them. Behaviors are therefore shared through their proxy and

@@ -6,7 +6,9 @@
 
 /// Hyperelasticity of a material: whether it is switched on, the name of the material model, and the feature
 /// that holds the model's data (reached through ZELIHyperelasticMaterialModel). It holds no coefficients and
-/// keeps no value in memory. Every failure is E_FAIL; nothing is reported.
+/// keeps no value in memory. Every failure is E_FAIL; nothing is reported. It fails without a feature to work
+/// on, attribute access or the attribute, and the argument of a getter is untouched then; for the setters, a
+/// feature that undo took away is none.
 class KOR_EXPORT ZELHyperelastic : private ZELModuleObject {
 public:
     explicit ZELHyperelastic(KORISpecObject* material);  ///< null is tolerated

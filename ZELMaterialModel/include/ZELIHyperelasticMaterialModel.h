@@ -10,8 +10,8 @@ inline const KORIID IID_ZELIHyperelasticMaterialModel = KORName::Intern("ZELIHyp
 /// order of the strain-energy potential and the rows of coefficients, one feature per row. Rows may differ in
 /// length. What the columns mean is fixed by the model that the hyperelastic behavior names, not here.
 ///
-/// Every failure is E_FAIL; the argument of a getter is untouched then, but for GetPropertyData. That undo has
-/// taken the model's feature away is a failure of the setters.
+/// Every failure is E_FAIL; the argument of a getter is untouched then, but for GetPropertyData. That undo
+/// has taken the model's feature away is a failure of the setters.
 class ZELIHyperelasticMaterialModel : public KORInterface<IID_ZELIHyperelasticMaterialModel> {
 public:
     virtual HRESULT GetStrainEnergyPotentialOrder(int& order) = 0;

@@ -8,12 +8,10 @@ class ZELIJohnsonCookData;
 /// Plasticity of a material: a hardening type and one table, whose layout the type decides.
 ///
 /// - "IsotropicHardening", "KinematicHardening": rows of [yield stress, plastic strain, temperature], always
-/// three
-///   columns, whatever the temperature flag says. The first plastic strain has to be 0.
+///   three columns, whatever the temperature flag says. The first plastic strain has to be 0.
 /// - "JohnsonCookHardening": one row of [A, B, n, m, melting temperature, transition temperature], kept in a
-/// feature
-///   of its own, which comes into being when it is first read or written.
-/// - the empty string: no table.
+///   feature of its own, which comes into being when it is first read or written.
+/// - the empty string: no table to read. Any other text is a broken invariant in both directions.
 ///
 /// Values are stored unconverted (Pa, -, K). The table in memory is a snapshot: GetPlasticDataArray reads the
 /// store, SetPlasticDataArray writes through. The hardening type is never kept in memory.
@@ -24,6 +22,7 @@ public:
     const unsigned char& GetPlasticEnabled() const { return Enabled(); }
     HRESULT SetPlasticEnabled(const unsigned char& enabled) { return StoreEnabled(enabled); }
 
+    /// E_NOINTERFACE without attribute access, E_FAIL when the feature lacks it; `type` is untouched then.
     HRESULT GetHardeningType(KORUnicodeString& type);
 
     /// Stores any text. Answers E_FAIL after a successful write, too: callers were written against that
@@ -35,7 +34,9 @@ public:
     ZELCftArrayZELCftArrayDouble GetPlasticDataArray();
 
     /// Memory, then store. E_FAIL for a first plastic strain that is not 0; the data are stored all the same.
-    /// E_FAIL for an empty Johnson-Cook table; nothing is stored.
+    /// E_FAIL for an empty Johnson-Cook table; nothing is stored, nor are rows behind the first. Nothing is
+    /// stored either, and the answer is S_OK with a fatal report, while the hardening type is none of the
+    /// three, the empty one included.
     HRESULT SetPlasticDataArray(const ZELCftArrayZELCftArrayDouble& rows);
 
     /// A new Johnson-Cook feature in the plastic feature's container, with coefficients 0 and both

@@ -12,8 +12,9 @@ struct ZELTableDescription;
 /// reads a behavior runs when it is built, and in which order, stands in the behavior's own class.
 ///
 /// Every store operation answers E_NOINTERFACE when its feature offers no attribute access (or there is none,
-/// or it is the behavior's own, to be written, and undo took it away) and leaves memory as it was; E_FAIL when
-/// the feature's type lacks an attribute, and a flag or number that was to be read is then zero in memory.
+/// or it is the behavior's own, to be written, and undo took it away) and leaves memory as it was; E_FAIL
+/// when the feature's type lacks an attribute, and a flag or number that was to be read is then zero in
+/// memory.
 class KOR_EXPORT ZELTableBehavior : public ZELTemperatureDependentProperties {
 public:
     HRESULT GetPropertyDataFile() final;

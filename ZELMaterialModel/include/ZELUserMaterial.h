@@ -9,7 +9,8 @@
 /// memory: every operation goes to the store.
 ///
 /// E_FAIL when there is no feature to work on or it lacks the attribute, E_NOINTERFACE when it offers no
-/// attribute access. The argument of a getter is untouched then.
+/// attribute access. The argument of a getter is untouched then. For the setters, a feature that undo took
+/// away is none.
 class KOR_EXPORT ZELUserMaterial : private ZELModuleObject {
 public:
     explicit ZELUserMaterial(KORISpecObject* material);  ///< null is tolerated; nothing is reported

@@ -48,14 +48,17 @@ public:
     ///
     /// False, and `error` filled: the file is as it was saved last. Document() is another one then, read from
     /// it anew, and handles of the old one's features read as never valued; only when a step is open, or
-    /// another program has the lock, all stays as it is, to be tried again.
+    /// another program has the lock, all stays as it is, to be tried again. So it does, for good, in what was
+    /// opened to be read only.
     ///
     /// The first Save lets go of the lock; one more takes it again, and fails when another program has
     /// changed the file in between.
     [[nodiscard]] bool Save(const KORHistoryOrigin& origin, KORFileError& error);
 
     bool CanSave() const { return use_ == KORDiskFile::Use::Change; }
-    bool IsModified() const;  ///< something is not saved
+    /// A feature or a step has changed since the last Save, or there was none yet. Settings (the history's
+    /// bounds, the unit of pressure), containers and catalogs are saved, too, but do not count here.
+    bool IsModified() const;
 
     /// The steps that are kept, oldest first, the undone ones last. Those that are not saved yet have no
     /// time, user and command.
