@@ -110,6 +110,44 @@ TEST_P(ZELCopyContract, ExtractsNothingThatLiesElsewhere) {
     EXPECT_EQ(extracted.Size(), 0);
 }
 
+TEST_P(ZELCopyContract, CopiesAFeatureAsOftenAsItIsGivenAndAnswersNothingElse) {
+    const auto parent = Store().MakeIn(other_, "ZELMaterialLT");
+    const auto child = Store().MakeIn(other_, "ZELDensityLT");
+    Attach(parent, "ZELDensity", child);
+    KORListValKORISpecObject_var wanted;
+    wanted.Append(parent);
+    wanted.Append(parent);
+    KORListValKORISpecObject_var extracted;
+    extracted.Append(child);  // what the caller's lists held is replaced
+    KORListValKORISpecObject_var copies;
+    copies.Append(child);
+
+    EXPECT_EQ(KORICutAndPastable_var(other_)->Extract(wanted, extracted), S_OK);
+    EXPECT_EQ(KORICutAndPastable_var(own_)->Paste(extracted, copies), S_OK);
+
+    ASSERT_EQ(extracted.Size(), 3);
+    ASSERT_EQ(copies.Size(), 3);
+    EXPECT_NE(copies[1], copies[2]);
+    EXPECT_EQ(Component(copies[1], "ZELDensity"), copies[3]);
+    EXPECT_EQ(Component(copies[2], "ZELDensity"), copies[3]);
+}
+
+TEST_P(ZELCopyContract, HangsACopyOnWhatTheOriginalHangsOn) {
+    const auto steel = Store().MakePlatformMaterial(own_);
+    const auto data = Store().MakeIn(other_, "ZELMaterialLT");
+    EXPECT_EQ(KORIMaterialFeature_var(steel)->SetApplicativeFeature("Name", data.Get()), S_OK);
+    KORListValKORISpecObject_var wanted;
+    wanted.Append(data);
+    KORListValKORISpecObject_var extracted;
+    KORListValKORISpecObject_var copies;
+
+    EXPECT_EQ(KORICutAndPastable_var(other_)->Extract(wanted, extracted), S_OK);
+    EXPECT_EQ(KORICutAndPastable_var(own_)->Paste(extracted, copies), S_OK);
+
+    ASSERT_EQ(copies.Size(), 1);
+    EXPECT_EQ(KORISpecObject_var::Adopt(copies[1]->GetFather()), steel);
+}
+
 TEST_P(ZELCopyContract, RemovesAFeatureThatLiesInTheContainer) {
     const auto feature = MakeIn(other_);
 
@@ -148,6 +186,18 @@ TEST_P(ZELCopyContract, HangsAMaterialsDataOnTheMaterial) {
     EXPECT_EQ(material->RemoveApplicativeFeature("Name"), S_OK);
     EXPECT_FALSE(hanging());
     EXPECT_FALSE(fatherOf(second));
+}
+
+TEST_P(ZELCopyContract, LeavesDataOnTheMaterialOnWhichTheyWereHungLast) {
+    const auto steel = Store().MakePlatformMaterial(own_);
+    const auto copper = Store().MakePlatformMaterial(own_);
+    const auto data = Store().MakeIn(other_, "ZELMaterialLT");
+    EXPECT_EQ(KORIMaterialFeature_var(steel)->SetApplicativeFeature("Name", data.Get()), S_OK);
+    EXPECT_EQ(KORIMaterialFeature_var(copper)->SetApplicativeFeature("Name", data.Get()), S_OK);
+
+    EXPECT_EQ(KORIMaterialFeature_var(steel)->RemoveApplicativeFeature("Name"), S_OK);
+
+    EXPECT_EQ(KORISpecObject_var::Adopt(data->GetFather()), copper);
 }
 
 ZEL_ON_BOTH_STORES(ZELCopyContract);

@@ -67,14 +67,18 @@ HRESULT ZELMapContainer::Paste(const KORListValKORISpecObject_var& extracted,
     if (verdict != ZELVerdict::Answer) return Calls().StatusOf(verdict);
     if (!World()->document) return E_FAIL;
     const ZELUnrecorded unrecorded;
-    std::map<KORISpecObject*, ZELMapFeature*> copyOf;
+    std::map<KORISpecObject*, ZELMapFeature*> copyOf;  // the first one of what is given twice
+    std::vector<ZELMapFeature*> made;
+    KORListValKORISpecObject_var list;
     for (int position = 1; position <= extracted.Size(); ++position) {
         const auto& original = dynamic_cast<ZELMapFeature&>(*extracted[position]);
         members_.push_back(KORVar<ZELMapFeature>::Adopt(original.Copy(this)));
-        copyOf[extracted[position].Get()] = members_.back().Get();
-        copies.Append(KORISpecObject_var(static_cast<KORISpecObject*>(members_.back().Get())));
+        made.push_back(members_.back().Get());
+        copyOf.emplace(extracted[position].Get(), made.back());
+        list.Append(KORISpecObject_var(static_cast<KORISpecObject*>(made.back())));
     }
-    for (const auto& [original, copy] : copyOf) copy->Redirect(copyOf);
+    for (ZELMapFeature* copy : made) copy->Redirect(copyOf);
+    copies = list;
     return S_OK;
 }
 

@@ -68,6 +68,7 @@ void ZELMapFeature::EmptyAll() {
 ZELMapFeature* ZELMapFeature::Copy(ZELMapContainer* container) const {
     auto* copy = new ZELMapFeature(World(), lateType_, name_, container);
     copy->alias_ = alias_;
+    copy->father_ = father_;
     copy->attributes_ = attributes_;
     copy->values_ = values_;
     return copy;
@@ -94,6 +95,8 @@ void ZELMapFeature::Redirect(const std::map<KORISpecObject*, ZELMapFeature*>& co
         if (auto* component = std::get_if<KORBaseUnknown_var>(&value)) redirect(*component);
         if (auto* entries = std::get_if<Entries>(&value)) std::ranges::for_each(*entries, redirect);
     }
+    const auto father = copyOf.find(father_.Get());
+    if (father != copyOf.end()) father_ = static_cast<KORISpecObject*>(father->second);
 }
 
 bool ZELMapFeature::Has(const std::string& name, ZELKind kind) const {

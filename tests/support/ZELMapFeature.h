@@ -23,6 +23,9 @@ public:
 
     /// The feature on which this one hangs; null takes it off.
     void HangOn(KORISpecObject* father) { father_ = father; }
+    void LetGoOf(KORISpecObject* father) {  ///< it may hang on another one by now
+        if (father_.Get() == father) father_ = nullptr;
+    }
 
     /// A new feature with the same values in another container, one reference for the caller.
     ZELMapFeature* Copy(ZELMapContainer* container) const;

@@ -8,6 +8,9 @@ namespace {
 void Hang(const KORISpecObject_var& feature, KORISpecObject* father) {
     if (auto* mapFeature = dynamic_cast<ZELMapFeature*>(feature.Get())) mapFeature->HangOn(father);
 }
+void TakeOff(const KORISpecObject_var& feature, KORISpecObject* father) {
+    if (auto* mapFeature = dynamic_cast<ZELMapFeature*>(feature.Get())) mapFeature->LetGoOf(father);
+}
 
 }  // namespace
 
@@ -28,7 +31,7 @@ HRESULT ZELMapMaterial::SetApplicativeFeature(const KORUnicodeString& name, KORI
     if (verdict == ZELVerdict::Refuse) return Calls().StatusOf(verdict);
     if (!feature) return E_FAIL;
     KORISpecObject_var& held = applicative_[std::string(name.View())];
-    Hang(held, nullptr);
+    TakeOff(held, this);
     held = feature;
     Hang(held, this);
     return Calls().StatusOf(verdict);
@@ -39,7 +42,7 @@ HRESULT ZELMapMaterial::RemoveApplicativeFeature(const KORUnicodeString& name) {
     const auto found = applicative_.find(std::string(name.View()));
     if (verdict == ZELVerdict::Refuse) return Calls().StatusOf(verdict);
     if (found == applicative_.end()) return E_FAIL;
-    Hang(found->second, nullptr);
+    TakeOff(found->second, this);
     applicative_.erase(found);
     return Calls().StatusOf(verdict);
 }

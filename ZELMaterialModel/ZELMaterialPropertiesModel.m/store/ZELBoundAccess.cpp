@@ -20,6 +20,7 @@ HRESULT ZELGetBoundColumns(const KORISpecAttrAccess_var& access, std::span<KORIS
                            ZELCftArrayZELCftArrayDouble& table) {
     if (!access || std::count(columns.begin(), columns.end(), nullptr) != 0) return E_FAIL;
     std::vector<std::unique_ptr<KORRawColldouble>> lists;
+    lists.reserve(columns.size());  // first: a list in the hand is nobody's yet
     for (KORISpecAttrKey* key : columns) {
         lists.emplace_back(access->GetListOfDouble(key));
         if (!lists.back() || lists.back()->Size() != lists.front()->Size()) return E_FAIL;
