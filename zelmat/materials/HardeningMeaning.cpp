@@ -69,6 +69,7 @@ public:
             if (!ConvertCurve(begin, end, table)) return std::nullopt;
             begin = end;
         }
+        ReportConversion();
         table.origin = Origin([origin = given_.origin, rows = rows_](std::size_t row) {
             return row == Origin::kWhole ? origin.Line() : origin.Line(rows[row]);
         });
@@ -76,6 +77,10 @@ public:
     }
 
 private:
+    struct Converted {
+        double temperature, modulus;
+    };
+
     bool ConvertCurve(std::size_t begin, std::size_t end, Table& table) {
         const double temperature = given_.Find(kTemperature)->values[begin];
         std::string why;
@@ -98,7 +103,8 @@ private:
                             " K begins beyond yield, at plastic strain " + NumberText(points[0].strain),
                         {"give the yield point as its first point"});
         }
-        Report(begin, yield, temperature, *modulus);
+        if (yield > 0) ReportLeftOut(begin, yield, temperature);
+        converted_.push_back({temperature, *modulus});
         points[yield].strain = 0.0;
         for (std::size_t at = yield; at < points.size(); ++at) {
             rows_.push_back(begin + at);
@@ -123,23 +129,38 @@ private:
         return yield;
     }
 
-    void Report(std::size_t begin, std::size_t dropped, double temperature, double modulus) {
+    /// One note for all curves: a table over temperature has one for each of its temperatures.
+    void ReportConversion() {
+        const auto byTemperature = std::minmax_element(
+            converted_.begin(), converted_.end(),
+            [](const Converted& a, const Converted& b) { return a.temperature < b.temperature; });
+        const auto byModulus =
+            std::minmax_element(converted_.begin(), converted_.end(),
+                                [](const Converted& a, const Converted& b) { return a.modulus < b.modulus; });
+        const double lowest = byTemperature.first->temperature, highest = byTemperature.second->temperature;
+        const double softest = byModulus.first->modulus, stiffest = byModulus.second->modulus;
+        const bool one = converted_.size() == 1;
         const Measures measures = MeasuresOf(block_);
-        const std::string curve = "the curve of plastic at " + NumberText(temperature) + " K";
-        const Place place{material_.file, given_.origin.Line(begin)};
         findings_.Add({FindingKind::NOTE,
-                       place,
+                       {material_.file, given_.origin.Line(0)},
                        "hardening-converted",
-                       curve + " was converted to true stress over plastic strain",
+                       (one ? "the curve of plastic at " + NumberText(lowest) + " K was"
+                            : CountText(converted_.size(), "curve") + " of plastic from " +
+                                  NumberText(lowest) + " K to " + NumberText(highest) + " K were") +
+                           " converted to true stress over plastic strain",
                        {std::string(measures.engineering ? "engineering" : "true") + " stress over " +
                             (measures.total ? "total" : "plastic") + " strain given",
-                        "Young's modulus " + WithUnit(modulus, "Pa")}});
-        if (dropped == 0) return;
+                        "Young's modulus " + (softest == stiffest ? "" : NumberText(softest) + " to ") +
+                            WithUnit(stiffest, "Pa")}});
+    }
+
+    void ReportLeftOut(std::size_t begin, std::size_t dropped, double temperature) {
         findings_.Add({FindingKind::WARNING,
-                       place,
+                       {material_.file, given_.origin.Line(begin)},
                        "before-yield",
-                       CountText(dropped, "point") + " of " + curve + " before yield " +
-                           (dropped == 1 ? "was" : "were") + " left out",
+                       CountText(dropped, "point") + " of the curve of plastic at " +
+                           NumberText(temperature) + " K before yield " + (dropped == 1 ? "was" : "were") +
+                           " left out",
                        {"the first stored one is the yield point"}});
     }
 
@@ -156,7 +177,8 @@ private:
     const Material& material_;
     Findings& findings_;
     const Table& given_;
-    std::vector<std::size_t> rows_;  // the given row of each converted one
+    std::vector<std::size_t> rows_;     // the given row of each converted one
+    std::vector<Converted> converted_;  // a curve each
 };
 
 }  // namespace

@@ -222,14 +222,19 @@ std::string TableAfter(const std::string& out, const std::string& caption, std::
     return out.substr(at, end - at);
 }
 
-TEST(SteelS355, IsShownWithItsHardeningCurves) {
+// 355 MPa (1 + 355/210000), and 355 MPa (1 + e) over ln(1 + e) - sigma/E at e = 0.14831 + 355/210000.
+TEST(SteelS355, IsShownWithItsHardeningCurvesAsTrueStress) {
     const ProgramRun run = RunZelmat({"show", Sample("steel_s355.json")});
 
     EXPECT_EQ(TableAfter(run.out, "Plastic, temperature dependent", 4),
               "  hardening: isotropic\n"
-              "  yield stress [MPa]  plastic strain [-]  temperature [degC]\n"
-              "           355.00000          0.00000000                  20\n"
-              "           355.00000          0.14831000                  20\n");
+              "   yield stress [MPa]     plastic strain [-]  temperature [degC]\n"
+              "  355.600119047619050  0.0000000000000000000                  20\n"
+              "  408.250169047619100  0.1378183080297116200                  20\n");
+    EXPECT_THAT(run.out, HasSubstr("\n  stress given as, on the card: engineering\n"));
+    EXPECT_THAT(run.err, HasSubstr("note[hardening-converted]: 12 curves of plastic from 293.15 K to 1373.15 K "
+                                   "were converted to true stress over plastic strain (engineering stress "
+                                   "over plastic strain given, Young's modulus 4.725e+09 to 2.1e+11 Pa)"));
 }
 
 TEST(JohnsonCookMetals, AreShownWithTheirParameters) {
