@@ -1,6 +1,11 @@
 #include "zelmat/materials/OgdenMeaning.h"
 
 #include <algorithm>
+#include <regex>
+#include <string_view>
+#include <utility>
+
+#include "zelmat/text/ReplaceAll.h"
 
 namespace zelmat {
 
@@ -14,14 +19,29 @@ bool IsOgden(const Block& block) {
     return block.kind->name == "hyperelastic" && block.values.Get<std::string>("model") == "OGDEN";
 }
 
-/// What a text such as "W = sum (mu_i / alpha_i) (l1^alpha_i + ...)" says; its first formula counts.
-std::optional<OgdenConvention> ConventionInText(std::string text) {
-    const std::string division = "mu_i/alpha_i";
-    std::erase(text, ' ');
-    const auto at = text.find(division);
-    if (at == std::string::npos) return std::nullopt;
-    const bool squared = text.compare(at + division.size(), 2, "^2") == 0;
-    return squared ? OgdenConvention::TWO_MU_BY_ALPHA_SQUARED : OgdenConvention::MU_BY_ALPHA;
+/// A formula in one spelling: "(2 \mu_i)/(\alpha_i)**2", with Greek letters or without, is "2mui/alphai^2".
+std::string Spelled(std::string text) {
+    for (const auto& [spelling, meant] : {std::pair{"\u03bc", "mu"},
+                                          {"\u00b5", "mu"},
+                                          {"\u03b1", "alpha"},
+                                          {"\u00b2", "^2"},
+                                          {"**", "^"},
+                                          {"}{", "/"}}) {
+        ReplaceAll(text, spelling, meant);
+    }
+    static constexpr std::string_view kMeaningless = " _(){}\\*";
+    std::erase_if(text, [](char letter) { return kMeaningless.find(letter) != std::string_view::npos; });
+    return text;
+}
+
+/// What a text such as "W = sum (mu_i / alpha_i) (l1^alpha_i + ...)" says; its first formula counts. The
+/// index is any letter or digit, or none.
+std::optional<OgdenConvention> ConventionInText(const std::string& text) {
+    static const std::regex formula("mu([a-z0-9]?)/alpha\\1(\\^2)?");
+    const std::string spelled = Spelled(text);
+    std::smatch found;
+    if (!std::regex_search(spelled, found, formula)) return std::nullopt;
+    return found[2].matched ? OgdenConvention::TWO_MU_BY_ALPHA_SQUARED : OgdenConvention::MU_BY_ALPHA;
 }
 
 /// mu_1, alpha_1, mu_2, ... of a row.

@@ -44,6 +44,21 @@ TEST(OgdenMeaning, IsReadFromTheFormulaWhenNoKeySaysIt) {
                             "is stored)"));
 }
 
+TEST(OgdenMeaning, IsReadFromTheFormulaInEverySpellingOfTheField) {
+    for (const char* formula :
+         {"W = sum mu_p/alpha_p (l1^alpha_p + ...)", "sum_n (mu_n / alpha_n) (...)",
+          "W = \u03a3 \u03bc_i/\u03b1_i (\u03bb1^\u03b1_i ...)", "mu_1/alpha_1 (...) + ...",
+          R"(\\sum \\frac{\\mu_i}{\\alpha_i} (...))", "mu/alpha (l1^alpha + ...)"}) {
+        EXPECT_THAT(StoredRows(Rubber(R"("potential": ")" + std::string(formula) + "\",")), kConverted)
+            << formula;
+    }
+    for (const char* formula : {"sum 2 mu_i/alpha_i\u00b2 (...)", "sum 2*mu_i/alpha_i**2*(...)",
+                                "sum (2 mu_p)/(alpha_p)^2 (...)", R"(\\frac{2\\mu_i}{\\alpha_i^2} (...))"}) {
+        EXPECT_THAT(StoredRows(Rubber(R"("potential": ")" + std::string(formula) + "\",")), kAsGiven)
+            << formula;
+    }
+}
+
 TEST(OgdenMeaning, IsTheStoredOneWhenTheCardSaysSoOrNothing) {
     for (const char* convention :
          {"", R"("ogden_convention": "2mu/alpha^2",)", R"x("potential": "W = sum 2 mu_i/alpha_i^2 (...)",)x",
