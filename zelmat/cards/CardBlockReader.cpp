@@ -5,6 +5,8 @@
 
 #include "zelmat/cards/CardTableReader.h"
 #include "zelmat/cards/CommentKey.h"
+#include "zelmat/cards/PropertyNames.h"
+#include "zelmat/materials/HyperelasticForms.h"
 #include "zelmat/materials/QuantityOf.h"
 #include "zelmat/quantities/Measured.h"
 #include "zelmat/text/NearestName.h"
@@ -40,6 +42,7 @@ std::optional<Block> CardBlockReader::Read() const {
     for (const Setting& setting : kind_.settings) {
         if (!ReadSetting(setting, block)) good = false;
     }
+    if (kind_.alternatives && !FindOrder(block)) good = false;
     for (const TableKind& kind : kind_.tables) {
         if (!ReadTable(kind, block)) good = false;
     }
@@ -155,6 +158,23 @@ std::optional<Value> CardBlockReader::ReadText(const Setting& setting, const Jso
     node.Report("unknown-" + key, "there is no " + key + " " + Quoted(*text),
                 {"expected one of: " + WordList(setting.choices)});
     return std::nullopt;
+}
+
+bool CardBlockReader::FindOrder(Block& block) const {
+    const auto model = block.values.Get<std::string>(kind_.settings[0].name);
+    const Setting& order = kind_.settings[1];
+    if (!model || node_.Has(order.name)) return true;
+    std::vector<std::string> columns;
+    if (node_.Has("columns") && node_.At("columns").Json().is_array()) {
+        for (const auto& column : node_.At("columns").Json()) {
+            if (column.is_string())
+                columns.push_back(ReadColumnHeader(column.get_ref<const std::string&>()).name);
+        }
+    }
+    const auto told = OrderOfColumns(*model, columns, order.most);
+    if (!told) return node_.Required(order.name).has_value();
+    block.values.Set(order.name, *told);
+    return true;
 }
 
 bool CardBlockReader::ReadTable(const TableKind& kind, Block& block) const {

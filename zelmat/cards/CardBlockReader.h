@@ -31,6 +31,8 @@ private:
     std::optional<double> ReadNumber(const Setting& setting, const JsonNode& node, Block& block) const;
     std::optional<Value> ReadText(const Setting& setting, const JsonNode& node) const;
     bool ReadTable(const TableKind& kind, Block& block) const;
+    /// The order of a potential, which its coefficients tell where the card does not.
+    bool FindOrder(Block& block) const;
 
     JsonNode node_;
     const BlockKind& kind_;

@@ -1,4 +1,5 @@
 #include "zelmat/materials/DerivedValues.h"
+#include <algorithm>
 
 #include "zelmat/materials/HyperelasticForms.h"
 #include "zelmat/mechanics/hyperelastic/OgdenConvention.h"
@@ -49,6 +50,22 @@ DerivedValue Modulus(const char* name, const char* title, Value value, std::opti
     return {name, title, std::move(value), number ? "Pa" : "", temperature};
 }
 
+/// The energy of a change of volume, J its ratio; nothing of an incompressible material.
+std::optional<std::string> VolumetricFormula(HyperelasticModel model, const Table& table) {
+    std::size_t terms = 0, used = 0;
+    for (const Column& column : table.columns) {
+        if (!column.kind.name.starts_with("D")) continue;
+        ++terms;
+        const bool zero = std::ranges::all_of(column.values, [](double value) { return value == 0.0; });
+        if (!zero) used = terms;
+    }
+    if (used == 0) return std::nullopt;
+    if (model == HyperelasticModel::ARRUDA_BOYCE || model == HyperelasticModel::VAN_DER_WAALS) {
+        return "U = ((J^2-1)/2 - ln J)/D";
+    }
+    return used == 1 ? "U = (J-1)^2/D1" : "U = sum (J-1)^(2i)/D_i, i = 1 to " + std::to_string(used);
+}
+
 std::vector<DerivedValue> OfHyperelastic(const Block& stored) {
     std::vector<DerivedValue> values;
     const std::string keyword = stored.values.Get<std::string>("model").value_or("");
@@ -56,6 +73,9 @@ std::vector<DerivedValue> OfHyperelastic(const Block& stored) {
     const auto model = mechanics::HyperelasticModelOf(keyword);
     if (!model || stored.tables.empty() || !HyperelasticForm(keyword, order)) return values;
     values.push_back({"strain_energy", "strain energy", StrainEnergyFormula(keyword)});
+    if (const auto volumetric = VolumetricFormula(*model, stored.tables.front())) {
+        values.push_back({"volumetric_energy", "energy of volume", *volumetric});
+    }
     if (*model == HyperelasticModel::OGDEN) {
         values.push_back({"ogden_convention", "convention of mu",
                           std::string(Keyword(mechanics::OgdenConvention::TWO_MU_BY_ALPHA_SQUARED))});

@@ -1,5 +1,6 @@
 #include "zelmat/materials/HyperelasticForms.h"
 
+#include <algorithm>
 #include <array>
 
 namespace zelmat {
@@ -77,23 +78,24 @@ Columns Yeoh(int) {
 struct Potential {
     const char* model;
     Columns (*columns)(int order);
-    const char* formula;  ///< of the part without change of volume
+    std::optional<int> fixedOrder;  ///< of a potential without terms, as it is kept
+    const char* formula;            ///< of the part without change of volume
 };
 
 constexpr std::array<Potential, 8> kPotentials = {{
-    {"ARRUDA_BOYCE", ArrudaBoyce,
+    {"ARRUDA_BOYCE", ArrudaBoyce, 1,
      "W = mu [1/2 (I1-3) + 1/(20 lambda_m^2) (I1^2-9) + 11/(1050 lambda_m^4) (I1^3-27) + 19/(7000 "
      "lambda_m^6) "
      "(I1^4-81) + 519/(673750 lambda_m^8) (I1^5-243)]"},
-    {"MOONEY_RIVLIN", MooneyRivlin, "W = C10 (I1-3) + C01 (I2-3)"},
-    {"NEO_HOOKE", NeoHooke, "W = C10 (I1-3)"},
-    {"OGDEN", Ogden, "W = sum (2 mu_i/alpha_i^2) (l1^alpha_i + l2^alpha_i + l3^alpha_i - 3)"},
-    {"POLYNOMIAL", Polynomial, "W = sum Cij (I1-3)^i (I2-3)^j, 1 <= i+j <= order"},
-    {"REDUCED_POLYNOMIAL", ReducedPolynomial, "W = sum Ci0 (I1-3)^i, i = 1 to order"},
-    {"VAN_DER_WAALS", VanDerWaals,
+    {"MOONEY_RIVLIN", MooneyRivlin, 1, "W = C10 (I1-3) + C01 (I2-3)"},
+    {"NEO_HOOKE", NeoHooke, 1, "W = C10 (I1-3)"},
+    {"OGDEN", Ogden, {}, "W = sum (2 mu_i/alpha_i^2) (l1^alpha_i + l2^alpha_i + l3^alpha_i - 3)"},
+    {"POLYNOMIAL", Polynomial, {}, "W = sum Cij (I1-3)^i (I2-3)^j, 1 <= i+j <= order"},
+    {"REDUCED_POLYNOMIAL", ReducedPolynomial, {}, "W = sum Ci0 (I1-3)^i, i = 1 to order"},
+    {"VAN_DER_WAALS", VanDerWaals, 1,
      "W = mu {-(lambda_m^2-3) [ln(1-eta) + eta] - (2/3) a ((I-3)/2)^(3/2)}, I = (1-beta) I1 + beta I2, "
      "eta = sqrt((I-3)/(lambda_m^2-3))"},
-    {"YEOH", Yeoh, "W = C10 (I1-3) + C20 (I1-3)^2 + C30 (I1-3)^3"},
+    {"YEOH", Yeoh, 3, "W = C10 (I1-3) + C20 (I1-3)^2 + C30 (I1-3)^3"},
 }};
 
 }  // namespace
@@ -114,6 +116,24 @@ std::optional<TableForm> HyperelasticForm(const std::string& model, int order) {
                          .with = model + " of order " + std::to_string(order)};
     }
     return std::nullopt;
+}
+
+std::optional<int> OrderOfColumns(const std::string& model, const std::vector<std::string>& columns,
+                                  int most) {
+    const auto* const potential = std::find_if(kPotentials.begin(), kPotentials.end(),
+                                               [&](const Potential& each) { return model == each.model; });
+    if (potential == kPotentials.end()) return std::nullopt;
+    if (potential->fixedOrder) return potential->fixedOrder;
+    const auto among = [&](const Columns& known) {
+        return std::count_if(known.begin(), known.end(), [&](const ColumnKind& column) {
+            return std::find(columns.begin(), columns.end(), column.name) != columns.end();
+        });
+    };
+    const auto given = among(potential->columns(most));
+    if (given == 0) return std::nullopt;
+    int order = 1;
+    while (among(potential->columns(order)) < given) ++order;
+    return order;
 }
 
 std::string StrainEnergyFormula(const std::string& model) {

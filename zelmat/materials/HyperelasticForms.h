@@ -16,6 +16,11 @@ const std::vector<std::string>& HyperelasticModels();
 /// Nothing for a potential that there is not. `order` is from 1 on; potentials without terms ignore it.
 std::optional<TableForm> HyperelasticForm(const std::string& model, int order);
 
+/// The order of a potential where nobody says it: the one that a potential without terms is kept under, else
+/// the least, up to `most`, that has all of its coefficients among `columns`. Nothing where there is none.
+std::optional<int> OrderOfColumns(const std::string& model, const std::vector<std::string>& columns,
+                                  int most);
+
 /// The strain energy as a formula in the coefficients' names, from the principal stretches l1, l2, l3 or the
 /// invariants I1, I2 of a deformation without change of volume. Empty for a potential that there is not.
 std::string StrainEnergyFormula(const std::string& model);

@@ -47,6 +47,26 @@ TEST(CardBlockReader, HoldsTheColumnsAgainstModelAndOrder) {
                     "column \"C01\" (expected C10, D1 (or not))"));
 }
 
+TEST(CardBlockReader, TakesTheOrderFromTheCoefficientsWhereNobodySaysIt) {
+    const auto order = [](const std::string& fit) {
+        return StoredCard(R"({"name": "x", "hyperelastic": [)" + fit + "]}")
+            .Block("hyperelastic")
+            .values.Get<int>("order");
+    };
+    EXPECT_EQ(order(R"({"model": "NEO_HOOKE", "C10": "0.2 MPa"})"), 1);
+    EXPECT_EQ(order(R"({"model": "YEOH", "C10": "0.2 MPa", "C20": "-2 kPa", "C30": "50 Pa"})"), 3);
+    EXPECT_EQ(
+        order(R"({"model": "OGDEN", "mu_1": "0.3 MPa", "alpha_1": 1.5, "mu_2": "0.1 MPa", "alpha_2": -2})"),
+        2);
+    EXPECT_EQ(order(R"({"model": "OGDEN", "temperature_dependent": false,
+        "columns": ["alpha_1", "mu_1 [MPa]"], "rows": [[2, 0.3]]})"),
+              1);
+    EXPECT_THAT(FindingsOfFit(R"({"model": "OGDEN", "temperature_dependent": false,
+"columns": ["C10"], "rows": [[1]]})"),
+                testing::Contains(testing::HasSubstr("error[missing-key]: hyperelastic[0] lacks the key "
+                                                     "\"order\"")));
+}
+
 TEST(CardBlockReader, WantsAnOrderWithinItsBounds) {
     for (const char* order : {"0", "-1", "7", "10000000000"}) {
         EXPECT_THAT(FindingsOfFit(std::string(R"({"model": "OGDEN",

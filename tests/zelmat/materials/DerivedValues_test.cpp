@@ -24,11 +24,12 @@ std::vector<std::string> Meaning(const std::string& fit) {
 }
 
 TEST(DerivedValues, AreTheFormulaAndTheModuliOfAPotential) {
-    EXPECT_THAT(Meaning(R"("model": "MOONEY_RIVLIN", "order": 1, "temperature_dependent": false,
+    EXPECT_THAT(
+        Meaning(R"("model": "MOONEY_RIVLIN", "order": 1, "temperature_dependent": false,
                            "columns": ["C10", "C01", "D1"], "rows": [[400000, 100000, 1e-9]])"),
-                testing::ElementsAre("strain_energy: W = C10 (I1-3) + C01 (I2-3)",
-                                     "initial_shear_modulus: 1000000.000000 Pa",
-                                     "initial_bulk_modulus: 2000000000.000000 Pa"));
+        testing::ElementsAre("strain_energy: W = C10 (I1-3) + C01 (I2-3)",
+                             "volumetric_energy: U = (J-1)^2/D1", "initial_shear_modulus: 1000000.000000 Pa",
+                             "initial_bulk_modulus: 2000000000.000000 Pa"));
 }
 
 TEST(DerivedValues, NameTheConventionOfOgden) {
@@ -40,13 +41,24 @@ TEST(DerivedValues, NameTheConventionOfOgden) {
                     "initial_bulk_modulus: none, incompressible"));
 }
 
+TEST(DerivedValues, NameTheEnergyOfAChangeOfVolume) {
+    EXPECT_EQ(Meaning(R"("model": "ARRUDA_BOYCE", "temperature_dependent": false,
+                         "columns": ["mu", "lambda_m", "D"], "rows": [[4e5, 3, 1e-9]])")
+                  .at(1),
+              "volumetric_energy: U = ((J^2-1)/2 - ln J)/D");
+    EXPECT_EQ(Meaning(R"("model": "REDUCED_POLYNOMIAL", "temperature_dependent": false,
+                         "columns": ["C10", "C20", "D1", "D2"], "rows": [[4e5, 1e3, 1e-9, 1e-8]])")
+                  .at(1),
+              "volumetric_energy: U = sum (J-1)^(2i)/D_i, i = 1 to 2");
+}
+
 TEST(DerivedValues, AreToldForEveryTemperature) {
     const auto lines = Meaning(R"("model": "NEO_HOOKE", "order": 1, "temperature_dependent": true,
         "columns": ["C10", "D1", "temperature"], "rows": [[500000, 2e-9, 293], [400000, 2e-9, 353]])");
-    ASSERT_EQ(lines.size(), 5u);
-    EXPECT_EQ(lines[1], "initial_shear_modulus at 293.000000: 1000000.000000 Pa");
-    EXPECT_EQ(lines[3], "initial_shear_modulus at 353.000000: 800000.000000 Pa");
-    EXPECT_EQ(lines[4], "initial_bulk_modulus at 353.000000: 1000000000.000000 Pa");
+    ASSERT_EQ(lines.size(), 6u);
+    EXPECT_EQ(lines[2], "initial_shear_modulus at 293.000000: 1000000.000000 Pa");
+    EXPECT_EQ(lines[4], "initial_shear_modulus at 353.000000: 800000.000000 Pa");
+    EXPECT_EQ(lines[5], "initial_bulk_modulus at 353.000000: 1000000000.000000 Pa");
 }
 
 TEST(DerivedValues, SayWhyThereIsNoNumber) {

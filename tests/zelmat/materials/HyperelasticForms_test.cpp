@@ -50,4 +50,15 @@ TEST(HyperelasticForms, OrderThePolynomialByThePowersOfTheInvariants) {
     EXPECT_EQ(Coefficients("POLYNOMIAL", 6).size(), 33u);  // 27 and 6
 }
 
+TEST(HyperelasticForms, FindTheOrderThatTheCoefficientsTell) {
+    EXPECT_EQ(zelmat::OrderOfColumns("OGDEN", {"mu_1", "alpha_1", "mu_2", "alpha_2", "temperature"}, 6), 2);
+    EXPECT_EQ(zelmat::OrderOfColumns("POLYNOMIAL", {"C10", "C01"}, 6), 1);
+    EXPECT_EQ(zelmat::OrderOfColumns("POLYNOMIAL", {"C10", "C01", "C11"}, 6), 2);
+    EXPECT_EQ(zelmat::OrderOfColumns("REDUCED_POLYNOMIAL", {"C30", "D1"}, 6), 3);
+    EXPECT_EQ(zelmat::OrderOfColumns("NEO_HOOKE", {}, 6), 1);
+    EXPECT_EQ(zelmat::OrderOfColumns("YEOH", {"C10"}, 6), 3) << "as it is kept";
+    EXPECT_EQ(zelmat::OrderOfColumns("OGDEN", {"C10"}, 6), std::nullopt);
+    EXPECT_EQ(zelmat::OrderOfColumns("MARLOW", {"C10"}, 6), std::nullopt);
+}
+
 }  // namespace
