@@ -1,6 +1,7 @@
 
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/LaminateInput.h"
+#include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/commands/reports/LaminateReport.h"
 #include "zelmat/layups/StackingNotation.h"
 #include "zelmat/properties/LaminateProperty.h"
@@ -20,20 +21,26 @@ public:
     void Declare(Arguments& line) override {
         input_.Declare(line);
         load_.Declare(line);
+        AddNumberOption(line, "--temperature", temperature_,
+                        "Temperature of plies whose materials depend on it: 150degC");
     }
 
 protected:
     bool Compute(CommandContext& context, Result& result) override {
         Findings& findings = context.findings;
         const auto load = load_.Read(findings);
+        const PlyTemperature at{OptionNumberIfGiven("--temperature", temperature_, "temperature", findings),
+                                load.temperatureChange};
         if (findings.HasErrors()) return false;
-        const auto card = input_.Read(context);
+        const auto card = input_.Read(at, context);
         if (!card) return false;
         const auto laminate = LaminateOf(*card);
         if (!laminate.Ok()) return Refuse(*card, laminate.Why(), findings);
         result.Say("laminate", "laminate", card->name);
         result.Say("layers", "layers", std::to_string(card->layers.size()) + ", " + Sequence(*card));
         result.Say("convention", "convention", kConvention);
+        if (at.temperature) TellTemperature(at, result);
+        for (const PlyMaterial& ply : card->materials) result.Note(ply.lacking);
         if (const auto fault = TellLaminate(*laminate, result)) return Refuse(*card, fault->text, findings);
         if (!load_.IsGiven()) return true;
         if (const auto fault = TellLoaded(*laminate, load, result))
@@ -45,6 +52,13 @@ private:
     static bool Refuse(const LayupCard& card, const std::string& why, Findings& findings) {
         findings.Add({FindingKind::ERROR, {card.file, card.layersLine}, "no-laminate", why, {}});
         return false;
+    }
+
+    static void TellTemperature(const PlyTemperature& at, Result& result) {
+        result.Add("temperature", "temperature of the plies", "temperature", *at.temperature);
+        result.Note(
+            "an expansion that depends on temperature is the mean one (linearised) from there less the "
+            "change of temperature");
     }
 
     /// The angles; where plies differ in more, they say less than the card.
@@ -61,6 +75,7 @@ private:
 
     LaminateInput input_;
     LoadOption load_;
+    std::string temperature_;
 };
 
 }  // namespace

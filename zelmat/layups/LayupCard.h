@@ -15,6 +15,7 @@ struct PlyMaterial {
     std::string name;
     std::vector<std::pair<std::string, double>> constants;  ///< "E1", "nu12", ... as on the card
     std::string source;
+    std::vector<std::string> lacking = {};  ///< blocks of the material that gave no constants, and why
 
     /// The constant of that name; nothing when the card does not give it.
     std::optional<double> Constant(const std::string& constant) const;

@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <optional>
 
-#include "zelmat/materials/OverTemperature.h"
 #include "zelmat/mechanics/elastic/IsotropicElasticity.h"
 #include "zelmat/mechanics/elastic/OrthotropicPly.h"
-#include "zelmat/properties/OtherNumbers.h"
+#include "zelmat/properties/PlyOfMaterial.h"
 #include "zelmat/text/QuotedText.h"
 #include "zelmat/text/WordList.h"
 
@@ -79,28 +78,6 @@ Outcome<std::optional<mechanics::PlyExpansion>> PlyExpansionOf(const NamedConsta
         mechanics::PlyExpansion{.alpha1 = along ? *along : *both, .alpha2 = across ? *across : *both});
 }
 
-/// The columns of a block that does not depend on temperature; nothing otherwise.
-std::optional<std::vector<double>> ConstantRow(const Material& material, const char* name) {
-    const Block* block = material.Find(name);
-    if (!block || !block->enabled || block->tables.empty()) return std::nullopt;
-    const auto table = OverTemperature(block->tables.front());
-    if (!table.Ok() || table->Range()) return std::nullopt;
-    return table->Rows().front().values;
-}
-
-void AddIsotropic(const Material& material, NamedConstants& constants) {
-    const auto elastic = ConstantRow(material, "elastic");
-    if (elastic && elastic->size() == 2 && !Find(constants, "E1")) {
-        constants.emplace_back("E", elastic->at(0));
-        constants.emplace_back("nu", elastic->at(1));
-    }
-    const auto expansion = ConstantRow(material, "thermal_expansion");
-    if (expansion && !Find(constants, "alpha1") && !Find(constants, "alpha2"))
-        constants.emplace_back("alpha", expansion->front());
-    const auto density = ConstantRow(material, "density");
-    if (density && !Find(constants, "density")) constants.emplace_back("density", density->front());
-}
-
 }  // namespace
 
 Outcome<mechanics::PlyMaterial> PlyMaterialOf(const NamedConstants& constants) {
@@ -118,13 +95,7 @@ Outcome<mechanics::PlyMaterial> PlyMaterialOf(const NamedConstants& constants) {
 }
 
 NamedConstants PlyConstantsOf(const Material& material) {
-    NamedConstants constants;
-    for (const std::string& name : PlyConstants()) {
-        const auto number = OtherNumber(material, {name}, PlyConstantQuantity(name));
-        if (number) constants.emplace_back(name, *number);
-    }
-    AddIsotropic(material, constants);
-    return constants;
+    return PlyOfMaterial(material).constants;
 }
 
 Outcome<mechanics::Laminate> LaminateOf(const LayupCard& layup) {
@@ -141,7 +112,10 @@ Outcome<mechanics::Laminate> LaminateOf(const LayupCard& layup) {
         const auto index = static_cast<std::size_t>(known - used.begin());
         if (known == used.end()) {
             const auto ply = PlyMaterialOf(given->constants);
-            if (!ply.Ok()) return Refusal{"ply material " + QuotedText(given->name) + ": " + ply.Why()};
+            if (!ply.Ok()) {
+                const std::string why = given->lacking.empty() ? "" : "; " + WordList(given->lacking);
+                return Refusal{"ply material " + QuotedText(given->name) + ": " + ply.Why() + why};
+            }
             laminate.materials.push_back(*ply);
             used.push_back(&*given);
         }

@@ -18,8 +18,7 @@ using NamedConstants = std::vector<std::pair<std::string, double>>;
 /// strengths in Pa, expansion in 1/K. Refused where one of these is missing, and as UnstablePly refuses.
 mechanics::Outcome<mechanics::PlyMaterial> PlyMaterialOf(const NamedConstants& constants);
 
-/// The constants of a ply that a material keeps (E1, Xt, ...), else what its elastic block, its expansion and
-/// its density say of an isotropic one where they do not depend on temperature.
+/// The constants of PlyOfMaterial, of a material whose blocks do not depend on temperature.
 NamedConstants PlyConstantsOf(const Material& material);
 
 /// The laminate of a layup: m, Pa, degrees, bottom first; its materials are those that layers are of, in the

@@ -4,6 +4,7 @@
 #include "tests/zelmat/support/Program.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/mechanics/laminate/LaminateStiffness.h"
+#include "zelmat/properties/PlyOfMaterial.h"
 
 namespace {
 
@@ -69,6 +70,51 @@ TEST(LaminateProperty, TakesIsotropicPliesAndStrengths) {
     EXPECT_FALSE(PlyMaterialOf({{"E", 1e9}, {"nu", 0.25}})->expansion.has_value());
     EXPECT_FALSE(PlyMaterialOf({{"E", 1e9}, {"nu", 0.5}}).Ok());
     EXPECT_FALSE(PlyMaterialOf({{"E1", 1e9}, {"E2", 1e9}, {"nu12", 1.5}, {"G12", 1e9}}).Ok());
+}
+
+/// Linear between 20 degC (70 GPa, 2700 kg/m3) and 220 degC (50 GPa, 2600 kg/m3); 23e-6 at 120 degC and
+/// 24e-6 at 220 degC from 20 degC.
+zelmat::Material WarmAluminium() {
+    zelmat::Findings findings;
+    const CardFile file(R"({"name": "Al", "elastic": {"temperature_dependent": true,
+        "columns": ["E [GPa]", "nu", "T [degC]"], "rows": [[70, 0.33, 20], [50, 0.35, 220]]},
+        "density": {"temperature_dependent": true, "columns": ["density", "T [degC]"],
+        "rows": [[2700, 20], [2600, 220]]},
+        "thermal_expansion": {"temperature_dependent": true, "columns": ["alpha [1e-6/K]", "T [degC]"],
+        "rows": [[23, 120], [24, 220]], "reference_temperature": "20 degC"}})");
+    return zelmat::ReadCard(file.Path(), findings).value();
+}
+
+TEST(LaminateProperty, TakesBlocksThatDependOnTemperatureAtTheOneOfTheLaminate) {
+    const auto ply = zelmat::PlyOfMaterial(WarmAluminium(), {.temperature = 393.15, .change = 100.0});
+
+    EXPECT_THAT(ply.lacking, testing::IsEmpty());
+    EXPECT_NEAR(ply.Constant("E").value(), 60e9, 1e-3);
+    EXPECT_NEAR(ply.Constant("nu").value(), 0.34, 1e-15);
+    EXPECT_NEAR(ply.Constant("density").value(), 2650.0, 1e-9);
+    EXPECT_NEAR(ply.Constant("alpha").value(), 23e-6, 1e-17);
+    // eps(220) = 24e-6 * 200, eps(120) = 23e-6 * 100; over 100 K
+    const auto warmer = zelmat::PlyOfMaterial(WarmAluminium(), {.temperature = 493.15, .change = 100.0});
+    EXPECT_NEAR(warmer.Constant("alpha").value(), 25e-6, 1e-17);
+    // without a change the instantaneous one: 24e-6 + 1e-8 * 200
+    const auto at = zelmat::PlyOfMaterial(WarmAluminium(), {.temperature = 493.15});
+    EXPECT_NEAR(at.Constant("alpha").value(), 26e-6, 1e-17);
+}
+
+TEST(LaminateProperty, SaysWhichBlocksGiveNoConstants) {
+    EXPECT_THAT(
+        zelmat::PlyOfMaterial(WarmAluminium()).lacking,
+        testing::ElementsAre(
+            "elastic of Al: the table depends on temperature, and none is given (it goes from 293.15 K "
+            "to 493.15 K)",
+            "thermal_expansion of Al: the table depends on temperature, and none is given (it goes "
+            "from 393.15 K to 493.15 K)",
+            "density of Al: the table depends on temperature, and none is given (it goes from 293.15 K "
+            "to 493.15 K)"));
+    const auto hot = zelmat::PlyOfMaterial(WarmAluminium(), {.temperature = 500.0});
+    EXPECT_EQ(hot.lacking.at(0),
+              "elastic of Al: the temperature lies outside the table (it goes from 293.15 K to 493.15 K)");
+    EXPECT_TRUE(hot.constants.empty());
 }
 
 TEST(LaminateProperty, FindsThePlyConstantsThatAMaterialKeeps) {

@@ -12,7 +12,6 @@
 #include "zelmat/files/ReadText.h"
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/WholeLayup.h"
-#include "zelmat/properties/LaminateProperty.h"
 #include "zelmat/text/CountText.h"
 #include "zelmat/text/QuotedText.h"
 #include "zelmat/text/WordList.h"
@@ -34,7 +33,8 @@ std::optional<std::string> TextOf(const std::string& path) {
 }
 
 /// A layer names its material; two of one name cannot be told apart.
-std::optional<PlyMaterial> PlyOf(DocumentToRead& document, const std::string& name, Findings& findings) {
+std::optional<PlyMaterial> PlyOf(DocumentToRead& document, const std::string& name, const PlyTemperature& at,
+                                 Findings& findings) {
     const auto materials = MaterialsOf(document.Document());
     const auto named = [&](const DocumentMaterial& each) { return each.name == name; };
     const auto found = std::find_if(materials.begin(), materials.end(), named);
@@ -47,12 +47,8 @@ std::optional<PlyMaterial> PlyOf(DocumentToRead& document, const std::string& na
                       {"zelmat rename gives one of them another name"}});
         return std::nullopt;
     }
-    PlyMaterial ply{name, {}, {}};
-    if (found == materials.end()) return ply;
-    const Material material = ReadDocumentMaterial(*found, document.Name(), findings);
-    ply.constants = PlyConstantsOf(material);
-    ply.source = WordList(material.sources);
-    return ply;
+    if (found == materials.end()) return PlyMaterial{name, {}, {}};
+    return PlyOfMaterial(ReadDocumentMaterial(*found, document.Name(), findings), at);
 }
 
 }  // namespace
@@ -76,8 +72,8 @@ std::optional<DocumentLayup> ChosenLayup(KORMemoryDocument& document, const std:
     return std::nullopt;
 }
 
-std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLayup& layup,
-                                     Findings& findings) {
+std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLayup& layup, Findings& findings,
+                                     const PlyTemperature& at) {
     auto whole = ReadWholeLayup(document.Document(), layup, document.Name(), findings);
     if (!whole) return std::nullopt;
     LayupCard card = std::move(whole->card);
@@ -87,7 +83,7 @@ std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLay
         auto known = std::find_if(card.materials.begin(), card.materials.end(),
                                   [&](const PlyMaterial& each) { return each.name == *layer.material; });
         if (known != card.materials.end() && !known->constants.empty()) continue;
-        auto ply = PlyOf(document, *layer.material, findings);
+        auto ply = PlyOf(document, *layer.material, at, findings);
         if (!ply) return std::nullopt;
         if (known == card.materials.end())
             known = card.materials.insert(known, PlyMaterial{*layer.material, {}, {}});

@@ -8,6 +8,7 @@
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/layups/DocumentLayups.h"
 #include "zelmat/layups/LayupCard.h"
+#include "zelmat/properties/PlyOfMaterial.h"
 
 namespace zelmat {
 
@@ -17,10 +18,10 @@ std::optional<DocumentLayup> ChosenLayup(KORMemoryDocument& document, const std:
                                          const std::string& file, Findings& findings);
 
 /// A layup of a document in the shape of a card. A ply material has the constants that the layup keeps of its
-/// own card, else those of the document's material (PlyConstantsOf). Nothing, and a finding, when a layer
+/// own card, else those of the document's material (PlyOfMaterial). Nothing, and a finding, when a layer
 /// cannot be read, or the name of its material is that of several.
-std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLayup& layup,
-                                     Findings& findings);
+std::optional<LayupCard> LayupCardOf(DocumentToRead& document, const DocumentLayup& layup, Findings& findings,
+                                     const PlyTemperature& at = {});
 
 /// All of them, in the order in which they were made; those without a mistake.
 std::vector<LayupCard> LayupCardsOf(DocumentToRead& document, Findings& findings);

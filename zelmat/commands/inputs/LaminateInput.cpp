@@ -11,7 +11,6 @@
 #include "zelmat/layups/LayupCardReader.h"
 #include "zelmat/layups/PlyThickness.h"
 #include "zelmat/layups/StackingNotation.h"
-#include "zelmat/properties/LaminateProperty.h"
 #include "zelmat/quantities/ReadNumber.h"
 #include "zelmat/text/NearestName.h"
 #include "zelmat/text/QuotedText.h"
@@ -44,8 +43,9 @@ mechanics::Vector3 ReadVector(const char* option, const std::string& text, const
     for (std::size_t at = 0; at < vector.size(); ++at) {
         const auto bare = ReadNumber(pieces[at]);
         if (bare && *bare == 0.0) continue;
-        vector[at] =
-            OptionNumber(option, bare ? pieces[at] + unit : pieces[at], quantity, findings).value_or(0.0);
+        const auto number = OptionNumber(option, bare ? pieces[at] + unit : pieces[at], quantity, findings);
+        if (!number) break;  // the others have the same unit, and the same mistake in it
+        vector[at] = *number;
     }
     return vector;
 }
@@ -63,7 +63,7 @@ void LaminateInput::Declare(Arguments& line) {
     AddNumberOption(line, "--thickness", thickness_, "Thickness of a notation's plies: 0.125mm");
 }
 
-std::optional<LayupCard> LaminateInput::Read(CommandContext& context) const {
+std::optional<LayupCard> LaminateInput::Read(const PlyTemperature& at, CommandContext& context) const {
     const bool notation = IsNotation(layup_);
     GivenFile given = notation ? GivenFile() : OpenGiven(layup_, context.options, context.findings);
     if (!notation && !given.document && !given.text) return std::nullopt;
@@ -73,26 +73,37 @@ std::optional<LayupCard> LaminateInput::Read(CommandContext& context) const {
                                           {"zelmat laminate DOC LAYUP"}));
         return std::nullopt;
     }
-    if (notation) return FromNotation(context);
+    if (notation) return FromNotation(at, context);
     if (!material_.empty() || !ply_.empty() || !thickness_.empty()) {
         context.findings.Add(
             UsageFinding("--material, --ply, --thickness", "not-for-a-card",
                          "a card or a document gives material and thickness of each layer itself"));
         return std::nullopt;
     }
-    if (given.document) return FromDocument(*given.document, context);
+    if (given.document) return FromDocument(*given.document, at, context);
+    if (at.temperature) {
+        RefuseTemperature(context.findings);
+        return std::nullopt;
+    }
     auto card = LayupCardReader(context.findings).ReadText(std::move(*given.text), ShownPath(layup_));
     if (!card) NameRightCommand(layup_, FileForm::LAYUP_CARD, context.findings);
     return card;
 }
 
-std::optional<LayupCard> LaminateInput::FromDocument(DocumentToRead& document,
-                                                     CommandContext& context) const {
-    const auto layup = ChosenLayup(document.Document(), wanted_, ShownPath(layup_), context.findings);
-    return layup ? LayupCardOf(document, *layup, context.findings) : std::nullopt;
+void LaminateInput::RefuseTemperature(Findings& findings) {
+    findings.Add(UsageFinding("--temperature", "not-for-constants",
+                              "constants of plies that are given one by one do not depend on temperature",
+                              {"materials of a document and --material do"}));
 }
 
-std::optional<LayupCard> LaminateInput::FromNotation(CommandContext& context) const {
+std::optional<LayupCard> LaminateInput::FromDocument(DocumentToRead& document, const PlyTemperature& at,
+                                                     CommandContext& context) const {
+    const auto layup = ChosenLayup(document.Document(), wanted_, ShownPath(layup_), context.findings);
+    return layup ? LayupCardOf(document, *layup, context.findings, at) : std::nullopt;
+}
+
+std::optional<LayupCard> LaminateInput::FromNotation(const PlyTemperature& at,
+                                                     CommandContext& context) const {
     Findings& findings = context.findings;
     const auto read = ReadStackingNotation(layup_);
     if (const auto* mistake = std::get_if<NotationMistake>(&read)) {
@@ -109,7 +120,7 @@ std::optional<LayupCard> LaminateInput::FromNotation(CommandContext& context) co
         findings.Add(
             UsageFinding("--thickness", "out-of-range", "the thickness is " + thickness_, {kPlyThicknesses}));
     }
-    const auto ply = Ply(context);
+    const auto ply = Ply(at, context);
     if (!ply || findings.HasErrors()) return std::nullopt;
 
     LayupCard card;
@@ -122,8 +133,11 @@ std::optional<LayupCard> LaminateInput::FromNotation(CommandContext& context) co
     return card;
 }
 
-std::optional<PlyMaterial> LaminateInput::Ply(CommandContext& context) const {
-    if (!ply_.empty()) return PlyOfText(context.findings);
+std::optional<PlyMaterial> LaminateInput::Ply(const PlyTemperature& at, CommandContext& context) const {
+    if (!ply_.empty()) {
+        if (at.temperature) RefuseTemperature(context.findings);
+        return PlyOfText(context.findings);
+    }
     if (material_.empty()) {
         context.findings.Add(UsageFinding("--material, --ply", "missing-option",
                                           "a notation needs the material of its plies",
@@ -134,7 +148,7 @@ std::optional<PlyMaterial> LaminateInput::Ply(CommandContext& context) const {
     given.Set(material_, "", {});
     const auto material = given.ReadOne(context);
     if (!material) return std::nullopt;
-    return PlyMaterial{material->name, PlyConstantsOf(*material), {}};
+    return PlyOfMaterial(*material, at);
 }
 
 std::optional<PlyMaterial> LaminateInput::PlyOfText(Findings& findings) const {

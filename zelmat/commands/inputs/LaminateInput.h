@@ -8,6 +8,7 @@
 #include "zelmat/documents/DocumentToRead.h"
 #include "zelmat/layups/LayupCard.h"
 #include "zelmat/mechanics/laminate/LaminateResponse.h"
+#include "zelmat/properties/PlyOfMaterial.h"
 
 namespace zelmat {
 
@@ -20,12 +21,14 @@ public:
     void Declare(Arguments& line);
 
     /// Nothing, and findings, when something is missing or cannot be.
-    std::optional<LayupCard> Read(CommandContext& context) const;
+    std::optional<LayupCard> Read(const PlyTemperature& at, CommandContext& context) const;
 
 private:
-    std::optional<LayupCard> FromDocument(DocumentToRead& document, CommandContext& context) const;
-    std::optional<LayupCard> FromNotation(CommandContext& context) const;
-    std::optional<PlyMaterial> Ply(CommandContext& context) const;
+    static void RefuseTemperature(Findings& findings);
+    std::optional<LayupCard> FromDocument(DocumentToRead& document, const PlyTemperature& at,
+                                          CommandContext& context) const;
+    std::optional<LayupCard> FromNotation(const PlyTemperature& at, CommandContext& context) const;
+    std::optional<PlyMaterial> Ply(const PlyTemperature& at, CommandContext& context) const;
     std::optional<PlyMaterial> PlyOfText(Findings& findings) const;
 
     std::string layup_;

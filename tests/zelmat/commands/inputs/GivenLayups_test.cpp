@@ -70,6 +70,24 @@ TEST_F(GivenLayups, OfMaterialsWithoutConstantsAreNoLaminate) {
                 HasSubstr("a.zeldoc: error[no-laminate]: ply material 'Core': it has no E1, E2, nu12, G12"));
 }
 
+// Plane stress of E 199.5 GPa, nu 0.3 over 2 mm.
+TEST_F(GivenLayups, HaveMaterialsThatDependOnTemperatureAtTheOneThatIsGiven) {
+    const std::string document = DocumentOf({"steel_s355.json"}, "warm.zeldoc");
+    Run({"layup", document, "add", "Plate", "[0]", "--material", "#1", "--thickness", "2mm"});
+    const ResultJson plate({"laminate", document, "--temperature", "150degC"});
+    EXPECT_EQ(plate.Number("temperature"), 423.15);
+    EXPECT_NEAR(plate.Number("A", 0, "x"), 199.5e9 / (1.0 - 0.09) * 0.002, 1.0);
+    EXPECT_NEAR(plate.Number("A", 0, "y"), 0.3 * 199.5e9 / (1.0 - 0.09) * 0.002, 1.0);
+
+    EXPECT_THAT(
+        Refusal(1, {"laminate", document}),
+        HasSubstr("error[no-laminate]: ply material 'Structural steel S355': it has no E1, E2, nu12, "
+                  "G12 (or E and nu of an isotropic one); elastic of Structural steel S355: the table "
+                  "depends on temperature, and none is given (it goes from 293.15 K to 1373.15 K)"));
+    EXPECT_THAT(Refusal(2, {"laminate", Sample("layups/kaw_0_30_m45.json"), "--temperature", "20degC"}),
+                HasSubstr("--temperature: error[not-for-constants]"));
+}
+
 TEST_F(GivenLayups, AreInTheReportOfTheDocument) {
     Run({"layup", document_, "remove", "Bare"});
     const std::string page = Page({}, 0);
