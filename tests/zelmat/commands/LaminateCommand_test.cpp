@@ -44,6 +44,13 @@ TEST(LaminateCommand, GivesTheModuliOfTheQuasiIsotropicLaminate) {
     EXPECT_EQ(laminate.Number("lamination_parameters", 2, "cos 2t"), 0.5625);
 }
 
+TEST(LaminateCommand, PrintsNoZeroWithASign) {
+    const ProgramRun run =
+        RunZelmat({"laminate", "[0/90]", "--ply", kPly, "--thickness", "5mm", "--dT", "-75K"});
+    EXPECT_EQ(run.exitCode, 0) << run.err;
+    EXPECT_THAT(run.out, testing::Not(testing::ContainsRegex(" -0(\\.0+)?(e\\+00)?[ \n]")));
+}
+
 // A. K. Kaw, Mechanics of Composite Materials, example 4.2.
 TEST(LaminateCommand, GivesThePublishedStiffnessOfALayupCard) {
     const ResultJson kaw = Laminate({Sample("layups/kaw_0_30_m45.json")});

@@ -16,6 +16,7 @@ void Result::Add(std::string name, std::string title, const char* quantity, Mayb
     const Shown shown = Of(quantity);
     MaybeNumber number = stored ? MaybeNumber(shown(*stored)) : std::nullopt;
     if (number && !std::isfinite(*number)) number.reset();
+    if (number && *number == 0.0) number = 0.0;  // without a sign
     values_.push_back({std::move(name), std::move(title), {}, number, shown.Unit(), false});
 }
 

@@ -15,8 +15,13 @@ namespace zelmat {
 
 namespace {
 
-MaybeNumber Finite(double number) {
-    return std::isfinite(number) ? MaybeNumber(number) : std::nullopt;
+/// Numbers as a reader can use them: none that is not finite, and no 0 with a sign.
+std::vector<MaybeNumber> Readable(std::vector<MaybeNumber> numbers) {
+    for (MaybeNumber& number : numbers) {
+        if (number && !std::isfinite(*number)) number.reset();
+        if (number && *number == 0.0) number = 0.0;
+    }
+    return numbers;
 }
 
 std::string Header(const std::string& title, const std::string& unit) {
@@ -37,20 +42,26 @@ double Rounded(double number) {
 
 void ResultTable::AddNumbers(std::string name, std::string title, const Shown& shown,
                              const std::vector<MaybeNumber>& numbers) {
-    Column column{std::move(name), std::move(title), shown.Unit(), Column::Kind::NUMBERS, {}, {}};
+    std::vector<MaybeNumber> inUnit;
     for (const MaybeNumber& number : numbers) {
-        column.numbers.push_back(number ? Finite(shown(*number)) : std::nullopt);
+        inUnit.push_back(number ? MaybeNumber(shown(*number)) : std::nullopt);
     }
-    columns_.push_back(std::move(column));
+    columns_.push_back({std::move(name),
+                        std::move(title),
+                        shown.Unit(),
+                        Column::Kind::NUMBERS,
+                        Readable(std::move(inUnit)),
+                        {}});
 }
 
 void ResultTable::AddNumbers(std::string name, std::string title, std::vector<MaybeNumber> numbers) {
     columns_.push_back(
-        {std::move(name), std::move(title), {}, Column::Kind::NUMBERS, std::move(numbers), {}});
+        {std::move(name), std::move(title), {}, Column::Kind::NUMBERS, Readable(std::move(numbers)), {}});
 }
 
 void ResultTable::AddMixed(std::string name, std::string title, std::vector<MaybeNumber> numbers) {
-    columns_.push_back({std::move(name), std::move(title), {}, Column::Kind::MIXED, std::move(numbers), {}});
+    columns_.push_back(
+        {std::move(name), std::move(title), {}, Column::Kind::MIXED, Readable(std::move(numbers)), {}});
 }
 
 void ResultTable::AddWords(std::string name, std::string title, std::vector<std::string> words) {

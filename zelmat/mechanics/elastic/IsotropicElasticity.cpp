@@ -111,14 +111,17 @@ Outcome<IsotropicElasticity> IsotropicFrom(const ElasticValue& first, const Elas
     }
     const bool ordered = first.constant < second.constant;
     const auto [bulk, shear] = ordered ? ModuliFrom(first, second) : ModuliFrom(second, first);
-    IsotropicElasticity elasticity{.youngsModulus = 9.0 * bulk * shear / (3.0 * bulk + shear),
+    IsotropicElasticity elasticity{.youngsModulus = 9.0 * bulk * (shear / (3.0 * bulk + shear)),
                                    .poissonsRatio = (3.0 * bulk - 2.0 * shear) / (6.0 * bulk + 2.0 * shear),
                                    .shearModulus = shear,
                                    .bulkModulus = bulk,
                                    .lameLambda = bulk - 2.0 * shear / 3.0,
                                    .pWaveModulus = bulk + 4.0 * shear / 3.0};
-    if (!(bulk > 0.0 && shear > 0.0) || !std::isfinite(elasticity.pWaveModulus)) {
+    if (!(bulk > 0.0 && shear > 0.0) || !std::isfinite(bulk) || !std::isfinite(shear)) {
         return Refusal{"no stable material has these constants: E > 0 and -1 < nu < 0.5 have to hold"};
+    }
+    if (!(elasticity.youngsModulus > 0.0) || !std::isfinite(elasticity.pWaveModulus)) {
+        return Refusal{"a constant that follows is beyond what a number can hold"};
     }
     // What was given comes back to the last bit.
     for (const ElasticValue& given : {first, second}) Member(elasticity, given.constant) = given.value;
@@ -128,9 +131,11 @@ Outcome<IsotropicElasticity> IsotropicFrom(const ElasticValue& first, const Elas
 Outcome<WaveSpeeds> WaveSpeedsOf(const IsotropicElasticity& elasticity, double density) {
     if (!std::isfinite(density) || density <= 0.0)
         return Refusal{"a density has to be a finite number above 0"};
-    return WaveSpeeds{.pressure = std::sqrt(elasticity.pWaveModulus / density),
-                      .shear = std::sqrt(elasticity.shearModulus / density),
-                      .bar = std::sqrt(elasticity.youngsModulus / density)};
+    const WaveSpeeds speeds{.pressure = std::sqrt(elasticity.pWaveModulus / density),
+                            .shear = std::sqrt(elasticity.shearModulus / density),
+                            .bar = std::sqrt(elasticity.youngsModulus / density)};
+    if (!std::isfinite(speeds.pressure)) return Refusal{"a wave speed is beyond what a number can hold"};
+    return speeds;
 }
 
 }  // namespace zelmat::mechanics

@@ -192,7 +192,9 @@ Outcome<HyperelasticFit> FitHyperelastic(HyperelasticModel model, int order,
     const auto energy = MakeStrainEnergy(model, order, found);
     if (!energy.Ok()) return energy.Refused();
     const auto deviation = DeviationOf(**energy, data->points);
-    if (!deviation) return Refusal{"the fitted response is too great for a number"};
+    if (!deviation || !std::isfinite(deviation->rmsAbsolute)) {
+        return Refusal{"the fitted response is too great for a number"};
+    }
 
     const auto uncertainty = scaled.UncertaintyAt(best);
     const auto places = PlacesInOrder(model, found);

@@ -70,10 +70,19 @@ PlyPoint PointAt(const Laminate& laminate, const Layer& layer, double z, const L
     PlyPoint point{};
     point.z = z;
     point.strain = Sum(plane.strain, plane.curvature, z);
-    point.stress = Times(RotatedStiffness(material.elastic, layer.angle),
-                         Sum(point.strain, RotatedExpansion(material, layer.angle), -temperatureChange));
+    const Vector3 stretched = Sum(point.strain, RotatedExpansion(material, layer.angle), -temperatureChange);
+    const Matrix3 rotated = RotatedStiffness(material.elastic, layer.angle);
+    CleanSum stress, plyStress;
+    for (std::size_t k = 0; k < 3; ++k)
+        stress.Add({rotated[0][k], rotated[1][k], rotated[2][k]}, stretched[k]);
+    point.stress = stress.Value();
     point.plyStrain = StrainInPly(point.strain, layer.angle);
-    point.plyStress = StressInPly(point.stress, layer.angle);
+    for (std::size_t k = 0; k < 3; ++k) {
+        Vector3 alone{};
+        alone[k] = point.stress[k];
+        plyStress.Add(StressInPly(alone, layer.angle), 1.0);
+    }
+    point.plyStress = plyStress.Value();
     return point;
 }
 

@@ -24,7 +24,7 @@ std::optional<Refusal> Fault(const JohnsonCook& law, double plasticStrain, doubl
     if (!std::isfinite(temperature)) return Refusal{"a temperature has to be a finite number"};
     if (!strainRate) return std::nullopt;
     if (!law.rate)
-        return Refusal{"a strain rate needs C and the reference rate, which the material does not have"};
+        return Refusal{"a strain rate needs C and the reference rate, and the material does not have both"};
     if (!std::isfinite(law.rate->c) || !(law.rate->referenceRate > 0.0)) {
         return Refusal{"C has to be a finite number and the reference rate above 0"};
     }

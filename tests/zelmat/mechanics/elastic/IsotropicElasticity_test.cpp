@@ -64,6 +64,19 @@ TEST(IsotropicElasticity, IsRefusedWhereNoStableMaterialHasTheConstants) {
     EXPECT_EQ(why({YOUNGS_MODULUS, NAN}, {SHEAR_MODULUS, 1}), "a constant is not a finite number");
 }
 
+TEST(IsotropicElasticity, IsRightOrRefusedAtTheEndsOfWhatNumbersHold) {
+    for (const double modulus : {1e-300, 1e200}) {
+        const auto found = IsotropicFrom({SHEAR_MODULUS, modulus}, {BULK_MODULUS, modulus});
+        ASSERT_TRUE(found.Ok()) << modulus;
+        EXPECT_NEAR(found->youngsModulus / modulus, 2.25, 1e-15) << "9 K G / (3 K + G)";
+    }
+    EXPECT_EQ(IsotropicFrom({SHEAR_MODULUS, 1.0}, {BULK_MODULUS, 1e308}).Why(),
+              "a constant that follows is beyond what a number can hold");
+    const auto steel = IsotropicFrom({YOUNGS_MODULUS, 210e9}, {POISSONS_RATIO, 0.3}).Value();
+    EXPECT_EQ(zelmat::mechanics::WaveSpeedsOf(steel, 1e-320).Why(),
+              "a wave speed is beyond what a number can hold");
+}
+
 TEST(IsotropicElasticity, IsKnownByTheUsualLetters) {
     for (const auto constant : kAll) EXPECT_EQ(ElasticConstantOf(Keyword(constant)), constant);
     EXPECT_EQ(ElasticConstantOf("nu"), POISSONS_RATIO);

@@ -129,4 +129,18 @@ TEST(LaminateResponse, IsRefusedForLoadsThatAreNone) {
     EXPECT_FALSE(ExpansionOf({}).Ok());
 }
 
+TEST(LaminateResponse, HasNoStressWhereNothingButRoundingIsLeft) {
+    const zelmat::mechanics::PlyMaterial steel{
+        .elastic = {.e1 = 210e9, .e2 = 210e9, .nu12 = 0.3, .g12 = 210e9 / 2.6},
+        .expansion = {},
+        .density = {},
+        .strength = {}};
+    const auto response = zelmat::mechanics::RespondTo(
+        Stacked(steel, 1e-3, {0.0}), {.force = {235e3, 0.0, 0.0}, .moment = {}, .temperatureChange = 0.0});
+    ASSERT_TRUE(response.Ok());
+    EXPECT_NEAR(response->plies[0].top.plyStress[0], 235e6, 1.0);
+    EXPECT_EQ(response->plies[0].top.plyStress[1], 0.0);
+    EXPECT_EQ(response->plies[0].top.stress[1], 0.0);
+}
+
 }  // namespace
