@@ -93,7 +93,8 @@ TEST(AtCommand, ReadsAHardeningTableConstantOutsideAndSaysSo) {
     const std::string steel = Sample("steel_s355.json");
     const ResultJson beyond({"at", steel, "plastic", "--plastic-strain", "0.5", "--temperature", "20degC"});
 
-    EXPECT_EQ(beyond.Number("stress"), 355e6);
+    // The plateau of 355 MPa is engineering stress: 355 MPa (1 + 0.14831 + 355/210000) at its end.
+    EXPECT_NEAR(beyond.Number("stress"), 408250169.0476, 1e-3);
     EXPECT_THAT(beyond["notes"], ElementsAre("beyond the last plastic strain: stress of the last point"));
     EXPECT_THAT(Refusal({steel, "plastic", "--plastic-strain", "0.5", "--temperature", "20degC", "--outside",
                          "error"},
@@ -108,6 +109,13 @@ TEST(AtCommand, ReadsAHardeningTableConstantOutsideAndSaysSo) {
         HasSubstr("the stress depends on the plastic strain, and none is given (--plastic-strain 0.1)"));
     EXPECT_THAT(Refusal({steel, "plastic", "--plastic-strain", "-0.1", "--temperature", "20degC"}, 1),
                 HasSubstr("a plastic strain has to be a finite number from 0 on"));
+}
+
+TEST(AtCommand, RefusesToLookOutsideALaw) {
+    EXPECT_THAT(Refusal({Sample("copper_ofhc.json"), "plastic", "--plastic-strain", "0.1", "--temperature",
+                         "600K", "--outside", "linear"},
+                        1),
+                HasSubstr("Johnson and Cook's law has no end that --outside could mean"));
 }
 
 // 12e-6 at 100 degC and 14e-6 at 300 degC from 20 degC, referred to 100 degC.

@@ -281,6 +281,37 @@ TEST(FitCommand, ExplainsWhatItNeeds) {
     EXPECT_EQ(Fit({Rubber(), "Vulc", "more", "--model", "YEOH"}).exitCode, 3);  // no such file of points
 }
 
+TEST(FitCommand, RefusesWeightsAndRangesOfModesWithoutTests) {
+    for (const char* option : {"--weight", "--range"}) {
+        const std::string value = option == std::string("--weight") ? "planar=2" : "planar=1:2";
+        EXPECT_THAT(Fit({FileOf("uniaxial.csv", "Stretch [-],NominalStress [MPa]\n2,1.75\n"), "--mode",
+                         "uniaxial", "--model", "NEO_HOOKE", option, value})
+                        .err,
+                    HasSubstr(std::string(option) + ": error[no-such-tests]: there is no planar test"));
+    }
+}
+
+TEST(FitCommand, RefusesOptionsOfRubberTestsForLawsOfMetals) {
+    const std::string csv =
+        FileOf("law.csv", "YieldStress [MPa],PlasticStrain [-]\n300,0\n400,0.1\n440,0.2\n450,0.3\n");
+    for (const auto& [option, value] :
+         {std::pair{"--range", "0:0.05"}, {"--weight", "uniaxial=2"}, {"--mode", "uniaxial"}}) {
+        const ProgramRun run = Fit({csv, "--model", "voce", option, value});
+        EXPECT_EQ(run.exitCode, 2);
+        EXPECT_THAT(run.err, HasSubstr(std::string(option) + ": error[not-for-this-model]: a hardening curve "
+                                                             "has no modes"));
+    }
+}
+
+TEST(FitCommand, RefusesWhatNumbersCannotHold) {
+    const ProgramRun run =
+        Fit({FileOf("huge.csv", "Stretch [-],NominalStress [MPa]\n1.2,1e300\n1.3,2e300\n1.4,1e300\n"),
+             "--mode", "uniaxial", "--model", "YEOH"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_THAT(run.err, HasSubstr("error[no-fit]: the fitted response is too great for a number"));
+    EXPECT_EQ(run.out, "");
+}
+
 TEST(FitCommand, ReadsMeasuredPointsFromStandardInput) {
     const std::string csv = FileOf("piped.csv", "Stretch [-],NominalStress [MPa]\n2,1.75\n");
     const ProgramRun run =

@@ -1,8 +1,10 @@
 #include "zelmat/commands/inputs/FitInput.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <set>
+#include <utility>
 
 #include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/inputs/CardInput.h"
@@ -172,6 +174,19 @@ bool FitInput::ReadFiles(const std::vector<std::string>& paths, const std::optio
     return true;
 }
 
+/// A limit or weight of a mode without tests would change nothing, and the user would not know.
+void FitInput::RefuseModesWithoutTests(const std::vector<TestCurve>& curves, Findings& findings) const {
+    const auto refuse = [&](const char* option, const std::optional<LoadingMode>& mode) {
+        if (!mode || std::any_of(curves.begin(), curves.end(),
+                                 [&](const TestCurve& curve) { return curve.mode == *mode; }))
+            return;
+        findings.Add(UsageFinding(option, "no-such-tests",
+                                  "there is no " + std::string(mechanics::Keyword(*mode)) + " test"));
+    };
+    for (const Limits& limits : limits_) refuse("--range", limits.mode);
+    for (const Weight& weight : weights_) refuse("--weight", weight.mode);
+}
+
 void FitInput::Restrict(std::vector<TestCurve>& curves) const {
     for (TestCurve& curve : curves) {
         for (const Limits& limits : limits_) {
@@ -214,6 +229,7 @@ std::vector<TestCurve> FitInput::Curves(Findings& findings) const {
         const auto more = MeasuredTests(measured_[at].points, measured_[at].file, mode, findings);
         curves.insert(curves.end(), more.begin(), more.end());
     }
+    if (!findings.HasErrors()) RefuseModesWithoutTests(curves, findings);
     if (findings.HasErrors()) return {};
     Restrict(curves);
     return curves;
@@ -274,7 +290,20 @@ bool FitInput::AddHardening(const Measured& measured, std::vector<HardeningPoint
     return true;
 }
 
+/// They would change nothing of a hardening curve, and the user would not know.
+bool FitInput::RefuseOptionsOfTests(Findings& findings) const {
+    const std::array<std::pair<const char*, bool>, 3> options = {
+        {{"--mode", !modes_.empty()}, {"--range", !limits_.empty()}, {"--weight", !weights_.empty()}}};
+    for (const auto& [option, given] : options) {
+        if (!given) continue;
+        findings.Add(UsageFinding(option, "not-for-this-model",
+                                  "a hardening curve has no modes, and all of its points count alike"));
+    }
+    return findings.HasErrors();
+}
+
 std::optional<HardeningCurve> FitInput::Hardening(CommandContext& context) const {
+    if (RefuseOptionsOfTests(context.findings)) return std::nullopt;
     std::vector<HardeningPoint> points;
     Place place = place_;
     if (measured_.empty() && !AddHardening(*material_, points, place, context.findings)) return std::nullopt;

@@ -67,6 +67,8 @@ private:
     bool ReadOptions(Findings& findings);
     bool ReadFiles(const std::vector<std::string>& paths, const std::optional<std::string>& first,
                    Findings& findings);
+    bool RefuseOptionsOfTests(Findings& findings) const;
+    void RefuseModesWithoutTests(const std::vector<mechanics::TestCurve>& curves, Findings& findings) const;
     void Restrict(std::vector<mechanics::TestCurve>& curves) const;
     bool AddHardening(const Material& material, std::vector<mechanics::HardeningPoint>& points, Place& place,
                       Findings& findings) const;

@@ -90,6 +90,9 @@ MaybeProblem ReadPlastic(const Block& block, const AtQuestion& question, Result&
         strainTo =
             curves->GreatestPlasticStrain(question.temperature.value_or(curves->Temperatures().lowest));
     }
+    if (!curves && question.outside) {
+        return AtProblem{"Johnson and Cook's law has no end that --outside could mean"};
+    }
     auto ranges = RangeText(range, result);
     if (strainTo) ranges.push_back("plastic strains up to " + NumberText(*strainTo));
     const auto stress = FlowStressAt(*hardening, *question.plasticStrain, question.temperature,
