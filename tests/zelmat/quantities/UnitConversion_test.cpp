@@ -58,7 +58,10 @@ INSTANTIATE_TEST_SUITE_P(
         Published{"lbf", "N", 4.4482216152605, 0.0}, Published{"kip", "kN", 4.4482216152605, 0.0},
         Published{"kgf", "N", 9.80665, 0.0}, Published{"kp/cm^2", "Pa", 98066.5, 0.0},
         Published{"kgf/mm^2", "MPa", 9.80665, 0.0}, Published{"bar", "Pa", 1e5, 0.0},
-        Published{"atm", "Pa", 101325.0, 0.0}, Published{"dyn/cm^2", "Pa", 0.1, 0.0},
+        Published{"atm", "Pa", 101325.0, 0.0}, Published{"Torr", "Pa", 133.32236842105263, 0.0},
+        Published{"pcf", "kg/m3", 1.601846e1, 1e-6}, Published{"cc", "m3", 1e-6, 0.0},
+        Published{"µin", "m", 2.54e-8, 0.0}, Published{"kNm", "N m", 1000.0, 0.0},
+        Published{"Nmm/mm", "N", 1.0, 0.0}, Published{"dyn/cm^2", "Pa", 0.1, 0.0},
         Published{"in", "m", 0.0254, 0.0}, Published{"ft", "m", 0.3048, 0.0},
         Published{"yd", "m", 0.9144, 0.0}, Published{"mil", "m", 2.54e-5, 0.0},
         Published{"angstrom", "m", 1e-10, 0.0}, Published{"lb", "kg", 0.45359237, 0.0},
@@ -97,6 +100,8 @@ TEST(UnitConversion, NumbersOfFewDigitsKeepThem) {
     EXPECT_EQ(Convert(7850.0, "kg/m3", "t/mm3"), 7.85e-9);
     EXPECT_EQ(Convert(11.7, "µm/m/K", "1/K"), 11.7e-6);
     EXPECT_EQ(Convert(210.0, "GPa", "Pa"), 210e9);
+    EXPECT_EQ(Convert(7.85, "g/cc", "kg/m3"), 7850.0);
+    EXPECT_EQ(Convert(6.5, "µin/in/degF", "1/K"), 11.7e-6);
     EXPECT_EQ(Convert(0.1, "MPa", "Pa"), 1e5);
     EXPECT_EQ(Convert(2.3, "%", "-"), 0.023);
     EXPECT_EQ(Convert(57.7, "kPa", "MPa"), 0.0577);
