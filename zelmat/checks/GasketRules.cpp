@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 
 #include "zelmat/checks/CheckRules.h"
 #include "zelmat/checks/DerivedText.h"
@@ -111,6 +112,31 @@ void LookAtUnloading(const Material& material, CheckReport& report) {
     });
 }
 
+/// The closure that a curve is given for stands in each of its rows, and once more in its own first or last
+/// one.
+void LookAtEnds(const Material& material, CheckReport& report) {
+    constexpr double kRounding = 1e-6;
+    ForEachGasketCurve(material, [&](const Block& block, const Table& table, const Curve& curve) {
+        const Column &closure = *table.Find("closure"), &pressure = *table.Find("pressure");
+        const std::size_t last = curve.end - 1;
+        const auto hold = [&](const Column& column, std::size_t row, double expected, double size,
+                              const std::string& detail) {
+            if (!(std::abs(column.values[row] - expected) > kRounding * size)) return;
+            report.AddValue(block, table, column, row, {detail});
+        };
+        if (const Column* plastic = table.Find("plastic_closure")) {
+            const double stays = plastic->values[curve.first];
+            hold(closure, curve.first, stays, closure.values[last],
+                 "its plastic closure is " + WithUnit(stays, "m"));
+            hold(pressure, curve.first, 0.0, pressure.values[last], "it begins without pressure");
+        }
+        if (const Column* greatest = table.Find("max_closure")) {
+            const double reached = greatest->values[last];
+            hold(closure, last, reached, reached, "its greatest closure is " + WithUnit(reached, "m"));
+        }
+    });
+}
+
 bool HasUnloading(const Block& gasket) {
     return gasket.Find("unloading_elastic_plastic") || gasket.Find("unloading_damage");
 }
@@ -162,6 +188,14 @@ CheckTopic GasketRules() {
              .bound = "expected at or below the loading curve",
              .source = "a gasket that was flattened or damaged pushes back less than it did",
              .look = LookAtUnloading},
+            {.kind = FindingKind::WARNING,
+             .code = "unloading-ends",
+             .says =
+                 "An elastic-plastic unloading curve begins without pressure at its plastic closure, one of "
+                 "damage ends at its greatest closure.",
+             .bound = "the curve and the closure that it is given for do not agree",
+             .source = "definition of both closures: what stays without pressure, and where unloading began",
+             .look = LookAtEnds},
             {.code = "unloading-without-table",
              .says = "Where unloading is switched on there is an unloading table.",
              .bound = "needs unloading_elastic_plastic or unloading_damage",

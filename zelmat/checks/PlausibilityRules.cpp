@@ -84,6 +84,25 @@ Sightings SpeedOfSound(const Material& material) {
                  WithUnit(e, "Pa") + " and density " + WithUnit(rho, "kg/m3")}};
 }
 
+/// Of Johnson and Cook's law what its first two constants say of each, and the stress at plastic strain 1.
+Sightings YieldStresses(const Material& material) {
+    Sightings seen = InColumns(material, {{"plastic", "yield_stress"}, {"plastic", "A"}});
+    const Block* plastic = material.Find("plastic");
+    if (!plastic) return seen;
+    for (const Table& table : plastic->tables) {
+        const Column *a = table.Find("A"), *b = table.Find("B");
+        if (!a || !b) continue;
+        for (std::size_t row = 0; row < table.Rows(); ++row) {
+            const double sum = a->values[row] + b->values[row];
+            seen.push_back({sum, &table, row,
+                            "row " + std::to_string(row + 1) +
+                                " of plastic: A + B, the stress at plastic strain 1, is " +
+                                DerivedText(sum, "Pa")});
+        }
+    }
+    return seen;
+}
+
 /// Where the values of a property are: in columns, or they follow from others.
 struct Lookout {
     const char* property;
@@ -95,7 +114,7 @@ Sightings SightingsOf(const PlausibleProperty& property, const Material& materia
     static const std::vector<Lookout> lookouts = {
         {"modulus", {{"elastic", "youngs_modulus"}, {"gasket_membrane", "youngs_modulus"}}},
         {"poissons-ratio", {{"elastic", "poissons_ratio"}, {"gasket_membrane", "poissons_ratio"}}},
-        {"yield-stress", {{"plastic", "yield_stress"}, {"plastic", "A"}}},
+        {"yield-stress", {}, YieldStresses},
         {"density", {{"density", "density"}}},
         {"expansion", {{"thermal_expansion", "thermal_expansion"}}},
         {"conductivity", {{"conductivity", "conductivity"}}},
@@ -182,6 +201,45 @@ CheckRule Implausible(const PlausibleProperty& property) {
             }};
 }
 
+/// The first of a curve's rows alone: the others follow from its unit.
+void LookAtPlasticStrain(const Material& material, CheckReport& report) {
+    constexpr double kGreatest = 5.0;
+    const Block* plastic = material.Find("plastic");
+    if (!plastic) return;
+    for (const Table& table : plastic->tables) {
+        const Column* strain = table.Find("plastic_strain");
+        if (!strain) continue;
+        const auto found = std::find_if(strain->values.begin(), strain->values.end(),
+                                        [](double value) { return value > kGreatest; });
+        if (found == strain->values.end()) continue;
+        report.AddValue(*plastic, table, *strain, static_cast<std::size_t>(found - strain->values.begin()),
+                        {"in % it would be plausible"});
+    }
+}
+
+bool IsCold(double temperature) {
+    constexpr double kColdest = 100.0;  // K
+    return temperature > 0.0 && temperature < kColdest;
+}
+
+void LookAtReferences(const Material& material, CheckReport& report) {
+    const std::string hint = "in degC it would be plausible";
+    const Block* expansion = material.Find("thermal_expansion");
+    const auto reference = expansion ? expansion->values.Get<double>("reference_temperature") : std::nullopt;
+    if (reference && IsCold(*reference)) {
+        report.Add(expansion->origin.Line(),
+                   "the reference temperature of thermal_expansion is " + WithUnit(*reference, "K"), {hint});
+    }
+    const Block* plastic = material.Find("plastic");
+    if (!plastic) return;
+    for (const Table& table : plastic->tables) {
+        const Column* transition = table.Find("transition_temperature");
+        for (std::size_t row = 0; transition && row < table.Rows(); ++row) {
+            if (IsCold(transition->values[row])) report.AddValue(*plastic, table, *transition, row, {hint});
+        }
+    }
+}
+
 void LookAtClass(const Material& material, CheckReport& report) {
     const auto& known = PlausibleClasses();
     if (material.materialClass.empty() ||
@@ -200,6 +258,22 @@ CheckTopic PlausibilityRules() {
         if (!property.limitsElsewhere) topic.rules.push_back(Impossible(property));
         topic.rules.push_back(Implausible(property));
     }
+    topic.rules.push_back({.kind = FindingKind::WARNING,
+                           .code = "implausible-plastic-strain",
+                           .says = "Plastic strains are at most 5, and not given in percent.",
+                           .bound = "hardly above 5",
+                           .source =
+                               "set here: at a true strain of 5 a bar is 148 times as long; torsion and "
+                               "drawing of wires end below it",
+                           .look = LookAtPlasticStrain});
+    topic.rules.push_back({.kind = FindingKind::WARNING,
+                           .code = "implausible-reference-temperature",
+                           .says = "The reference temperature of a thermal expansion and the transition "
+                                   "temperature of Johnson-Cook's law are not below 100 K.",
+                           .bound = "hardly below 100 K",
+                           .source = "set here: both are near room temperature in the literature; 20 K is 20 "
+                                     "degC whose unit nobody said",
+                           .look = LookAtReferences});
     topic.rules.push_back({.kind = FindingKind::WARNING,
                            .code = "unknown-class",
                            .says = "The class of the material is one that has bands.",

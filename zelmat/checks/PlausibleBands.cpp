@@ -10,6 +10,8 @@ namespace {
 
 constexpr const char* kAshby =
     "M. F. Ashby, Materials Selection in Mechanical Design, 4th ed., 2011, property charts and appendix A";
+constexpr const char* kAshbyMary =
+    "M. F. Ashby, as above; T. A. Mary and others, Science 272, 1996: -8.7e-6 1/K of ZrW2O8";
 constexpr const char* kCallister =
     "W. D. Callister, D. G. Rethwisch, Materials Science and Engineering, 8th ed., 2010, appendix B";
 constexpr const char* kAsm = "ASM Ready Reference: Thermal Properties of Metals, 2002";
@@ -88,7 +90,7 @@ constexpr PlausibleBand kBands[] = {
     {"modulus", "elastomer", 1e5, 1e8, kAshby},
     {"modulus", "composite", 1e9, 6e11, kAshby},
     {"modulus", "concrete", 3e9, 6e10, kEc2},
-    {"modulus", "foam", 1e5, 5e9, kGibsonAshby},
+    {"modulus", "foam", 1e4, 5e9, kGibsonAshby},
     {"modulus", kAnyClass, 5e5, 1.25e12, kWide},
 
     {"poissons-ratio", "metal", 0.0, 0.47, kCallister},
@@ -96,6 +98,7 @@ constexpr PlausibleBand kBands[] = {
     {"poissons-ratio", "ceramic", 0.0, 0.4, kCallister},
     {"poissons-ratio", "elastomer", 0.4, 0.5, kAshby},
     {"poissons-ratio", "concrete", 0.0, 0.3, kEc2},
+    {"poissons-ratio", "foam", -0.8, 0.5, "R. Lakes, Science 235, 1987: -0.7 for a re-entrant foam"},
     {"poissons-ratio", kAnyClass, 0.0, 0.5,
      "R. Lakes, Science 235, 1987: a negative one takes a re-entrant foam"},
 
@@ -118,7 +121,7 @@ constexpr PlausibleBand kBands[] = {
 
     {"expansion", "metal", 1e-7, 1e-4, kAsm},
     {"expansion", "polymer", 5e-6, 5e-4, kAshby},
-    {"expansion", "ceramic", -2e-6, 5e-5, kAshby},
+    {"expansion", "ceramic", -1e-5, 5e-5, kAshbyMary},
     {"expansion", "elastomer", 2e-5, 7e-4, kBrandrup},
     {"expansion", "composite", -2e-6, 1e-4, kAshby},
     {"expansion", "concrete", 4e-6, 2e-5, kEc2},
@@ -152,7 +155,7 @@ constexpr PlausibleBand kBands[] = {
     {"speed-of-sound", "elastomer", 5.0, 4e2, kFromModulus},
     {"speed-of-sound", "composite", 4e2, 2e4, kFromModulus},
     {"speed-of-sound", "concrete", 1e3, 6e3, kFromModulus},
-    {"speed-of-sound", "foam", 20.0, 6e3, kFromModulus},
+    {"speed-of-sound", "foam", 5.0, 6e3, kFromModulus},
     {"speed-of-sound", kAnyClass, 15.0, 2e4, kFromModulus},
 };
 

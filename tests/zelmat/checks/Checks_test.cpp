@@ -63,6 +63,36 @@ TEST(Checks, HoldAMaterialAgainstTheBandOfItsClass) {
     EXPECT_THAT(Checked(R"({"name": "M", )" + rest), IsEmpty());
 }
 
+TEST(Checks, LeaveSoundFoamsAndCeramicsAlone) {
+    const auto elastic = [](const char* materialClass, const char* row) {
+        return R"({"name": "M", "class": ")" + std::string(materialClass) +
+               R"(", "elastic": {"temperature_dependent": false, "columns": ["youngs_modulus",
+                   "poissons_ratio"], "rows": [)" +
+               row + "]}}";
+    };
+    EXPECT_THAT(Checked(elastic("foam", "[60e3, 0.1]")), IsEmpty()) << "soft polyurethane";
+    EXPECT_THAT(Checked(elastic("foam", "[72e3, -0.7]")), IsEmpty()) << "re-entrant";
+    EXPECT_THAT(Checked(R"({"name": "ZrW2O8", "class": "ceramic", "E": "88 GPa", "nu": 0.3,
+                    "thermal_expansion": {"alpha": "-8.7e-6 1/K", "Tref": "20 degC"}})"),
+                IsEmpty());
+}
+
+TEST(Checks, FindATemperatureReferenceWhoseUnitNobodySaid) {
+    EXPECT_THAT(Checked(R"({"name": "M", "E": "210 GPa", "nu": 0.3,
+"thermal_expansion": {"alpha": "12e-6 1/K", "Tref": 20}})"),
+                ElementsAre("card.json:2: warning[implausible-reference-temperature]: the reference "
+                            "temperature of thermal_expansion is 20 K (hardly below 100 K, in degC it would "
+                            "be plausible)"));
+}
+
+TEST(Checks, JudgeBothConstantsOfJohnsonAndCooksLaw) {
+    EXPECT_THAT(Checked(R"({"name": "M", "class": "metal", "E": "210 GPa", "nu": 0.3,
+"plastic": {"hardening": "johnson-cook", "A": "792 MPa", "B": "510 GPa", "n": 0.26, "m": 1.03,
+"melting_temperature": "1793 K", "transition_temperature": "298 K"}})"),
+                ElementsAre(testing::HasSubstr("error[impossible-yield-stress]: row 1 of plastic: A + B, the "
+                                               "stress at plastic strain 1, is 5.108e+11 Pa")));
+}
+
 TEST(Checks, JudgeATableByItsRowsNearRoomTemperature) {
     const auto conductivity = [](const std::string& rows) {
         return R"({"name": "M", "class": "metal", "conductivity": {"temperature_dependent": true,
