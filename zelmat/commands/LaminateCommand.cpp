@@ -1,4 +1,3 @@
-
 #include "zelmat/commands/frame/Calculation.h"
 #include "zelmat/commands/inputs/LaminateInput.h"
 #include "zelmat/commands/inputs/OptionNumbers.h"
@@ -40,18 +39,27 @@ protected:
         result.Say("layers", "layers", std::to_string(card->layers.size()) + ", " + Sequence(*card));
         result.Say("convention", "convention", kConvention);
         if (at.temperature) TellTemperature(at, result);
-        for (const PlyMaterial& ply : card->materials) result.Note(ply.lacking);
+        result.Note(Lacking(*card));
         if (const auto fault = TellLaminate(*laminate, result)) return Refuse(*card, fault->text, findings);
         if (!load_.IsGiven()) return true;
         if (const auto fault = TellLoaded(*laminate, load, result))
-            return Refuse(*card, fault->text, findings);
+            return Refuse(*card, fault->text, findings, Lacking(*card));
         return true;
     }
 
 private:
-    static bool Refuse(const LayupCard& card, const std::string& why, Findings& findings) {
-        findings.Add({FindingKind::ERROR, {card.file, card.layersLine}, "no-laminate", why, {}});
+    static bool Refuse(const LayupCard& card, const std::string& why, Findings& findings,
+                       std::vector<std::string> details = {}) {
+        findings.Add(
+            {FindingKind::ERROR, {card.file, card.layersLine}, "no-laminate", why, std::move(details)});
         return false;
+    }
+
+    static std::vector<std::string> Lacking(const LayupCard& card) {
+        std::vector<std::string> all;
+        for (const PlyMaterial& ply : card.materials)
+            all.insert(all.end(), ply.lacking.begin(), ply.lacking.end());
+        return all;
     }
 
     static void TellTemperature(const PlyTemperature& at, Result& result) {

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "zelmat/cards/MeasuredCsv.h"
@@ -7,6 +8,7 @@
 #include "zelmat/commands/inputs/OptionNumbers.h"
 #include "zelmat/files/ReadText.h"
 #include "zelmat/mechanics/plastic/TensileCurve.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/CountText.h"
 
 namespace zelmat {
@@ -39,6 +41,7 @@ protected:
         const auto curve = mechanics::ConvertTensileCurve(*engineering, *modulus, *offset);
         if (!curve.Ok()) return Refuse(findings, "no-curve", curve.Why());
         result.Add("youngs_modulus", "Young's modulus", "modulus", *modulus);
+        HoldAgainstModulus(*curve, *modulus, findings);
         TellYield(*curve, *offset, findings, result);
         TellNecking(*curve, result);
         for (const std::string& note : curve->notes) result.Note(note);
@@ -78,6 +81,23 @@ private:
         if (trueStrain || trueStress)
             result.Note("true values of the file were turned into engineering ones");
         return curve;
+    }
+
+    /// No metal is stiffer in its own test: then the modulus is another material's, or in another unit.
+    void HoldAgainstModulus(const mechanics::TensileCurve& curve, double modulus, Findings& findings) const {
+        constexpr double kScatter = 0.1;
+        const auto stiffer = std::find_if(curve.trueCurve.begin(), curve.trueCurve.end(),
+                                          [&](const mechanics::TrueCurvePoint& point) {
+                                              return point.plasticStrain < -kScatter * point.stress / modulus;
+                                          });
+        if (stiffer == curve.trueCurve.end()) return;
+        findings.Add({FindingKind::WARNING,
+                      {ShownPath(path_), 0},
+                      "modulus-too-low",
+                      "the test is stiffer than the Young's modulus that is given: the plastic strain is " +
+                          RoundedText(stiffer->plasticStrain, 4) + " at the true strain " +
+                          RoundedText(stiffer->strain, 4),
+                      {"offset yield point and plastic strains follow from that modulus"}});
     }
 
     static void TellYield(const mechanics::TensileCurve& curve, double offset, Findings& findings,

@@ -50,13 +50,14 @@ DerivedValue Modulus(const char* name, const char* title, Value value, std::opti
     return {name, title, std::move(value), number ? "Pa" : "", temperature};
 }
 
-/// The energy of a change of volume, J its ratio; nothing of an incompressible material.
+/// The energy of a change of volume, J its ratio; nothing of an incompressible material, whose first D is 0.
 std::optional<std::string> VolumetricFormula(HyperelasticModel model, const Table& table) {
     std::size_t terms = 0, used = 0;
     for (const Column& column : table.columns) {
         if (!column.kind.name.starts_with("D")) continue;
         ++terms;
         const bool zero = std::ranges::all_of(column.values, [](double value) { return value == 0.0; });
+        if (terms == 1 && zero) return std::nullopt;
         if (!zero) used = terms;
     }
     if (used == 0) return std::nullopt;

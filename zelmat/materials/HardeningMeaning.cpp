@@ -69,7 +69,8 @@ public:
             if (!ConvertCurve(begin, end, table)) return std::nullopt;
             begin = end;
         }
-        ReportConversion();
+        if (!converted_.empty()) ReportConversion();
+        findings_.Add(leftOut_);
         table.origin = Origin([origin = given_.origin, rows = rows_](std::size_t row) {
             return row == Origin::kWhole ? origin.Line() : origin.Line(rows[row]);
         });
@@ -155,13 +156,12 @@ private:
     }
 
     void ReportLeftOut(std::size_t begin, std::size_t dropped, double temperature) {
-        findings_.Add({FindingKind::WARNING,
-                       {material_.file, given_.origin.Line(begin)},
-                       "before-yield",
-                       CountText(dropped, "point") + " of the curve of plastic at " +
-                           NumberText(temperature) + " K before yield " + (dropped == 1 ? "was" : "were") +
-                           " left out",
-                       {"the first stored one is the yield point"}});
+        leftOut_.Add({FindingKind::WARNING,
+                      {material_.file, given_.origin.Line(begin)},
+                      "before-yield",
+                      CountText(dropped, "point") + " of the curve of plastic at " + NumberText(temperature) +
+                          " K before yield " + (dropped == 1 ? "was" : "were") + " left out",
+                      {"the first stored one is the yield point"}});
     }
 
     bool Fail(std::size_t row, const char* code, std::string text, std::vector<std::string> details) {
@@ -178,6 +178,7 @@ private:
     Findings& findings_;
     const Table& given_;
     std::vector<std::size_t> rows_;     // the given row of each converted one
+    Findings leftOut_;                  // what is told after the conversion as a whole
     std::vector<Converted> converted_;  // a curve each
 };
 

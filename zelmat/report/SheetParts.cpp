@@ -120,6 +120,8 @@ void WriteEnd(HtmlWriter& html, const Findings& findings) {
     if (findings.All().empty()) {
         html.Text("p", "No findings.");
     } else {
+        // A finding guesses at units ("in MPa it would be plausible"): of the number as it is stored.
+        html.Text("p", "Numbers are those that documents hold, in SI units.");
         WriteFindings(html, findings);
     }
     html.Raw("<p class=\"sign\"><span>Reviewed by</span> <span>Date</span> <span>Signature</span></p>\n");

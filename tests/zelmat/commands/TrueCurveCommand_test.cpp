@@ -42,6 +42,19 @@ TEST(TrueCurveCommand, PrintsYieldNeckingAndTheHardeningCurve) {
                                    "             304.213     0.000000000\n"));
 }
 
+// 210 MPa at 0.1 % is steel: with 70 GPa the elastic strain alone would be 0.3 %.
+TEST(TrueCurveCommand, WarnsOfAModulusThatTheTestIsStifferThan) {
+    const std::string csv = FileOf(
+        "steel.csv", "EngineeringStrain [-],EngineeringStress [MPa]\n0,0\n0.001,210\n0.01,400\n0.1,500\n");
+    const ProgramRun run = RunZelmat({"true-curve", csv, "--youngs-modulus", "70GPa"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_THAT(run.err,
+                HasSubstr("steel.csv: warning[modulus-too-low]: the test is stiffer than the Young's "
+                          "modulus that is given: the plastic strain is -0.002004 at the true strain "
+                          "0.0009995"));
+    EXPECT_EQ(RunZelmat({"true-curve", csv, "--youngs-modulus", "210GPa"}).err, "");
+}
+
 TEST(TrueCurveCommand, TakesAnotherOffsetAndTrueValues) {
     const std::string engineering = "EngineeringStrain [-],EngineeringStress [MPa]\n0,0\n0.01,300\n0.1,500\n";
     EXPECT_LT(Converted(engineering, {"--offset", "0.1%"}).Number("offset_yield_stress"),

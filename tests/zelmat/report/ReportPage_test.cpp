@@ -110,6 +110,8 @@ TEST(ReportPage, ShowsFindingsWhereTheyBelong) {
     const std::string page = Page(content);
 
     EXPECT_THAT(page, HasSubstr("1 material, 1 finding"));
+    EXPECT_THAT(page,
+                HasSubstr("<h3>Findings</h3>\n<p>Numbers are those that documents hold, in SI units.</p>"));
     EXPECT_THAT(page, HasSubstr("<td class=\"warning\">warning</td>\n<td>odd</td>\n"
                                 "<td>the density is odd (70, expected 7850)</td>\n<td>7</td>"));
 }

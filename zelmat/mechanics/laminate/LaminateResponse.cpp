@@ -70,7 +70,10 @@ PlyPoint PointAt(const Laminate& laminate, const Layer& layer, double z, const L
     PlyPoint point{};
     point.z = z;
     point.strain = Sum(plane.strain, plane.curvature, z);
-    const Vector3 stretched = Sum(point.strain, RotatedExpansion(material, layer.angle), -temperatureChange);
+    CleanSum stretching;
+    stretching.Add(point.strain, 1.0);
+    stretching.Add(RotatedExpansion(material, layer.angle), -temperatureChange);
+    const Vector3 stretched = stretching.Value();
     const Matrix3 rotated = RotatedStiffness(material.elastic, layer.angle);
     CleanSum stress, plyStress;
     for (std::size_t k = 0; k < 3; ++k)

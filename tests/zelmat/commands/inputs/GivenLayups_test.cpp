@@ -84,6 +84,11 @@ TEST_F(GivenLayups, HaveMaterialsThatDependOnTemperatureAtTheOneThatIsGiven) {
         HasSubstr("error[no-laminate]: ply material 'Structural steel S355': it has no E1, E2, nu12, "
                   "G12 (or E and nu of an isotropic one); elastic of Structural steel S355: the table "
                   "depends on temperature, and none is given (it goes from 293.15 K to 1373.15 K)"));
+    EXPECT_THAT(
+        Refusal(1, {"laminate", document, "--temperature", "150degC", "--dT", "100K"}),
+        HasSubstr("the thermal expansion of its material is not known (thermal_expansion of Structural "
+                  "steel S355: the temperature lies outside the table (it goes from 373.15 K to "
+                  "1473.15 K))"));
     EXPECT_THAT(Refusal(2, {"laminate", Sample("layups/kaw_0_30_m45.json"), "--temperature", "20degC"}),
                 HasSubstr("--temperature: error[not-for-constants]"));
 }

@@ -143,4 +143,18 @@ TEST(LaminateResponse, HasNoStressWhereNothingButRoundingIsLeft) {
     EXPECT_EQ(response->plies[0].top.stress[1], 0.0);
 }
 
+TEST(LaminateResponse, HasNoStressInAPlyThatExpandsFreely) {
+    const zelmat::mechanics::PlyMaterial steel{
+        .elastic = {.e1 = 189e9, .e2 = 189e9, .nu12 = 0.3, .g12 = 189e9 / 2.6},
+        .expansion = {{.alpha1 = 13.6e-6, .alpha2 = 13.6e-6}},
+        .density = {},
+        .strength = {}};
+    const auto response = zelmat::mechanics::RespondTo(
+        Stacked(steel, 1e-3, {0.0}), {.force = {}, .moment = {}, .temperatureChange = 100.0});
+    ASSERT_TRUE(response.Ok());
+    EXPECT_NEAR(response->plies[0].top.strain[0], 13.6e-4, 1e-15);
+    EXPECT_EQ(response->plies[0].top.stress[0], 0.0);
+    EXPECT_EQ(response->plies[0].bottom.plyStress[1], 0.0);
+}
+
 }  // namespace

@@ -42,7 +42,7 @@ TEST(JohnsonCook, IsColdBelowTheTransitionAndMoltenFromTheMeltingTemperatureOn) 
 
 TEST(JohnsonCook, TakesAStrainRateOnlyWithCAndItsReference) {
     EXPECT_EQ(FlowStressOf(Copper(), 0.1, 298, 10).Why(),
-              "a strain rate needs C and the reference rate, which the material does not have");
+              "a strain rate needs C and the reference rate, and the material does not have both");
     auto copper = Copper();
     copper.rate = JohnsonCookRate{.c = 0.025, .referenceRate = 1};
     EXPECT_NEAR(FlowStressOf(copper, 0.1, 298, std::exp(4.0))->stress, 1.1 * 233.0154153, 1e-7);
