@@ -161,9 +161,11 @@ std::optional<Value> CardBlockReader::ReadText(const Setting& setting, const Jso
 }
 
 bool CardBlockReader::FindOrder(Block& block) const {
-    const auto model = block.values.Get<std::string>(kind_.settings[0].name);
-    const Setting& order = kind_.settings[1];
-    if (!model || node_.Has(order.name)) return true;
+    const Setting &potential = kind_.settings[0], &order = kind_.settings[1];
+    if (node_.Has(order.name)) return true;
+    const auto model = block.values.Get<std::string>(potential.name);
+    if (!model && node_.Has(potential.name)) return true;  // it is none, which was told
+    if (!model) return node_.Required(order.name).has_value();
     std::vector<std::string> columns;
     if (node_.Has("columns") && node_.At("columns").Json().is_array()) {
         for (const auto& column : node_.At("columns").Json()) {

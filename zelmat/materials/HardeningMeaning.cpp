@@ -30,19 +30,13 @@ Measures MeasuresOf(const Block& block) {
             block.values.Get<std::string>("strain") == "total"};
 }
 
-/// Young's modulus at a temperature; nothing, and why, when the material does not say it.
-std::optional<double> YoungsModulus(const Material& material, double temperature, std::string& why) {
+/// Young's modulus, and Poisson's ratio behind it, over temperature.
+mechanics::Outcome<mechanics::TemperatureTable> ElasticityOf(const Material& material) {
     const Block* elastic = material.Find("elastic");
     if (!elastic || elastic->tables.empty() || elastic->tables.front().Rows() == 0) {
-        why = "the material has no elastic block";
-        return std::nullopt;
+        return mechanics::Refusal{"the material has no elastic block"};
     }
-    const auto over = OverTemperature(elastic->tables.front());
-    const auto value = over.Ok() ? over->At(temperature, mechanics::OutsidePolicy::REFUSE)
-                                 : mechanics::Outcome<mechanics::TableValue>(over.Refused());
-    if (value.Ok()) return value->values.front();
-    why = value.Why();
-    return std::nullopt;
+    return OverTemperature(elastic->tables.front());
 }
 
 /// A point of a curve as it is stored: stress, and plastic strain.
@@ -57,7 +51,11 @@ StressStrain Stored(const StressStrain& given, const Measures& measures, double 
 class Curves {
 public:
     Curves(const Block& block, const Material& material, Findings& findings)
-        : block_(block), material_(material), findings_(findings), given_(block.tables.front()) {}
+        : measures_(MeasuresOf(block)),
+          elasticity_(ElasticityOf(material)),
+          material_(material),
+          findings_(findings),
+          given_(block.tables.front()) {}
 
     std::optional<Table> Convert() {
         Table table = given_;
@@ -84,20 +82,22 @@ private:
 
     bool ConvertCurve(std::size_t begin, std::size_t end, Table& table) {
         const double temperature = given_.Find(kTemperature)->values[begin];
-        std::string why;
-        const auto modulus = YoungsModulus(material_, temperature, why);
-        if (!modulus) {
+        const auto elastic = elasticity_.Ok()
+                                 ? elasticity_->At(temperature, mechanics::OutsidePolicy::REFUSE)
+                                 : mechanics::Outcome<mechanics::TableValue>(elasticity_.Refused());
+        if (!elastic.Ok() || !(elastic->values.front() > 0.0)) {
             return Fail(begin, "no-youngs-modulus",
                         "the curve of plastic at " + NumberText(temperature) +
                             " K cannot be converted without Young's modulus there",
-                        {why});
+                        {elastic.Ok() ? "it is not above 0" : elastic.Why()});
         }
+        const double modulus = elastic->values.front();
         std::vector<StressStrain> points;
         for (std::size_t row = begin; row < end; ++row) {
             points.push_back(Stored({given_.Find(kStrain)->values[row], given_.Find(kStress)->values[row]},
-                                    MeasuresOf(block_), *modulus));
+                                    measures_, modulus));
         }
-        const std::size_t yield = YieldPoint(points, *modulus);
+        const std::size_t yield = YieldPoint(points, modulus);
         if (yield == points.size()) {
             return Fail(begin, "no-yield-point",
                         "the curve of plastic at " + NumberText(temperature) +
@@ -105,7 +105,7 @@ private:
                         {"give the yield point as its first point"});
         }
         if (yield > 0) ReportLeftOut(begin, yield, temperature);
-        converted_.push_back({temperature, *modulus});
+        converted_.push_back({temperature, modulus});
         points[yield].strain = 0.0;
         for (std::size_t at = yield; at < points.size(); ++at) {
             rows_.push_back(begin + at);
@@ -141,7 +141,6 @@ private:
         const double lowest = byTemperature.first->temperature, highest = byTemperature.second->temperature;
         const double softest = byModulus.first->modulus, stiffest = byModulus.second->modulus;
         const bool one = converted_.size() == 1;
-        const Measures measures = MeasuresOf(block_);
         findings_.Add({FindingKind::NOTE,
                        {material_.file, given_.origin.Line(0)},
                        "hardening-converted",
@@ -149,8 +148,8 @@ private:
                             : CountText(converted_.size(), "curve") + " of plastic from " +
                                   NumberText(lowest) + " K to " + NumberText(highest) + " K were") +
                            " converted to true stress over plastic strain",
-                       {std::string(measures.engineering ? "engineering" : "true") + " stress over " +
-                            (measures.total ? "total" : "plastic") + " strain given",
+                       {std::string(measures_.engineering ? "engineering" : "true") + " stress over " +
+                            (measures_.total ? "total" : "plastic") + " strain given",
                         "Young's modulus " + (softest == stiffest ? "" : NumberText(softest) + " to ") +
                             WithUnit(stiffest, "Pa")}});
     }
@@ -173,7 +172,8 @@ private:
         return false;
     }
 
-    const Block& block_;
+    Measures measures_;
+    mechanics::Outcome<mechanics::TemperatureTable> elasticity_;
     const Material& material_;
     Findings& findings_;
     const Table& given_;

@@ -84,6 +84,17 @@ TEST(HardeningMeaning, NeedsYoungsModulusAtTheCurvesTemperature) {
     EXPECT_THAT(outside.findings[0], testing::HasSubstr("error[no-youngs-modulus]"));
 }
 
+TEST(HardeningMeaning, NeedsAModulusAboveZero) {
+    const StoredCard stored = Curve(R"("strain": "total", )", "[210e6, 0.001, 293.15]",
+                                    R"("elastic": {"temperature_dependent": false,
+"columns": ["youngs_modulus", "poissons_ratio"], "rows": [[0, 0.3]]},)");
+    ASSERT_EQ(stored.findings.size(), 1u);
+    EXPECT_THAT(stored.findings[0],
+                testing::HasSubstr("error[no-youngs-modulus]: the curve of plastic at 293.15 K "
+                                   "cannot be converted without Young's modulus there (it "
+                                   "is not above 0)"));
+}
+
 TEST(HardeningMeaning, TakesYoungsModulusBetweenTheRowsOfTheElasticTable) {
     const StoredCard stored =
         Curve(R"("strain": "total", )", "[200e6, 0.001, 293.15], [200e6, 0.051, 293.15]",
