@@ -93,8 +93,9 @@ MaybeProblem ReadPlastic(const Block& block, const AtQuestion& question, Result&
     if (!curves && question.outside) {
         return AtProblem{"Johnson and Cook's law has no end that --outside could mean"};
     }
+    constexpr int kDigits = 7;  // as results show it
     auto ranges = RangeText(range, result);
-    if (strainTo) ranges.push_back("plastic strains up to " + NumberText(*strainTo));
+    if (strainTo) ranges.push_back("plastic strains up to " + RoundedText(*strainTo, kDigits));
     const auto stress = FlowStressAt(*hardening, *question.plasticStrain, question.temperature,
                                      question.strainRate, question.outside.value_or(OutsidePolicy::CONSTANT));
     if (!stress.Ok()) return AtProblem{stress.Why(), ranges};
