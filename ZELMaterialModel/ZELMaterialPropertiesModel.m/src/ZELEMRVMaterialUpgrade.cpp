@@ -15,6 +15,7 @@
 #include "ZELMaterialModel/include/ZELIJohnsonCookData.h"
 #include "ZELMaterialModel/include/ZELMaterial.h"
 #include "framework/KORDictionary.h"
+#include "framework/KORUndoCount.h"
 #include "interfaces/KORIApplicativeContainers.h"
 #include "interfaces/KORILinkableObject.h"
 #include "interfaces/KORIMaterialFeature.h"
@@ -36,6 +37,13 @@ namespace {
 
 const KORFillDictionary entry(ZELEMRVMaterialUpgrade::MetaObject(), KORISamUpgrade::MetaObject(),
                               CreateTIEKORISamUpgradeZELEMRVMaterialUpgrade, nullptr, 1);
+
+std::uint64_t upgradesRun = 0;  ///< of all materials
+
+/// Counts up with everything that can put what a query found out of date.
+std::uint64_t ChangesSoFar() {
+    return KORUndoCount() + upgradesRun;
+}
 
 KORISpecObject_var ComponentOf(KORISpecObject* feature, const KORUnicodeString& name) {
     const auto access = KORISpecAttrAccess_var::Of(feature);
@@ -73,6 +81,7 @@ HRESULT AddComponent(KORICatalog& catalog, KORIContainer* container, const KORUn
 
 bool ZELEMRVMaterialUpgrade::IsUpgradeNeeded() {
     needs_ = {};
+    asked_ = ChangesSoFar();
     const auto material = KORISpecObject_var::Of(this);
     const KORISpecAttrAccess_var access(material);
     if (!access) return false;
@@ -111,9 +120,11 @@ void ZELEMRVMaterialUpgrade::LookForBehaviors(KORISpecAttrAccess& material) {
 }
 
 HRESULT ZELEMRVMaterialUpgrade::Upgrade() {
-    // One query is good for one upgrade: what is done by then, by whoever looked at the material in between,
-    // is never done twice.
+    // One query is good for one upgrade, and for what it looked at: what is done by now, by a redo or with
+    // another material that has features in common, is never done twice.
+    if (needs_.Any() && asked_ != ChangesSoFar()) IsUpgradeNeeded();
     const Needs needs = std::exchange(needs_, {});
+    ++upgradesRun;
     Work work;
     work.material = KORISpecObject_var::Of(this);
     if (!work.material) return E_FAIL;

@@ -7,7 +7,8 @@
 
 /// Implements KORISamUpgrade on "ZELMaterialLT" features: brings a material of an older document up to the
 /// current catalog. The query finds out what is to be done and the upgrade does it, so both go to one object;
-/// an upgrade that no query came before does nothing. Steps already done stay when a later one fails; the
+/// an upgrade that no query came before does nothing, and one before which something was undone or another
+/// upgrade was run asks again. Steps already done stay when a later one fails; the
 /// next query finds what is left.
 class ZELEMRVMaterialUpgrade final : public KORBaseUnknown, private ZELModuleObject {
     KORDeclareClass
@@ -50,6 +51,7 @@ private:
     static HRESULT FetchTestData(const Work& work);
 
     Needs needs_;
+    std::uint64_t asked_ = 0;  ///< how much had been undone and upgraded when they were found
 
     friend class ZELTestAccess;
 };

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "interfaces/KORISamUpgrade.h"
 #include "tests/ZELMaterialModel/older/ZELOlderDocument.h"
 #include "tests/support/ZELFeatureValues.h"
 
@@ -57,6 +58,25 @@ TEST_F(ZELConvertOnce, LeavesATableAloneThatWasFilledAfterItFailed) {
 
     EXPECT_TRUE(report.upgraded.empty());
     EXPECT_EQ(older.Coefficients(), (ZELRows{{0.5, 0.1, 0.02}}));
+}
+
+TEST_F(ZELConvertOnce, LeavesEverythingAloneThatARedoHasUpgradedSinceTheQuery) {
+    ZELOlderDocument older(catalogs_, ZELOlderText("all_old_data_together"));
+    older.Upgrade();
+    const std::string upgraded = older.Text();
+    ASSERT_TRUE(older.Document().Undo());
+    std::vector<KORISamUpgrade_var> asked;
+    older.Document().ForEachFeature(KORName::Find("ZELMaterialLT"), [&asked](KORFeature& material) {
+        asked.push_back(KORISamUpgrade_var::Of(&material));
+        EXPECT_TRUE(asked.back()->IsUpgradeNeeded());
+    });
+    ASSERT_FALSE(asked.empty());
+    ASSERT_TRUE(older.Document().Redo());
+
+    for (const auto& upgrade : asked)
+        upgrade->Upgrade();  // a failure for one that was moved: it lies nowhere
+
+    EXPECT_EQ(older.Text(), upgraded);
 }
 
 }  // namespace

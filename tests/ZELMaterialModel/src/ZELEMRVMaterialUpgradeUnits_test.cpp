@@ -98,6 +98,23 @@ TEST_P(ZELUpgradeUnits, ConvertsOnceWhereTheMaterialIsLookedAtBetweenQueryAndUpg
     EXPECT_EQ(RowsOf(tree.model), (ZELRows{{4.0, 8.0, 2.0}}));
 }
 
+TEST_P(ZELUpgradeUnits, ConvertsOnceForTwoMaterialsThatWereBothAskedBefore) {
+    const ZELFullMaterialTree tree(Store());
+    const ZELFullMaterialTree other(Store());
+    SetUnconverted(tree, "MOONEY_RIVLIN", 1, {{1.0, 2.0, 8.0}});
+    SetFlag(other.material, "ZELHyperelasticFlag", true);
+    Attach(other.material, "ZELHyperelasticity", tree.hyperelasticity);
+    const KORISamUpgrade_var upgrade = tree.material;
+    const KORISamUpgrade_var otherUpgrade = other.material;
+    EXPECT_TRUE(upgrade->IsUpgradeNeeded());
+    EXPECT_TRUE(otherUpgrade->IsUpgradeNeeded());
+
+    EXPECT_EQ(upgrade->Upgrade(), S_OK);
+    EXPECT_EQ(otherUpgrade->Upgrade(), S_OK);
+
+    EXPECT_EQ(RowsOf(tree.model), (ZELRows{{4.0, 8.0, 2.0}}));
+}
+
 TEST_P(ZELUpgradeUnits, MarksCoefficientsAsConvertedBeforeAConversionThatFails) {
     const ZELFullMaterialTree tree(Store());
     SetUnconverted(tree, "MOONEY_RIVLIN", 1, {});
