@@ -15,7 +15,7 @@ namespace zelmat {
 namespace {
 
 constexpr int kDigits = 4;
-constexpr double kGreatestDrawn = 1e300, kLeastDrawn = 1e-300;
+constexpr double kLeastDrawn = 1e-300;
 
 std::string NumberWithUnit(double number, const std::string& unit) {
     const std::string text = RoundedText(number, kDigits);

@@ -11,6 +11,8 @@ struct PictureRange {
     double lower, upper;
 };
 
+constexpr double kGreatestDrawn = 1e300;
+
 /// Whether a point has a place in a picture: no number, and none beyond 1e300, beside which no margin and no
 /// tick would be a number, has one.
 bool IsDrawn(const PicturePoint& point);

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "zelmat/pictures/DrawnPoints.h"
 #include "zelmat/pictures/GnuplotText.h"
 #include "zelmat/pictures/PictureColors.h"
+#include "zelmat/pictures/PictureLayout.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/WrappedText.h"
@@ -19,20 +19,16 @@ namespace {
 constexpr double kMargin = 20.0;  ///< around all words
 constexpr double kPlotHeight = 380.0;
 constexpr double kLeft = 112.0;
-constexpr double kBelow = 58.0;  ///< ticks and title of the axis x
-constexpr double kLegendWidth = 250.0;
+constexpr double kBelow = 58.0;        ///< ticks and title of the axis x
 constexpr double kLegendRoom = 205.0;  ///< for a label
 constexpr double kLegendLine = 20.0;
 constexpr double kRight = 30.0;
 constexpr double kNoteLine = 15.0;
 constexpr double kTitleLine = 19.0;
-constexpr double kBarsLeft = 330.0;
-constexpr double kBarLabelRoom = kBarsLeft - 40.0;
 // Of letters.
 constexpr double kTitleFont = 15.0 * 1.1;  // bold ones are wider
 constexpr double kWhatFont = 13.0;
 constexpr double kNoteFont = 11.0;
-constexpr double kLegendFont = 11.0;
 constexpr double kTickFont = 12.0;
 
 /// Rows of a table that have a mark each; of more every so manyth.
@@ -40,18 +36,9 @@ constexpr std::size_t kMarkedRows = 150;
 
 const PictureRange kUnitRange{0.0, 1.0};
 
-std::string Number(double value) {
-    constexpr int kDigits = 9;
-    return NumberText(RoundedTo(value, kDigits));
-}
-
 std::string LegendLabel(const Series& series) {
     return ShortenedText(Printable(series.label), kLegendRoom, kLegendFont);
 }
-std::string BarLabel(const PictureBar& bar) {
-    return ShortenedText(Printable(bar.label), kBarLabelRoom, kLegendFont);
-}
-
 /// What a legend or the names of bars have no room for; each once.
 std::vector<std::string> CutNames(const Picture& picture) {
     std::vector<std::string> names;
@@ -74,15 +61,6 @@ bool HasGreaterNumbers(const Series& series) {
     });
 }
 
-/// An angle in degrees and a length as a place.
-std::vector<PicturePoint> Turned(std::vector<PicturePoint> points) {
-    for (PicturePoint& point : points) {
-        const double angle = point.x * std::numbers::pi / 180.0;
-        point = {point.y * std::cos(angle), point.y * std::sin(angle)};
-    }
-    return points;
-}
-
 /// "set xtics ('0' 0, '50' 50)"
 std::string TicksText(const char* axis, const AxisTicks& ticks) {
     if (ticks.ticks.empty()) return std::string("unset ") + axis + "tics";
@@ -91,15 +69,6 @@ std::string TicksText(const char* axis, const AxisTicks& ticks) {
         text += (text.empty() ? "" : ", ") + GnuplotText(tick.text) + " " + NumberText(tick.at);
     }
     return std::string("set ") + axis + "tics (" + text + ")";
-}
-
-std::string AxisTitle(const PictureAxis& axis, int exponent) {
-    return TitleWithUnit(axis.title, UnitWithExponent(axis.unit, exponent));
-}
-
-std::string RangeText(const char* axis, const PictureRange& range) {
-    return std::string("set ") + axis + "range [" + NumberText(range.lower) + ":" + NumberText(range.upper) +
-           "]";
 }
 
 }  // namespace
@@ -183,10 +152,10 @@ bool PictureScript::HasLegend() const {
 }
 
 std::string PictureScript::ScreenX(double pixels) const {
-    return Number(pixels / kPictureWidth);
+    return ScriptNumber(pixels / kPictureWidth);
 }
 std::string PictureScript::ScreenY(double pixels) const {
-    return Number((bottom_ + pixels) / sheetHeight_);
+    return ScriptNumber((bottom_ + pixels) / sheetHeight_);
 }
 std::string PictureScript::DataName(std::size_t series) const {
     return data_ + "s" + std::to_string(series);
@@ -327,97 +296,6 @@ std::string PictureScript::Style(const Series& series) const {
             return "with points " + color + " pt 2 ps 1.6 lw 2";
     }
     return {};
-}
-
-void PictureScript::Bars() {
-    constexpr double kForValues = 90.0;
-    constexpr int kTicks = 6, kDigits = 4;
-    Margins(kBarsLeft, kForValues);
-    Frame();
-    Line("unset grid");
-    Line("set grid x lc rgb '#dddddd' lt 1 lw 0.7");
-    Line("set key off");
-    std::string tics = "set ytics scale 0 font ',11' (";
-    Line(data_ + "b << EOD");
-    double greatest = 0.0, least = 0.0;
-    const std::size_t count = picture_.bars.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        const PictureBar& bar = picture_.bars[i];
-        const std::string place = std::to_string(count - i);
-        Line("0 " + place + " 0 " + NumberText(bar.value) + " " + place);
-        tics += (i > 0 ? ", " : "") + GnuplotText(BarLabel(bar)) + " " + place;
-        greatest = std::max(greatest, bar.value);
-        least = std::min(least, bar.value);
-    }
-    Line("EOD");
-    Line(tics + ")");
-    for (std::size_t i = 0; i < count; ++i) {
-        const double value = picture_.bars[i].value;
-        Line("set label " + GnuplotText(RoundedText(value, kDigits)) + " at " +
-             NumberText(std::max(value, 0.0)) + "," + std::to_string(count - i) +
-             " left offset character 0.7,0 font ',11'");
-    }
-    const PictureRange range{least < 0.0 ? 1.05 * least : 0.0,
-                             greatest > 0.0 || least < 0.0 ? 1.05 * greatest : 1.0};
-    AxisX(TicksOf(range, kTicks));
-    Line(RangeText("x", range));
-    Line(RangeText("y", {0.4, static_cast<double>(count) + 0.6}));
-    Line("set style fill solid 0.85 noborder");
-    Line("plot " + data_ + "b using (0.5*$4):2:3:4:($2-0.32):($2+0.32) with boxxyerror lc rgb '" +
-         SeriesColor(0, 1, false) + "' notitle");
-}
-
-/// Circles and rays of our own, so that the two directions have one scale.
-void PictureScript::Polar() {
-    constexpr int kCircles = 4;
-    const auto range = RangeOf(picture_, &PicturePoint::y);
-    const double reach = range && range->upper > 0.0 ? range->upper : 1.0;
-    const double step = RoundStep(reach / kCircles);
-    const double edge = step * std::ceil(reach / step * (1.0 - 1e-9));
-    for (std::size_t i = 0; i < picture_.series.size(); ++i) {
-        Block(DataName(i), Turned(picture_.series[i].points));
-    }
-    // A square between the left edge and the legend.
-    const double room = kPictureWidth - kLegendWidth - PlotHeight();
-    Margins(std::max(0.0, room / 2.0), kLegendWidth + std::max(0.0, room / 2.0));
-    Line("unset border");
-    Line("unset tics");
-    Legend();
-    Line(RangeText("x", {-1.16 * edge, 1.16 * edge}));
-    Line(RangeText("y", {-1.16 * edge, 1.16 * edge}));
-    Line("set parametric");
-    Line("set trange [0:2*pi]");
-    Line("set samples 181");
-    const AxisTicks axis = TicksOf({0.0, edge}, kCircles);
-    Line("set xlabel " + GnuplotText(AxisTitle(picture_.y, axis.exponent)));
-    Plot(PolarGrid(axis));
-}
-
-/// The circles, to be drawn first; their numbers stand between the rays of 60° and 90°.
-std::vector<std::string> PictureScript::PolarGrid(const AxisTicks& axis) {
-    constexpr double kNumbers = 75.0 * std::numbers::pi / 180.0;
-    constexpr int kRay = 30;
-    std::vector<std::string> circles;
-    double edge = 0.0;
-    Line("set style textbox opaque fillcolor rgb '#ffffff' noborder margins 0.3,0.3");
-    for (const AxisTick& tick : axis.ticks) {
-        if (tick.at <= 0.0) continue;
-        edge = tick.at;
-        const std::string radius = NumberText(tick.at);
-        circles.push_back(radius + "*cos(t)," + radius +
-                          "*sin(t) with lines lc rgb '#cccccc' lw 0.7 notitle");
-        Line("set label " + GnuplotText(tick.text) + " at " + Number(tick.at * std::cos(kNumbers)) + "," +
-             Number(tick.at * std::sin(kNumbers)) + " center boxed font ',10' tc rgb '#555555' front");
-    }
-    for (int angle = 0; angle < 360; angle += kRay) {
-        const double x = std::cos(angle * std::numbers::pi / 180.0),
-                     y = std::sin(angle * std::numbers::pi / 180.0);
-        Line("set arrow from 0,0 to " + Number(edge * x) + "," + Number(edge * y) +
-             " nohead back lc rgb '#cccccc' lw 0.7");
-        Line("set label '" + std::to_string(angle) + "°' at " + Number(1.09 * edge * x) + "," +
-             Number(1.09 * edge * y) + " center font ',11'");
-    }
-    return circles;
 }
 
 }  // namespace zelmat

@@ -48,8 +48,8 @@ private:
     void AxisY(const AxisTicks& axis);
     void Legend();
     void Curves();
-    void Bars();
-    void Polar();
+    void Bars();   // BarsScript.cpp
+    void Polar();  // PolarScript.cpp
     std::vector<std::string> PolarGrid(const AxisTicks& axis);
     void Plot(std::vector<std::string> parts);
     std::string Style(const Series& series) const;
