@@ -6,7 +6,8 @@
 
 namespace zelmat {
 
-std::optional<std::string> PrintedPage(const std::string& html, Findings& findings) {
+std::optional<std::string> PrintedPage(const std::string& html, Progress& progress, Findings& findings) {
+    constexpr int kMinutes = 20;  // of 500 materials it takes some
     constexpr std::size_t kLargest = std::size_t{1} << 30U;
     const ScratchFolder folder(findings);
     if (!folder.Exists() || !folder.Write("page.html", html, findings)) return std::nullopt;
@@ -18,7 +19,10 @@ std::optional<std::string> PrintedPage(const std::string& html, Findings& findin
                       "--print-to-pdf=page.pdf", "file://" + folder.Path() + "/page.html"},
         .needed = "a report as PDF",
         .package = "chromium",
-        .minutes = 20};  // of 500 materials it takes some
+        .minutes = kMinutes,
+        .waited = [&progress](std::size_t seconds) {
+            progress.Tell("printing for", seconds, std::size_t{kMinutes} * 60, "s at most");
+        }};
     // Its sandbox does not work for root.
     if (::geteuid() == 0) chromium.arguments.insert(chromium.arguments.begin(), "--no-sandbox");
     if (!RunChild(chromium, folder, findings)) return std::nullopt;

@@ -83,7 +83,7 @@ public:
         }
         content.title = Title(content);
         if (!gathering.Draw(progress)) return;
-        Write(ReportPage(content, *units), output, findings);
+        Write(ReportPage(content, *units), output, progress, findings);
         materials_ = content.materials.size();
         layups_ = content.layups.size();
         pictures_ = gathering.Pictures();
@@ -133,14 +133,14 @@ private:
                                          : content.materials.front().given.name;
     }
 
-    void Write(const std::string& page, const std::string& output, Findings& findings) {
+    void Write(const std::string& page, const std::string& output, Progress& progress, Findings& findings) {
         bytes_ = page.size();
         if (!output.empty()) {
             page_ = WriteOutputFile(output, page, paths_, findings);
             if (!page_) return;
         }
         if (pdf_.empty()) return;
-        if (const auto pdf = PrintedPage(page, findings))
+        if (const auto pdf = PrintedPage(page, progress, findings))
             printed_ = WriteOutputFile(pdf_, *pdf, paths_, findings);
     }
 

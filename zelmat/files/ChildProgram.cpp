@@ -13,6 +13,8 @@
 #include <system_error>
 #include <thread>
 
+#include "zelmat/files/SignalHold.h"
+
 namespace zelmat {
 
 namespace {
@@ -82,22 +84,18 @@ private:
     posix_spawnattr_t attributes_{};
 };
 
-bool IsToEnd() {
-    sigset_t pending;
-    sigemptyset(&pending);
-    sigpending(&pending);
-    return sigismember(&pending, SIGINT) == 1 || sigismember(&pending, SIGTERM) == 1 ||
-           sigismember(&pending, SIGHUP) == 1;
-}
-
 /// Waits for the program; it is killed when it takes longer, or when this one is told to end.
-int StatusAtTheEnd(pid_t child, std::chrono::minutes longest) {
+int StatusAtTheEnd(pid_t child, const ChildProgram& program) {
     using Clock = std::chrono::steady_clock;
     constexpr auto kBetweenLooks = std::chrono::milliseconds(2);
     const auto start = Clock::now();
+    auto told = std::chrono::seconds(0);
     int status = 0;
     while (::waitpid(child, &status, WNOHANG) == 0) {
-        if (Clock::now() - start > longest || IsToEnd()) {
+        const auto waited = std::chrono::duration_cast<std::chrono::seconds>(Clock::now() - start);
+        if (program.waited && waited > told) program.waited(static_cast<std::size_t>(waited.count()));
+        told = waited;
+        if (waited >= std::chrono::minutes(program.minutes) || IsToldToEnd()) {
             ::kill(child, SIGKILL);
             ::waitpid(child, &status, 0);
             break;
@@ -140,7 +138,7 @@ bool RunChild(const ChildProgram& program, const ScratchFolder& folder, Findings
         ReportMissing(program, problem, findings);
         return false;
     }
-    const int status = StatusAtTheEnd(child, std::chrono::minutes(program.minutes));
+    const int status = StatusAtTheEnd(child, program);
     if (WIFEXITED(status) && WEXITSTATUS(status) == 0) return true;
     std::vector<std::string> details;
     if (std::string said = Said(folder); !said.empty()) details.push_back(std::move(said));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -16,6 +18,7 @@ struct ChildProgram {
     std::vector<std::string> without = {};  ///< settings that it does not get: "GNU" is all that begin so
     std::vector<std::string> with = {};     ///< settings that it gets in the place of the user's: "TZ=UTC0"
     int minutes = 5;                        ///< it is killed after these
+    std::function<void(std::size_t seconds)> waited = {};  ///< is told every second how long it runs already
 };
 
 /// Runs it in a folder, waits for its end, with nothing on its standard input; what it says goes to files in

@@ -22,6 +22,19 @@ private:
     sigset_t before_{};
 };
 
+/// Whether one of the signals that SignalHold holds back has come, and is not ignored as nohup has it.
+inline bool IsToldToEnd() {
+    sigset_t pending;
+    sigemptyset(&pending);
+    sigpending(&pending);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction action {};
+        const bool ignored = sigaction(signal, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+        if (!ignored && sigismember(&pending, signal) == 1) return true;
+    }
+    return false;
+}
+
 /// Makes writing to a pipe that nobody reads an error for as long as the scope lasts, in place of the
 /// program's end.
 class PipeErrors {

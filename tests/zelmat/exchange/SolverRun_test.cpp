@@ -150,6 +150,9 @@ TEST_F(SolverRun, EndsTheSolverAndLeavesNothingWhenThisProgramIsToEnd) {
 
         EXPECT_FALSE(
             zelmat::RunSolver(Script("echo $$ > " + pid + "; sleep 300"), "deck\n", "card.json", findings));
+        ASSERT_EQ(findings.All().size(), 1U);
+        EXPECT_THAT(FindingLine(findings.All().front()),
+                    HasSubstr("solver was stopped: this program is to end"));
 
         // Taken here, or it would end the test with the hold.
         sigset_t waiting;
@@ -163,6 +166,18 @@ TEST_F(SolverRun, EndsTheSolverAndLeavesNothingWhenThisProgramIsToEnd) {
     if (std::ifstream(pid) >> solver) {
         EXPECT_NE(::kill(solver, 0), 0);
     }
+}
+
+TEST_F(SolverRun, GoesOnWithASignalThatIsIgnored) {
+    const auto before = std::signal(SIGHUP, SIG_IGN);  // as nohup has it
+    Findings findings;
+    {
+        const zelmat::SignalHold held;
+        ::kill(::getpid(), SIGHUP);
+        EXPECT_TRUE(
+            zelmat::RunSolver(Script("sleep 0.1; cp $1.inp $1.dat"), "deck\n", "card.json", findings));
+    }
+    std::signal(SIGHUP, before);
 }
 
 TEST_F(SolverRun, SaysHowToInstallAMissingProgram) {

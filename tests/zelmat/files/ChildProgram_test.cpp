@@ -4,10 +4,12 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -70,6 +72,20 @@ TEST(ChildProgram, IsKilledWhenItTakesTooLong) {
 
     ASSERT_EQ(findings.All().size(), 1u);
     EXPECT_EQ(findings.All()[0].text, "the program was ended by signal 9 (Killed)");
+}
+
+TEST(ChildProgram, TellsEverySecondThatItIsStillWaitedFor) {
+    Findings findings;
+    const ScratchFolder folder(findings);
+    std::vector<std::size_t> seconds;
+    ChildProgram program = Shell("sleep 1.2");
+    program.waited = [&](std::size_t waited) { seconds.push_back(waited); };
+
+    ASSERT_TRUE(RunChild(program, folder, findings));
+
+    ASSERT_FALSE(seconds.empty());
+    EXPECT_EQ(seconds.front(), 1u);
+    EXPECT_TRUE(std::is_sorted(seconds.begin(), seconds.end()));
 }
 
 TEST(ChildProgram, IsNotReadFromTheTerminal) {

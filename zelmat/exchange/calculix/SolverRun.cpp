@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "zelmat/files/ScratchFolder.h"
+#include "zelmat/files/SignalHold.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/QuotedText.h"
 
@@ -120,14 +121,6 @@ pid_t Start(const SolverProgram& solver, const ScratchFolder& folder, int& error
     return error == 0 ? process : 0;
 }
 
-/// One of the signals that are held back has come.
-bool IsAskedToEnd() {
-    sigset_t pending;
-    sigpending(&pending);
-    return sigismember(&pending, SIGINT) == 1 || sigismember(&pending, SIGTERM) == 1 ||
-           sigismember(&pending, SIGHUP) == 1;
-}
-
 /// Waits for the process, which does not outlive this, nor does any that it has made: how it ended, or
 /// nothing when its time was over.
 std::optional<int> WaitFor(pid_t process, int timeoutSeconds) {
@@ -140,7 +133,7 @@ std::optional<int> WaitFor(pid_t process, int timeoutSeconds) {
         // It stays what it is until the others of its group are gone, so that its number is nobody else's.
         const int found = ::waitid(P_PID, id, &state, WEXITED | WNOHANG | WNOWAIT);
         ended = found == 0 && state.si_pid == process;
-        if (ended || (found < 0 && errno != EINTR) || Clock::now() >= end || IsAskedToEnd()) break;
+        if (ended || (found < 0 && errno != EINTR) || Clock::now() >= end || IsToldToEnd()) break;
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     ::kill(-process, SIGKILL);
@@ -166,6 +159,7 @@ std::vector<std::string> ErrorLines(const std::string& log) {
 
 std::optional<Finding> Verdict(const SolverProgram& solver, const std::optional<int>& status,
                                const SolverResults& results, const std::string& job) {
+    if (!status && IsToldToEnd()) return Problem(job, solver.name + " was stopped: this program is to end");
     if (!status) {
         return Problem(job,
                        solver.name + " did not end within " + std::to_string(solver.timeoutSeconds) + " s",
