@@ -35,6 +35,19 @@ TEST(ProveCommand, PrintsOneJsonObject) {
     EXPECT_EQ(json["lines"][0]["passes"], true);
 }
 
+TEST(ProveCommand, SaysOnceThatTheSolverPrintsSomethingElse) {
+    const std::string solver = testing::TempDir() + "zelmat-rubbish-" + std::to_string(getpid());
+    std::ofstream(solver) << "#!/bin/sh\nhead -c 5000 /dev/urandom > $1.dat\n";
+    std::filesystem::permissions(solver, std::filesystem::perms::owner_all);
+
+    const ProgramRun run = RunZelmat({"prove", Sample("foam_rohacell71.json"), "--solver", solver});
+
+    EXPECT_EQ(run.exitCode, 3);
+    EXPECT_THAT(run.err, HasSubstr("printed none of the numbers that its deck asks for"));
+    EXPECT_THAT(run.err, testing::Not(HasSubstr("nan")));
+    std::filesystem::remove(solver);
+}
+
 TEST(ProveCommand, KeepsTheModelsThatItRuns) {
     const std::string folder = testing::TempDir() + "zelmat-kept-" + std::to_string(getpid());
     const ProgramRun run =

@@ -63,6 +63,34 @@ TEST(ReadCalculixLayup, ReadsASectionOfOtherHands) {
     EXPECT_EQ(read.layup->materials[1].Constant("E"), 105e6);
 }
 
+TEST(ReadCalculixLayup, TakesTheLastOfTwoSectionsAndTellsAnOffset) {
+    const ReadLayup read(kPlies +
+                         "*SHELL SECTION, COMPOSITE, ELSET=Skin\n1.,,PLY\n2.,,PLY\n"
+                         "*SHELL SECTION, COMPOSITE, ELSET=SKIN, OFFSET=0.5\n3.,,PLY\n");
+
+    ASSERT_TRUE(read.layup);
+    ASSERT_EQ(read.layup->layers.size(), 1U);
+    EXPECT_EQ(read.layup->layers[0].thickness, 0.003);
+    EXPECT_THAT(
+        read.findings,
+        ElementsAre("card.json:11: warning[card-twice]: a second composite section of 'SKIN': the last "
+                    "one counts",
+                    "card.json:11: warning[not-imported]: OFFSET: a layup lies in the middle of its "
+                    "elements, wherever they do"));
+}
+
+TEST(ReadCalculixLayup, TellsPliesWhoseStiffnessItCannotTake) {
+    const ReadLayup read(
+        "*MATERIAL, NAME=Alu\n*ELASTIC\n70000., .3, 20.\n60000., .3, 200.\n"
+        "*SHELL SECTION, COMPOSITE, ELSET=Skin\n1.,,Alu\n2.,,Alu\n");
+
+    ASSERT_TRUE(read.layup);
+    ASSERT_EQ(read.findings.size(), 1U);
+    EXPECT_THAT(read.findings[0],
+                testing::StartsWith(
+                    "card.json:6: warning[not-imported]: 'Alu' brings no constant stiffness of a ply: "));
+}
+
 TEST(ReadCalculixLayup, NamesLineAndReason) {
     const auto first = [](const std::string& text) {
         const ReadLayup read(kPlies + text);

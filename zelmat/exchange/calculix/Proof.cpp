@@ -103,15 +103,27 @@ private:
                                        request_.material.file + " (" + model.name + ")", findings_);
         if (!results) return false;
         const PrintedResults printed(results->printed);
+        bool any = false;
         for (const ExpectedLine& expected : model.expected) {
             const PrintedNumber& number = expected.printed;
             const auto found =
                 printed.Find(number.kind, number.set, number.time, number.entity, number.column);
+            any = any || found;
             ProofLine line = expected.line;
             line.solver = found ? *found * number.factor : std::nan("");
             proof_.lines.push_back(std::move(line));
         }
-        return true;
+        if (!any) NothingPrinted(model);
+        return any;
+    }
+
+    /// It may be no solver, or one of another release.
+    void NothingPrinted(const ProofModel& model) {
+        findings_.Add({FindingKind::UNREADABLE,
+                       {request_.material.file + " (" + model.name + ")", 0},
+                       "solver-failed",
+                       solver_.name + " printed none of the numbers that its deck asks for",
+                       {}});
     }
 
     /// Beyond the temperature at which the solver can begin.

@@ -54,6 +54,10 @@ private:
         return std::nullopt;
     }
 
+    void Warn(int line, const char* code, const std::string& text) {
+        findings_.Add({FindingKind::WARNING, {ShownPath(path_), line}, code, text, {}});
+    }
+
     void ReadOrientation(const DeckKeyword& card) {
         Axes axes{card.line, {}};
         const auto lines = cards_.Lines();
@@ -76,6 +80,15 @@ private:
         if (card.set.empty()) return true;
         sets_.push_back(card.set);
         if (InCapitals(card.set) != InCapitals(set_)) return true;
+        if (!layup_.layers.empty()) {
+            Warn(card.line, "card-twice",
+                 "a second composite section of " + QuotedText(card.set) + ": the last one counts");
+            layup_.layers.clear();
+        }
+        if (card.Find("OFFSET")) {
+            Warn(card.line, "not-imported",
+                 "OFFSET: a layup lies in the middle of its elements, wherever they do");
+        }
         layup_.file = ShownPath(path_);
         layup_.name = card.set;
         layup_.layersLine = card.line;
@@ -95,7 +108,8 @@ private:
             if (!orientation.empty() && !TurnTo(layer, orientation)) return false;
             layup_.layers.push_back(std::move(layer));
         }
-        return true;
+        if (layup_.layers.empty()) Refuse(card.line, "no-data", card.keyword + " has no data line");
+        return !layup_.layers.empty();
     }
 
     /// The layer's angle, from an orientation whose axis 3 is z.
@@ -132,11 +146,20 @@ private:
             layer.material = found->name;
             const bool known = std::any_of(layup_.materials.begin(), layup_.materials.end(),
                                            [&](const PlyMaterial& ply) { return ply.name == found->name; });
-            if (!known) layup_.materials.push_back({found->name, PlyConstantsOf(*found), {}});
+            if (!known) AddPly(*found, layer.line);
         }
         layup_.notes.emplace_back(
             "from a CalculiX deck, which names no units; they were given when it was read");
         return true;
+    }
+
+    /// Its stiffness may lie in a table over temperature or a law that is no ply's.
+    void AddPly(const Material& material, int line) {
+        layup_.materials.push_back({material.name, PlyConstantsOf(material), {}});
+        const auto ply = PlyMaterialOf(layup_.materials.back().constants);
+        if (ply.Ok()) return;
+        Warn(line, "not-imported",
+             QuotedText(material.name) + " brings no constant stiffness of a ply: " + ply.Why());
     }
 
     std::string path_;
