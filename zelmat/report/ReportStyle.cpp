@@ -63,7 +63,7 @@ dt { color: var(--soft); }
 dd { margin: 0; }
 figure { margin: 1rem 0; }
 img { display: block; max-width: 100%; height: auto; background: #ffffff; border: 1px solid var(--line); }
-th, .error, .warning, .note { overflow-wrap: normal; }
+th, .error, .warning, .note, .findings td:nth-child(2) { overflow-wrap: normal; }
 .error { color: var(--error); font-weight: 600; }
 .warning { color: var(--warning); font-weight: 600; }
 .sign { display: none; }

@@ -57,11 +57,27 @@ std::vector<std::string> ResultJson::Findings() const {
     return lines;
 }
 
-std::string FileOf(const std::string& name, const std::string& text) {
-    const auto folder =
+namespace {
+
+/// Goes with the test program.
+struct ResultFolder {
+    ResultFolder() { std::filesystem::create_directories(path); }
+    ~ResultFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path, ignored);
+    }
+    ResultFolder(const ResultFolder&) = delete;
+    ResultFolder& operator=(const ResultFolder&) = delete;
+
+    std::filesystem::path path =
         std::filesystem::path(testing::TempDir()) / ("zelmat-results-" + std::to_string(getpid()));
-    std::filesystem::create_directories(folder);
-    const auto path = folder / name;
+};
+
+}  // namespace
+
+std::string FileOf(const std::string& name, const std::string& text) {
+    static const ResultFolder folder;
+    const auto path = folder.path / name;
     std::ofstream(path, std::ios::binary) << text;
     return path.string();
 }
