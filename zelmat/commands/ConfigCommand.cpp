@@ -1,3 +1,4 @@
+#include <set>
 
 #include "zelmat/commands/frame/Arguments.h"
 #include "zelmat/commands/frame/Command.h"
@@ -62,7 +63,7 @@ public:
     }
 
 private:
-    static void Change(Settings& settings, const std::string& change, Findings& findings) {
+    void Change(Settings& settings, const std::string& change, Findings& findings) {
         const std::size_t equals = change.find('=');
         const auto refuse = [&](const char* code, std::string text) {
             findings.Add({FindingKind::USAGE, {"zelmat config", 0}, code, std::move(text), {}});
@@ -71,11 +72,16 @@ private:
             refuse("usage", QuotedText(change) + " is no setting with a value, as in units=us");
             return;
         }
+        if (!names_.insert(change.substr(0, equals)).second) {
+            refuse("given-twice", QuotedText(change.substr(0, equals)) + " is given twice");
+            return;
+        }
         const auto set = Set(settings, change.substr(0, equals), change.substr(equals + 1));
         if (!set) refuse("wrong-setting", set.Error().text);
     }
 
     std::vector<std::string> changes_;
+    std::set<std::string> names_;  // of those that were made
     ConfigurationFile file_;
     std::optional<Settings> settings_;
 };

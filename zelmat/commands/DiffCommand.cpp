@@ -74,6 +74,14 @@ public:
     }
 
     void Work(CommandContext& context) override {
+        if (before_ == "-" && after_ == "-") {
+            context.findings.Add({FindingKind::USAGE,
+                                  {"zelmat diff", 0},
+                                  "usage",
+                                  "standard input is read once, and can be one of the two alone",
+                                  {}});
+            return;
+        }
         a_ = DiffSide(before_).Read(context);
         b_ = DiffSide(after_).Read(context);
         if (context.findings.HasErrors()) return;

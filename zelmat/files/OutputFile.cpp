@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
@@ -75,6 +76,20 @@ bool ModeForbidsWriting(const std::string& path, const struct stat& state) {
     return forAll || ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0;
 }
 
+/// Every document in a file begins so, and a file of another form in its place would take all of its history.
+bool IsDatabase(const std::string& path) {
+    constexpr std::string_view kBegin("SQLite format 3\0", 16);
+    std::array<char, kBegin.size()> begin{};
+    const OpenFile file(path, O_RDONLY);
+    return file && ::read(file.Number(), begin.data(), begin.size()) == kBegin.size() &&
+           std::string_view(begin.data(), begin.size()) == kBegin;
+}
+
+bool IsThere(const std::string& path) {
+    struct stat state {};
+    return ::lstat(path.c_str(), &state) == 0;
+}
+
 bool IsOneOf(const std::vector<std::string>& inputs, const struct stat& state) {
     return std::any_of(inputs.begin(), inputs.end(), [&](const std::string& input) {
         const auto other = StateOf(input);
@@ -99,6 +114,7 @@ public:
         const auto own = StateOf(target_);
         if (!own || own->st_ino != state->st_ino || own->st_dev != state->st_dev) return WriteThrough();
         if (ModeForbidsWriting(target_, *state)) return "its mode does not allow writing";
+        if (IsDatabase(target_)) return "is a document, which a file of another form does not replace";
         const SignalHold hold;
         if (IsOneOf(inputs, *state)) {
             std::string problem = KeepInput(*state);
@@ -134,7 +150,7 @@ private:
     /// What was read stays beside the result: a copy of its own, whatever names the file has.
     std::string KeepInput(const struct stat& state) {
         std::string name = target_ + ".bak";
-        for (int i = 2; fs::symlink_status(name).type() != fs::file_type::not_found; ++i) {
+        for (int i = 2; IsThere(name); ++i) {
             name = target_ + ".bak." + std::to_string(i);
         }
         std::string problem = Copy(target_, name, state.st_mode);
@@ -163,7 +179,7 @@ private:
     /// succeeded.
     std::string WriteInPlace(const struct stat& state) {
         const std::string copy = target_ + ".zelmat-backup";
-        if (fs::symlink_status(copy).type() == fs::file_type::not_found) {
+        if (!IsThere(copy)) {
             const std::string problem = Copy(target_, copy, state.st_mode);
             if (!problem.empty()) return problem + ", when its backup " + copy + " was made";
         }

@@ -129,6 +129,14 @@ TEST_F(ConfigCommand, LetsChangesSayThatTheyCannotBeTakenBackWhereNoHistoryIsKep
     EXPECT_EQ(Run({"set", document, "Two", "description=a"}).out, "nothing has changed\n");
 }
 
+TEST_F(ConfigCommand, RefusesASettingThatIsGivenTwice) {
+    const ProgramRun run = Run({"config", "units=us", "units=si"});
+
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_THAT(run.err, HasSubstr("error[given-twice]: 'units' is given twice"));
+    EXPECT_FALSE(std::filesystem::exists(file_));
+}
+
 TEST_F(ConfigCommand, RefusesAWrongAmountOfHistoryByItsName) {
     const ProgramRun run = Run({"config", "history-steps=many", "history-bytes=big"});
 

@@ -30,6 +30,11 @@ protected:
     }
 };
 
+TEST_F(DiffCommand, ReadsStandardInputOnce) {
+    EXPECT_EQ(RunZelmat({"diff", "-", "-"}).err,
+              "zelmat diff: error[usage]: standard input is read once, and can be one of the two alone\n");
+}
+
 TEST_F(DiffCommand, SaysNothingOfTheSameMaterial) {
     EXPECT_EQ(Diff(0, Steel("a.json", "7.85 g/cm^3"), Steel("b.json", "7850 kg/m3")), "");
     const std::string document = DocumentOf({"natural_rubber_treloar.json"});

@@ -227,6 +227,35 @@ TEST_F(OutputFile, RefusesAPathThatGoesOnBehindANul) {
     EXPECT_THAT(Names(), IsEmpty());
 }
 
+TEST_F(OutputFile, DoesNotReplaceADocument) {
+    const std::string document("SQLite format 3\0 and a history", 31);
+    Make("lab.zeldoc", document);
+    fs::create_symlink("lab.zeldoc", Path("link"));
+
+    for (const char* name : {"lab.zeldoc", "link"}) {
+        findings_ = {};
+        EXPECT_FALSE(Write(Path(name), "text", {Path("lab.zeldoc")}));
+        EXPECT_EQ(Finding(),
+                  "1not-written: cannot be written: is a document, which a file of another form "
+                  "does not replace");
+    }
+    EXPECT_EQ(Contents(Path("lab.zeldoc")), document);
+    EXPECT_THAT(Names(), ElementsAre("lab.zeldoc", "link"));
+    findings_ = {};
+    Make("short", "SQLite format 3");
+    EXPECT_TRUE(Write(Path("short"), "text"));
+}
+
+TEST_F(OutputFile, IsRefusedWhereTheNameOfTheBackupWouldBeTooLong) {
+    const std::string name(252, 'x');
+    Make(name, "old");
+
+    EXPECT_FALSE(Write(Path(name), "new", {Path(name)}));
+    EXPECT_EQ(Finding(), "1not-written: cannot be written: File name too long");
+    EXPECT_EQ(Contents(Path(name)), "old");
+    EXPECT_THAT(Names(), ElementsAre(name));
+}
+
 TEST_F(OutputFile, LeavesTheOldFileWholeWhenTheDiskIsFull) {
     Make("old", "old");
     const std::string large(1 << 16, 'x');

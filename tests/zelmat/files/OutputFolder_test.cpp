@@ -130,6 +130,19 @@ TEST_F(OutputFolder, IsNotThereWhenAFileDoesNotFit) {
     EXPECT_THAT(FindingLine(findings_.All()[0]), HasSubstr("/a/b/y: error[not-written]: cannot be written"));
 }
 
+TEST_F(OutputFolder, DoesNotReplaceAFileThatNobodyMayWrite) {
+    std::ofstream(root_ + "/x") << "mine";
+    ::chmod((root_ + "/x").c_str(), 0444);
+
+    EXPECT_FALSE(WriteOutputFolder(root_, {{"w", "1"}, {"x", "2"}}, findings_));
+
+    EXPECT_EQ(Text(root_ + "/x"), "mine");
+    EXPECT_THAT(In(root_), ElementsAre("x"));
+    ASSERT_EQ(findings_.All().size(), 1U);
+    EXPECT_EQ(FindingLine(findings_.All()[0]),
+              root_ + "/x: error[not-written]: cannot be replaced (Permission denied)");
+}
+
 TEST_F(OutputFolder, TellsAFileInThePlaceOfTheFolder) {
     std::ofstream(root_ + "/file") << "old";
     EXPECT_FALSE(WriteOutputFolder(root_ + "/file", {{"x", "1"}}, findings_));
