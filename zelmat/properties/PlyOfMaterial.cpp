@@ -47,7 +47,7 @@ private:
         if (!table.Ok()) return table.Refused();
         const auto range = table->Range();
         if (!range) return table->Rows().front().values;
-        const auto row =
+        auto row =
             block.kind->name == "thermal_expansion" && at_.temperature ? Expansion(block) : Row(*table);
         if (row.Ok()) return row;
         return Refusal{row.Why() + " (it goes from " + WithUnit(range->lowest, "K") + " to " +
