@@ -31,7 +31,7 @@ std::string CardKey(std::string_view key) {
     const std::string member(key.substr(dot + 1));
     const auto last = member.rfind('.');
     const std::string table = last == std::string::npos ? "" : member.substr(0, last);
-    const std::string property = PropertyName(last == std::string::npos ? member : member.substr(last + 1));
+    std::string property = PropertyName(last == std::string::npos ? member : member.substr(last + 1));
     if (table.empty() && property == block->name && HasColumn(*block, property)) return property;
     const bool known = HasColumn(*block, property, table) || (table.empty() && HasSetting(*block, property));
     if (!known) return block->name + "." + member;

@@ -228,7 +228,7 @@ TEST_F(OutputFile, RefusesAPathThatGoesOnBehindANul) {
 }
 
 TEST_F(OutputFile, DoesNotReplaceADocument) {
-    const std::string document("SQLite format 3\0 and a history", 31);
+    const std::string document("SQLite format 3\0 and a history", 30);
     Make("lab.zeldoc", document);
     fs::create_symlink("lab.zeldoc", Path("link"));
 
