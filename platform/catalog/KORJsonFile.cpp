@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <sstream>
 #include <utility>
@@ -50,34 +51,6 @@ private:
     Place* place_;
 };
 
-/// True when the whole text was read.
-bool ReadValues(const std::string& text, Place& place, json::json_sax_t& reader) {
-    const PlacedIterator begin(text.data(), &place);
-    const PlacedIterator end(text.data() + text.size(), &place);
-    return json::sax_parse(begin, end, &reader);
-}
-
-/// One call for each value of a text, whichever its kind: Value for what holds no others, Open and Close
-/// around what does.
-template <class Reader>
-class ValueReader : public json::json_sax_t {
-public:
-    bool null() final { return Self().Value(nullptr); }
-    bool boolean(bool value) final { return Self().Value(value); }
-    bool number_integer(number_integer_t value) final { return Self().Value(value); }
-    bool number_unsigned(number_unsigned_t value) final { return Self().Value(value); }
-    bool number_float(number_float_t value, const string_t& text) final { return Self().Real(value, text); }
-    bool string(string_t& value) final { return Self().Value(std::move(value)); }
-    bool binary(binary_t&) final { return false; }
-    bool start_object(std::size_t) final { return Self().Open(json::value_t::object); }
-    bool end_object() final { return Self().Close(); }
-    bool start_array(std::size_t) final { return Self().Open(json::value_t::array); }
-    bool end_array() final { return Self().Close(); }
-
-private:
-    Reader& Self() { return static_cast<Reader&>(*this); }
-};
-
 /// A number that is not 0 but was read as 0, because no double is that small: "1e-400".
 bool IsLost(double value, std::string_view text) {
     const std::string_view digits = text.substr(0, text.find_first_of("eE"));
@@ -85,10 +58,25 @@ bool IsLost(double value, std::string_view text) {
 }
 
 /// Builds the values while they are read.
-class Builder final : public ValueReader<Builder> {
+class Builder final : public json::json_sax_t {
 public:
     Builder(json& root, const Place& place, KORFileError& error)
         : next_(&root), place_(place), error_(error) {}
+
+    bool null() override { return Value(nullptr); }
+    bool boolean(bool value) override { return Value(value); }
+    bool number_integer(number_integer_t value) override { return Value(value); }
+    bool number_unsigned(number_unsigned_t value) override { return Value(value); }
+    bool number_float(number_float_t value, const string_t& text) override {
+        if (!IsLost(value, text)) return Value(value);
+        return Refuse("the number " + KORShownText(text) + " is too small for a double");
+    }
+    bool string(string_t& value) override { return Value(std::move(value)); }
+    bool binary(binary_t&) override { return false; }
+    bool start_object(std::size_t) override { return Open(json::value_t::object); }
+    bool end_object() override { return Close(); }
+    bool start_array(std::size_t) override { return Open(json::value_t::array); }
+    bool end_array() override { return Close(); }
 
     bool key(string_t& name) override {
         const auto [member, fresh] = open_.back()->emplace(std::move(name), nullptr);
@@ -107,30 +95,6 @@ public:
         return Refuse(said.substr(0, std::min(said.find("; last read: "), std::size_t{200})));
     }
 
-    template <class Any>
-    bool Value(Any&& value) {
-        Next() = std::forward<Any>(value);
-        return true;
-    }
-    bool Real(double value, const std::string& text) {
-        if (IsLost(value, text))
-            return Refuse("the number " + KORShownText(text) + " is too small for a double");
-        return Value(value);
-    }
-    bool Open(json::value_t kind) {
-        if (open_.size() == KORJsonFile::kDeepest) {
-            return Refuse("nested deeper than " + std::to_string(KORJsonFile::kDeepest));
-        }
-        json& value = Next();
-        value = json(kind);
-        open_.push_back(&value);
-        return true;
-    }
-    bool Close() {
-        open_.pop_back();
-        return true;
-    }
-
     bool Refuse(std::string message) {
         const std::string_view read(place_.begin, place_.Last());
         error_.line = 1 + static_cast<int>(std::count(read.begin(), read.end(), '\n'));
@@ -142,6 +106,27 @@ public:
     }
 
 private:
+    template <class Any>
+    bool Value(Any&& value) {
+        Next() = std::forward<Any>(value);
+        return true;
+    }
+
+    bool Open(json::value_t kind) {
+        if (open_.size() == KORJsonFile::kDeepest) {
+            return Refuse("nested deeper than " + std::to_string(KORJsonFile::kDeepest));
+        }
+        json& value = Next();
+        value = json(kind);
+        open_.push_back(&value);
+        return true;
+    }
+
+    bool Close() {
+        open_.pop_back();
+        return true;
+    }
+
     /// Where the next value goes.
     json& Next() {
         if (open_.empty() || !open_.back()->is_array()) return *next_;
@@ -155,55 +140,62 @@ private:
     std::vector<json*> open_;  ///< an array does not grow while one of its elements is open
 };
 
-/// Goes through a text that was read before and notes on which line each of its values stands.
-class LineReader final : public ValueReader<LineReader> {
+/// Goes through a text that was read before, along the tree that was made of it, and notes on which line each
+/// of its values stands.
+class LineWalk {
 public:
-    LineReader(const json& root, const Place& place, std::unordered_map<const json*, int>& lines)
-        : next_(&root), place_(place), counted_(place.begin), lines_(lines) {}
+    LineWalk(const std::string& text, std::vector<KORJsonFile::PlacedValue>& lines)
+        : at_(text.data()), end_(at_ + text.size()), lines_(lines) {
+        constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+        if (text.starts_with(kByteOrderMark)) at_ += kByteOrderMark.size();
+    }
 
-    bool key(string_t& name) override {
-        next_ = &*open_.back().value->find(name);
-        return true;
-    }
-    bool parse_error(std::size_t, const std::string&, const json::exception&) override { return false; }
-
-    template <class Any>
-    bool Value(Any&&) {
-        Note();
-        return true;
-    }
-    bool Real(double, const std::string&) { return Value(0.0); }
-    bool Open(json::value_t) {
-        open_.push_back({&Note(), 0});
-        return true;
-    }
-    bool Close() {
-        open_.pop_back();
-        return true;
+    void Note(const json& value) {
+        SkipSeparators();
+        lines_.push_back({&value, line_});
+        if (value.is_string()) {
+            Text();
+        } else if (value.is_structured()) {
+            ++at_;
+            if (value.is_array()) {
+                for (const json& element : value) Note(element);
+            } else {
+                for (std::size_t i = 0; i < value.size(); ++i) Note(*value.find(Key()));
+            }
+            SkipSeparators();
+            ++at_;
+        } else {
+            at_ = std::find_if(at_, end_, [](char c) { return IsSeparator(c) || c == ']' || c == '}'; });
+        }
     }
 
 private:
-    const json& Note() {
-        if (!open_.empty() && open_.back().value->is_array()) {
-            next_ = &(*open_.back().value)[open_.back().index++];
-        }
-        line_ += static_cast<int>(std::count(counted_, place_.Last(), '\n'));
-        counted_ = place_.Last();
-        lines_.emplace(next_, line_);
-        return *next_;
+    static bool IsSeparator(char c) {
+        return c == ' ' || c == '\n' || c == '\t' || c == '\r' || c == ',' || c == ':';
     }
 
-    struct OpenValue {
-        const json* value;
-        std::size_t index;  ///< of an array's next element
-    };
+    void SkipSeparators() {
+        for (; at_ != end_ && IsSeparator(*at_); ++at_) line_ += *at_ == '\n' ? 1 : 0;
+    }
 
-    const json* next_;
-    const Place& place_;
-    const char* counted_;  ///< up to here
+    /// What stands between two quotes; no line ends there.
+    std::string_view Text() {
+        const char* const begin = ++at_;
+        for (; *at_ != '"'; ++at_) at_ += *at_ == '\\' ? 1 : 0;
+        return {begin, at_++};
+    }
+
+    std::string Key() {
+        SkipSeparators();
+        const std::string_view text = Text();
+        if (text.find('\\') == std::string_view::npos) return std::string(text);
+        return json::parse(text.data() - 1, text.data() + text.size() + 1).get<std::string>();
+    }
+
+    const char* at_;
+    const char* end_;
     int line_ = 1;
-    std::unordered_map<const json*, int>& lines_;
-    std::vector<OpenValue> open_;
+    std::vector<KORJsonFile::PlacedValue>& lines_;
 };
 
 }  // namespace
@@ -244,18 +236,19 @@ std::optional<KORJsonFile> KORJsonFile::Parse(std::string text, const std::strin
         builder.Refuse("a NUL byte is no JSON");
         return std::nullopt;
     }
-    if (!ReadValues(file.text_, place, builder)) return std::nullopt;
+    const PlacedIterator begin(file.text_.data(), &place);
+    const PlacedIterator end(file.text_.data() + file.text_.size(), &place);
+    if (!json::sax_parse(begin, end, &builder)) return std::nullopt;
     return file;
 }
 
 int KORJsonFile::Line(const json& value) const {
     if (lines_.empty()) {
-        Place place{text_.data(), text_.data()};
-        LineReader reader(*root_, place, lines_);
-        ReadValues(text_, place, reader);
+        LineWalk(text_, lines_).Note(*root_);
+        std::ranges::sort(lines_, std::less(), &PlacedValue::value);
     }
-    const auto found = lines_.find(&value);
-    return found != lines_.end() ? found->second : 0;
+    const auto found = std::ranges::lower_bound(lines_, &value, std::less(), &PlacedValue::value);
+    return found != lines_.end() && found->value == &value ? found->line : 0;
 }
 
 KORFileError KORJsonFile::ErrorAt(const json& value, const std::string& message) const {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
+#include <vector>
 
 #include "platform/catalog/KORFileError.h"
 
@@ -15,7 +15,8 @@ std::string KORShownText(std::string_view text);
 /// A JSON text that can say on which line every one of its values stands, so that whoever reads it can say
 /// where a value makes no sense. UTF-8; a key given twice in one object is an error, and so are values nested
 /// deeper than kDeepest, NUL bytes, comments, and numbers that are none (NaN, Infinity), too large
-/// for a double, or so small that they would become 0. It knows nothing of what the text means. Reading takes time and memory in proportion to the text.
+/// for a double, or so small that they would become 0. It knows nothing of what the text means. Reading takes
+/// time and memory in proportion to the text.
 class KORJsonFile {
 public:
     static constexpr std::size_t kDeepest = 200;  ///< no reader here needs more than 10
@@ -37,11 +38,16 @@ public:
     /// An error about a value of this text.
     KORFileError ErrorAt(const nlohmann::json& value, const std::string& message) const;
 
+    struct PlacedValue {
+        const nlohmann::json* value;
+        int line;
+    };
+
 private:
     KORJsonFile() = default;
 
     std::string name_;
     std::string text_;
-    std::unique_ptr<nlohmann::json> root_;  ///< stays where it is when the file is moved
-    mutable std::unordered_map<const nlohmann::json*, int> lines_;  ///< empty until somebody asks
+    std::unique_ptr<nlohmann::json> root_;    ///< stays where it is when the file is moved
+    mutable std::vector<PlacedValue> lines_;  ///< by address; empty until somebody asks
 };

@@ -32,6 +32,31 @@ TEST(KORJsonFile, KnowsTheLineOfEveryValue) {
     EXPECT_EQ("card.json:4: expected a text", file->ErrorAt(root["b"][1], "expected a text").Text());
 }
 
+TEST(KORJsonFile, KnowsLinesBehindWhateverStandsInTextsAndKeys) {
+    KORFileError error;
+    const auto file = KORJsonFile::Parse(
+        "\xEF\xBB\xBF{\"z\": [\"]}\\\"\\n\\\\\",\r\n-1.5e3,\r\n[],\r\n{}\r\n],\r\n"
+        "\"a\\u00e4\\\"\": null, \"\":\r\n true }\r\n",
+        "card.json", error);
+
+    ASSERT_TRUE(file) << error.Text();
+    const auto& root = file->Root();
+    EXPECT_EQ(1, file->Line(root["z"][0]));
+    EXPECT_EQ(2, file->Line(root["z"][1]));
+    EXPECT_EQ(3, file->Line(root["z"][2]));
+    EXPECT_EQ(4, file->Line(root["z"][3]));
+    EXPECT_EQ(6, file->Line(root["a\u00e4\""]));
+    EXPECT_EQ(7, file->Line(root[""]));
+}
+
+TEST(KORJsonFile, KnowsTheLineOfATextThatIsOneValue) {
+    KORFileError error;
+    const auto file = KORJsonFile::Parse("\n 12", "card.json", error);
+
+    ASSERT_TRUE(file);
+    EXPECT_EQ(2, file->Line(file->Root()));
+}
+
 TEST(KORJsonFile, KnowsNoLineOfAValueFromElsewhere) {
     KORFileError error;
     const auto file = KORJsonFile::Parse("[1]", "card.json", error);
