@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 namespace zelmat {
@@ -14,13 +15,14 @@ public:
     Origin() = default;  ///< from no file
 
     /// `line` answers the line, from 1, of the row that it is given, or of the data as a whole for kWhole.
-    explicit Origin(std::function<int(std::size_t row)> line) : line_(std::move(line)) {}
+    explicit Origin(std::function<int(std::size_t row)> line)
+        : line_(std::make_shared<const std::function<int(std::size_t)>>(std::move(line))) {}
 
     int Line() const { return Line(kWhole); }  ///< 0 when there is none
-    int Line(std::size_t row) const { return line_ ? line_(row) : 0; }
+    int Line(std::size_t row) const { return line_ ? (*line_)(row) : 0; }
 
 private:
-    std::function<int(std::size_t)> line_;
+    std::shared_ptr<const std::function<int(std::size_t)>> line_;  ///< of all copies of a table
 };
 
 }  // namespace zelmat
