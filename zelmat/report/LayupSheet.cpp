@@ -1,5 +1,7 @@
 #include "zelmat/report/LayupSheet.h"
 
+#include <array>
+
 #include "zelmat/layups/Millimetres.h"
 #include "zelmat/mechanics/laminate/LaminateStiffness.h"
 #include "zelmat/pictures/GnuplotText.h"
@@ -21,23 +23,25 @@ void WriteLayers(HtmlWriter& html, const StoredLayup& layup, const UnitChoice& u
     std::vector<double> z, thicknesses, angles;
     for (const double at : layup.Interfaces())
         z.push_back(RoundedTo(length(WithoutNoiseOfSums(at)), kDerivedDigits));
+    std::vector<std::string> numbers, materials;
     for (const StoredLayer& layer : layup.layers) {
         thicknesses.push_back(length(WithoutNoiseOfSums(layer.thickness)));
         angles.push_back(angle(layer.angle));
+        numbers.push_back(std::to_string(numbers.size() + 1));
+        materials.push_back(layer.material.value_or("–"));
     }
-    const auto heights = NumberColumn(z), thick = NumberColumn(thicknesses), turned = NumberColumn(angles);
-    std::vector<std::vector<std::string>> rows;
-    for (std::size_t i = 0; i < layup.layers.size(); ++i) {
-        rows.push_back({std::to_string(i + 1), layup.layers[i].material.value_or("–"), thick[i], turned[i],
-                        heights[i], heights[i + 1]});
-    }
-    WriteRows(
+    const auto heights = NumberColumn(z);
+    WriteColumns(
         html,
         "Layers from the bottom up; z from the middle plane, upwards; angles from the x axis to the fibre, "
         "counter-clockwise",
-        {"layer", "material", TitleWithUnit("thickness", length.Unit()), TitleWithUnit("angle", angle.Unit()),
-         TitleWithUnit("z bottom", length.Unit()), TitleWithUnit("z top", length.Unit())},
-        rows, "numbers layers");
+        {{"layer", numbers},
+         {"material", materials},
+         {TitleWithUnit("thickness", length.Unit()), NumberColumn(thicknesses)},
+         {TitleWithUnit("angle", angle.Unit()), NumberColumn(angles)},
+         {TitleWithUnit("z bottom", length.Unit()), {heights.begin(), heights.end() - 1}},
+         {TitleWithUnit("z top", length.Unit()), {heights.begin() + 1, heights.end()}}},
+        "numbers layers");
 }
 
 /// Moduli in the unit of moduli, densities in theirs, ratios as they are.
@@ -73,16 +77,19 @@ void WriteStiffness(HtmlWriter& html, const LayupCard& card, const UnitChoice& u
     }
     const auto moduli = mechanics::ModuliOf(*stiffness);
     const ShownQuantity modulus("modulus", units);
-    const auto row = [&](const char* name, const mechanics::PlateModuli& of) {
-        return std::vector<std::string>{
-            name, RoundedText(modulus(of.ex), kDerivedDigits), RoundedText(modulus(of.ey), kDerivedDigits),
-            RoundedText(modulus(of.gxy), kDerivedDigits), RoundedText(of.nuxy, kDerivedDigits)};
+    const mechanics::PlateModuli &membrane = moduli.membrane, &bending = moduli.bending;
+    const auto column = [](const std::string& heading, double inPlane, double inBending) {
+        const std::array values = {RoundedTo(inPlane, kDerivedDigits), RoundedTo(inBending, kDerivedDigits)};
+        return SheetColumn{heading, NumberColumn(values)};
     };
     html.Text("h3", "Stiffness of the laminate");
-    WriteRows(html, "Derived by classical lamination theory, six digits",
-              {"as a homogeneous plate", TitleWithUnit("Ex", modulus.Unit()),
-               TitleWithUnit("Ey", modulus.Unit()), TitleWithUnit("Gxy", modulus.Unit()), "νxy"},
-              {row("in its plane", moduli.membrane), row("in bending", moduli.bending)}, "numbers named");
+    WriteColumns(html, "Derived by classical lamination theory, six digits",
+                 {{"as a homogeneous plate", {"in its plane", "in bending"}},
+                  column(TitleWithUnit("Ex", modulus.Unit()), modulus(membrane.ex), modulus(bending.ex)),
+                  column(TitleWithUnit("Ey", modulus.Unit()), modulus(membrane.ey), modulus(bending.ey)),
+                  column(TitleWithUnit("Gxy", modulus.Unit()), modulus(membrane.gxy), modulus(bending.gxy)),
+                  column("νxy", membrane.nuxy, bending.nuxy)},
+                 "numbers named");
     html.Text("p", moduli.coupled ? "B is not 0: stretching curves the laminate."
                                   : "B is 0: stretching does not curve the laminate.");
 }

@@ -7,6 +7,7 @@
 #include "zelmat/materials/InUnits.h"
 #include "zelmat/mechanics/elastic/IsotropicElasticity.h"
 #include "zelmat/pictures/GnuplotText.h"
+#include "zelmat/quantities/NumberColumn.h"
 #include "zelmat/quantities/NumberText.h"
 #include "zelmat/quantities/ShownQuantity.h"
 #include "zelmat/report/SheetParts.h"
@@ -126,21 +127,22 @@ private:
         const Column* temperature = table.Find(TemperatureColumn().name);
         if (!young || !poisson) return;
         const ShownQuantity modulus("modulus", units_), degrees("temperature", units_);
-        std::vector<std::vector<std::string>> rows;
+        std::vector<double> shear, bulk, at;
         for (std::size_t row = 0; row < table.Rows(); ++row) {
             const auto constants =
                 mechanics::IsotropicFrom({ElasticConstant::YOUNGS_MODULUS, young->values[row]},
                                          {ElasticConstant::POISSONS_RATIO, poisson->values[row]});
             if (!constants.Ok()) continue;
-            rows.push_back({RoundedText(modulus(constants->shearModulus), kDerivedDigits),
-                            RoundedText(modulus(constants->bulkModulus), kDerivedDigits)});
-            if (temperature) rows.back().push_back(NumberText(degrees(temperature->values[row])));
+            shear.push_back(RoundedTo(modulus(constants->shearModulus), kDerivedDigits));
+            bulk.push_back(RoundedTo(modulus(constants->bulkModulus), kDerivedDigits));
+            if (temperature) at.push_back(degrees(temperature->values[row]));
         }
-        if (rows.empty()) return;
-        std::vector<std::string> headings = {TitleWithUnit("shear modulus", modulus.Unit()),
-                                             TitleWithUnit("bulk modulus", modulus.Unit())};
-        if (temperature) headings.push_back(TitleWithUnit("temperature", degrees.Unit()));
-        WriteRows(html_, "Derived: G = E/(2(1+ν)), K = E/(3(1−2ν)), six digits", headings, rows, "numbers");
+        if (shear.empty()) return;
+        std::vector<SheetColumn> columns = {
+            {TitleWithUnit("shear modulus", modulus.Unit()), NumberColumn(shear)},
+            {TitleWithUnit("bulk modulus", modulus.Unit()), NumberColumn(bulk)}};
+        if (temperature) columns.push_back({TitleWithUnit("temperature", degrees.Unit()), NumberColumn(at)});
+        WriteColumns(html_, "Derived: G = E/(2(1+ν)), K = E/(3(1−2ν)), six digits", columns, "numbers");
     }
 
     void Pictures(const std::string& block) {

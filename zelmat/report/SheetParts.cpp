@@ -88,13 +88,17 @@ void WriteTable(HtmlWriter& html, const Table& stored, const std::string& block,
     CloseTable(html);
 }
 
-void WriteRows(HtmlWriter& html, const std::string& caption, const std::vector<std::string>& headings,
-               const std::vector<std::vector<std::string>>& rows, const std::string& style) {
+void WriteColumns(HtmlWriter& html, const std::string& caption, const std::vector<SheetColumn>& columns,
+                  const std::string& style) {
     OpenTable(html, {{"class", style}}, caption);
     html.Raw("<thead>\n<tr>\n");
-    for (const std::string& heading : headings) html.Text("th", heading, {{"scope", "col"}});
+    for (const SheetColumn& column : columns) html.Text("th", column.heading, {{"scope", "col"}});
     html.Raw("</tr>\n</thead>\n<tbody>\n");
-    for (const auto& row : rows) WriteRow(html, row);
+    for (std::size_t row = 0; row < columns.front().cells.size(); ++row) {
+        std::vector<std::string> cells;
+        for (const SheetColumn& column : columns) cells.push_back(column.cells[row]);
+        WriteRow(html, cells);
+    }
     CloseTable(html);
 }
 

@@ -19,10 +19,16 @@ void WriteFacts(HtmlWriter& html, const std::vector<ReportFact>& facts);
 void WriteTable(HtmlWriter& html, const Table& table, const std::string& block, const std::string& caption,
                 const UnitChoice& units);
 
-/// Texts in rows, each as long as the headings. `style`: its class in the style sheet: "numbers" are flush
-/// right, but for the first column of "numbers named" and the second one of "numbers layers".
-void WriteRows(HtmlWriter& html, const std::string& caption, const std::vector<std::string>& headings,
-               const std::vector<std::vector<std::string>>& rows, const std::string& style);
+/// A column of a table that is no table of a material; all columns of one are of the same length.
+struct SheetColumn {
+    std::string heading;
+    std::vector<std::string> cells;
+};
+
+/// `style`: its class in the style sheet: "numbers" are flush right, but for the first column of
+/// "numbers named" and the second one of "numbers layers".
+void WriteColumns(HtmlWriter& html, const std::string& caption, const std::vector<SheetColumn>& columns,
+                  const std::string& style);
 
 /// A picture within the page, with its size and its description.
 void WritePicture(HtmlWriter& html, const std::string& svg, const std::string& description,

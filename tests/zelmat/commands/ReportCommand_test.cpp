@@ -27,7 +27,7 @@ TEST_F(ReportCommand, PutsMaterialsAndLayupsOnOnePageAndTellsItsSize) {
     const std::string page = Contents(In("r.html"));
     EXPECT_THAT(page, HasSubstr("<title>Material data sheets</title>"));
     EXPECT_THAT(page, HasSubstr("<td>210000</td>\n<td>0.3</td>\n<td>20</td>"));
-    EXPECT_THAT(page, HasSubstr("<td>80769.2</td>\n<td>175000</td>\n<td>20</td>")) << "G and K";
+    EXPECT_THAT(page, HasSubstr("<td>80769.20</td>\n<td>175000.0</td>\n<td>20</td>")) << "G and K";
     EXPECT_THAT(page, HasSubstr("Sandwich: [0/90] faces of T300/5208, 10 mm Rohacell 71 core"));
     EXPECT_THAT(page,
                 HasSubstr("<td>in its plane</td>\n<td>4686.89</td>\n<td>4686.89</td>\n<td>377.143</td>"))

@@ -1,13 +1,12 @@
 #include "zelmat/commands/frame/ResultTable.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <utility>
 
 #include "zelmat/cards/CsvLine.h"
 #include "zelmat/quantities/NumberColumn.h"
+#include "zelmat/quantities/NumberText.h"
 #include "zelmat/text/Printable.h"
 #include "zelmat/text/TablePrinter.h"
 
@@ -31,13 +30,7 @@ std::string Header(const std::string& title, const std::string& unit) {
 }  // namespace
 
 double Rounded(double number) {
-    constexpr int kDigits = 7;
-    std::array<char, 32> text{};
-    const auto written =
-        std::to_chars(text.data(), text.data() + text.size(), number, std::chars_format::general, kDigits);
-    double rounded = number;
-    std::from_chars(text.data(), written.ptr, rounded);
-    return rounded;
+    return RoundedTo(number, 7);
 }
 
 void ResultTable::AddNumbers(std::string name, std::string title, const Shown& shown,
