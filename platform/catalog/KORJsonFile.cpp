@@ -140,33 +140,38 @@ private:
     std::vector<json*> open_;  ///< an array does not grow while one of its elements is open
 };
 
-/// Goes through a text that was read before, along the tree that was made of it, and notes on which line each
-/// of its values stands.
+/// Goes through a text that was read before, along the tree that was made of it.
 class LineWalk {
 public:
-    LineWalk(const std::string& text, std::vector<KORJsonFile::PlacedValue>& lines)
-        : at_(text.data()), end_(at_ + text.size()), lines_(lines) {
+    explicit LineWalk(const std::string& text) : at_(text.data()), end_(at_ + text.size()) {
         constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
         if (text.starts_with(kByteOrderMark)) at_ += kByteOrderMark.size();
     }
 
-    void Note(const json& value) {
+    /// Tells `visit` on which line each value stands, until that answers false. False when it did.
+    template <class Visit>
+    bool Walk(const json& value, Visit& visit) {
         SkipSeparators();
-        lines_.push_back({&value, line_});
+        if (!visit(value, line_)) return false;
         if (value.is_string()) {
             Text();
         } else if (value.is_structured()) {
             ++at_;
             if (value.is_array()) {
-                for (const json& element : value) Note(element);
+                for (const json& element : value) {
+                    if (!Walk(element, visit)) return false;
+                }
             } else {
-                for (std::size_t i = 0; i < value.size(); ++i) Note(*value.find(Key()));
+                for (std::size_t i = 0; i < value.size(); ++i) {
+                    if (!Walk(*value.find(Key()), visit)) return false;
+                }
             }
             SkipSeparators();
             ++at_;
         } else {
             at_ = std::find_if(at_, end_, [](char c) { return IsSeparator(c) || c == ']' || c == '}'; });
         }
+        return true;
     }
 
 private:
@@ -195,7 +200,6 @@ private:
     const char* at_;
     const char* end_;
     int line_ = 1;
-    std::vector<KORJsonFile::PlacedValue>& lines_;
 };
 
 }  // namespace
@@ -243,8 +247,22 @@ std::optional<KORJsonFile> KORJsonFile::Parse(std::string text, const std::strin
 }
 
 int KORJsonFile::Line(const json& value) const {
+    if (!asked_) {
+        asked_ = true;
+        int line = 0;
+        const auto stop = [&](const json& each, int at) {
+            if (&each == &value) line = at;
+            return line == 0;
+        };
+        LineWalk(text_).Walk(*root_, stop);
+        return line;
+    }
     if (lines_.empty()) {
-        LineWalk(text_, lines_).Note(*root_);
+        const auto note = [this](const json& each, int at) {
+            lines_.push_back({&each, at});
+            return true;
+        };
+        LineWalk(text_).Walk(*root_, note);
         std::ranges::sort(lines_, std::less(), &PlacedValue::value);
     }
     const auto found = std::ranges::lower_bound(lines_, &value, std::less(), &PlacedValue::value);

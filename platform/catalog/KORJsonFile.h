@@ -32,22 +32,24 @@ public:
     const std::string& Name() const { return name_; }
 
     /// The line on which a value begins. The value is Root() or lies in it; for any other, 0. A text in which
-    /// nothing is wrong pays nothing for this: the first question goes through it once more.
+    /// nothing is wrong pays nothing for this: the first question goes through it up to the value, the second
+    /// through all of it, the others through nothing.
     int Line(const nlohmann::json& value) const;
 
     /// An error about a value of this text.
     KORFileError ErrorAt(const nlohmann::json& value, const std::string& message) const;
 
+private:
     struct PlacedValue {
         const nlohmann::json* value;
         int line;
     };
 
-private:
     KORJsonFile() = default;
 
     std::string name_;
     std::string text_;
     std::unique_ptr<nlohmann::json> root_;    ///< stays where it is when the file is moved
-    mutable std::vector<PlacedValue> lines_;  ///< by address; empty until somebody asks
+    mutable bool asked_ = false;              ///< for a line
+    mutable std::vector<PlacedValue> lines_;  ///< by address; empty until somebody asks again
 };

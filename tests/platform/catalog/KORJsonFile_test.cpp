@@ -49,6 +49,18 @@ TEST(KORJsonFile, KnowsLinesBehindWhateverStandsInTextsAndKeys) {
     EXPECT_EQ(7, file->Line(root[""]));
 }
 
+TEST(KORJsonFile, AnswersTheSameLineAtTheFirstQuestionAndAtLaterOnes) {
+    KORFileError error;
+    const auto file = KORJsonFile::Parse("[1,\n[2, {\"a\":\n3}],\n4]", "card.json", error);
+
+    ASSERT_TRUE(file);
+    const auto& three = file->Root()[1][1]["a"];
+    EXPECT_EQ(3, file->Line(three));
+    EXPECT_EQ(3, file->Line(three));
+    EXPECT_EQ(3, file->Line(three));
+    EXPECT_EQ(4, file->Line(file->Root()[2]));
+}
+
 TEST(KORJsonFile, KnowsTheLineOfATextThatIsOneValue) {
     KORFileError error;
     const auto file = KORJsonFile::Parse("\n 12", "card.json", error);
@@ -63,6 +75,7 @@ TEST(KORJsonFile, KnowsNoLineOfAValueFromElsewhere) {
 
     ASSERT_TRUE(file);
     EXPECT_EQ(0, file->Line(nlohmann::json(1)));
+    EXPECT_EQ(0, file->Line(nlohmann::json(1))) << "asked again";
 }
 
 TEST(KORJsonFile, KnowsItsLinesAlsoAfterItWasMoved) {
