@@ -16,8 +16,6 @@ namespace zelmat {
 
 namespace {
 
-constexpr int kDerivedDigits = 6;
-
 void WriteLayers(HtmlWriter& html, const StoredLayup& layup, const UnitChoice& units) {
     const ShownQuantity length("length", units), angle("angle", units);
     std::vector<double> z, thicknesses, angles;

@@ -17,8 +17,6 @@ namespace zelmat {
 
 namespace {
 
-constexpr int kDerivedDigits = 6;  // the last ones of what follows from others mean nothing to a reader
-
 std::string ValueText(const ShownValue& shown) {
     struct ToText {
         const std::string& unit;

@@ -11,6 +11,9 @@
 
 namespace zelmat {
 
+/// Of values that follow from others: further digits mean nothing to a reader.
+inline constexpr int kDerivedDigits = 6;
+
 /// Nothing where there are none.
 void WriteFacts(HtmlWriter& html, const std::vector<ReportFact>& facts);
 
