@@ -116,7 +116,8 @@ std::size_t FindAnd(std::string_view text) {
         const auto letter = static_cast<unsigned char>(one);
         return (std::isspace(letter) != 0 ? ' ' : static_cast<char>(std::tolower(letter))) == other;
     };
-    return static_cast<std::size_t>(std::search(text.begin(), text.end(), kAnd.begin(), kAnd.end(), same) - text.begin());
+    return static_cast<std::size_t>(std::search(text.begin(), text.end(), kAnd.begin(), kAnd.end(), same) -
+                                    text.begin());
 }
 
 }  // namespace

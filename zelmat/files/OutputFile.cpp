@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "zelmat/files/BesideFile.h"
+#include "zelmat/files/ModeForbidsWriting.h"
 #include "zelmat/files/OpenFile.h"
 #include "zelmat/files/SignalHold.h"
 
@@ -69,11 +70,6 @@ bool HasFurtherAttributes(const std::string& path) {
         if (std::strncmp(&names[at], "security.", std::strlen("security.")) != 0) return true;
     }
     return false;
-}
-
-bool ModeForbidsWriting(const std::string& path, const struct stat& state) {
-    const bool forAll = (state.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) == 0;
-    return forAll || ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0;
 }
 
 /// Every document in a file begins so, and a file of another form in its place would take all of its history.

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "zelmat/files/LockedFolder.h"
+#include "zelmat/files/ModeForbidsWriting.h"
 #include "zelmat/files/OpenFile.h"
 #include "zelmat/files/SignalHold.h"
 
@@ -104,11 +105,7 @@ private:
             errno = S_ISDIR(old.st_mode) ? EISDIR : EEXIST;
             return Failed(named, "cannot be replaced");
         }
-        constexpr mode_t kWritable = S_IWUSR | S_IWGRP | S_IWOTH;  // without one of these not for root, too
-        if (replaces && ((old.st_mode & kWritable) == 0 || ::access(target.c_str(), W_OK) != 0)) {
-            errno = EACCES;
-            return Failed(named, "cannot be replaced");
-        }
+        if (replaces && ModeForbidsWriting(target, old)) return Failed(named, "cannot be replaced");
         constexpr mode_t kMode = 0666, kBits = 07777;
         const OpenFile file(stage.New(at).string(), O_WRONLY | O_CREAT | O_EXCL, kMode);
         const bool written = file && file.Write(files_[at].text) && file.Sync() &&
